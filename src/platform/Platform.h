@@ -1,0 +1,75 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <typeindex>
+#include <unordered_map>
+
+namespace platform {
+
+class Bundle;
+class DispatchQueue;
+class NSApplication;
+class NSScreen;
+class NSView;
+class UserDefaults;
+class WKWebView;
+struct WKWebViewConfiguration;
+
+// Everything the application asks of the desktop it runs on. One platform is current at a time: the
+// real one in the program, a fresh simulated one in each test. Services keep their platform names
+// and are reached through them (`UserDefaults::standard()`), rarely through this class.
+//
+// Main thread only. No operation throws.
+class Platform {
+public:
+    // The platform made last and not yet destroyed. There must be one.
+    static Platform& current();
+
+    Platform(const Platform&) = delete;
+    Platform& operator=(const Platform&) = delete;
+    virtual ~Platform();
+
+    virtual DispatchQueue& mainQueue() = 0;
+    virtual UserDefaults& userDefaults() = 0;
+    virtual Bundle& mainBundle() = 0;
+    virtual NSApplication& application() = 0;
+
+    // The screen that holds the key window, else the first one; null on a machine without a screen.
+    virtual NSScreen* mainScreen() = 0;
+
+    // A plain view with nothing in it.
+    virtual std::shared_ptr<NSView> makeView() = 0;
+
+    // A web view that is configured and empty. It must be placed in a window to be seen.
+    virtual std::shared_ptr<WKWebView> makeWebView(const WKWebViewConfiguration&) = 0;
+
+    // Writes one line to the system log.
+    virtual void log(const std::string& line) = 0;
+
+    // The one T of this platform: made on first use, gone with the platform. It replaces static
+    // state, so that every test starts clean.
+    template <class T> T& shared()
+    {
+        auto& entry = shared_[typeid(T)];
+        if (!entry)
+            entry = std::make_shared<T>();
+        return *static_cast<T*>(entry.get());
+    }
+
+protected:
+    Platform();
+
+    // For platforms whose own members are used by shared objects on their way out.
+    void releaseSharedObjects() { shared_.clear(); }
+
+private:
+    Platform* previous_ = nullptr;
+    std::unordered_map<std::type_index, std::shared_ptr<void>> shared_;
+};
+
+// Writes one line to the system log.
+void NSLog(const std::string& line);
+
+} // namespace platform

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory>
+
+namespace platform {
+
+class NSWindow;
+
+// A native view that stands in a tree of declared views. The tree owns it.
+class NSView : public std::enable_shared_from_this<NSView> {
+public:
+    virtual ~NSView() = default;
+
+    // The window that holds the view; null while it is in none.
+    virtual NSWindow* window() const = 0;
+};
+
+} // namespace platform

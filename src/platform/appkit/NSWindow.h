@@ -1,0 +1,69 @@
+#pragma once
+
+#include "platform/appkit/Geometry.h"
+#include "platform/appkit/NSScreen.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace platform {
+
+class NSView;
+
+// A top-level window. The application object owns it; everybody else holds it weakly, since it goes
+// away when it is closed. What a desktop does not let a program decide (on Wayland: the position)
+// is silently left as the desktop has it.
+class NSWindow : public std::enable_shared_from_this<NSWindow> {
+public:
+    // Posted after every change of size, by whomever; the sender is the window.
+    static constexpr auto didResizeNotification = "NSWindowDidResizeNotification";
+
+    enum class TabbingMode { automatic, preferred, disallowed };
+
+    // Bits of `collectionBehavior`.
+    static constexpr std::uint32_t fullScreenNone = 0x200;
+
+    // Whether the platform may merge windows of the application into tabs of its own. Class-wide.
+    static bool allowsAutomaticWindowTabbing();
+    static void setAllowsAutomaticWindowTabbing(bool);
+
+    virtual ~NSWindow() = default;
+
+    // The screen that holds the largest part of the window; null when it is on none.
+    virtual NSScreen* screen() const = 0;
+
+    // Outer rectangle, title bar included, in screen points.
+    virtual NSRect frame() const = 0;
+    virtual void setFrame(const NSRect& frame, bool display, bool animate = false) = 0;
+
+    // The least outer size that the user can give the window.
+    virtual NSSize minSize() const = 0;
+    virtual void setMinSize(NSSize size) = 0;
+
+    virtual bool isFullScreen() const = 0;
+
+    virtual std::uint32_t collectionBehavior() const = 0;
+    virtual void setCollectionBehavior(std::uint32_t behavior) = 0;
+
+    virtual TabbingMode tabbingMode() const = 0;
+    virtual void setTabbingMode(TabbingMode mode) = 0;
+
+    // Whether the platform itself brings the window back at the next launch.
+    virtual bool isRestorable() const = 0;
+    virtual void setRestorable(bool isRestorable) = 0;
+
+    // False for panels and for windows that are going away.
+    virtual bool canBecomeMainWindow() const = 0;
+
+    // The view that fills the window; null before there is one.
+    virtual NSView* contentView() const = 0;
+
+    // Shows the window, also out of a minimised state, in front of all others and gives it the
+    // keyboard.
+    virtual void makeKeyAndOrderFront() = 0;
+
+    // Closes without asking. The last window's closing may end the application.
+    virtual void close() = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace platform {
+
+// What the installed application says of itself.
+class Bundle {
+public:
+    static Bundle& main();
+
+    virtual ~Bundle() = default;
+
+    // A text of the information dictionary, such as "CFBundleShortVersionString"; absent when there
+    // is none or it is not a text.
+    virtual std::optional<std::string> stringForInfoDictionaryKey(const std::string& key) const = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+
+namespace platform {
+
+// A queue of tasks that run one at a time, in the order in which they were queued. The only queue
+// the application uses is the main one, whose tasks run on the main thread between other events.
+class DispatchQueue {
+public:
+    using Task = std::function<void()>;
+
+    static DispatchQueue& main();
+
+    virtual ~DispatchQueue() = default;
+
+    // Runs `task` on the main thread after the current event has been handled. May be called from
+    // any thread. Tasks that are still waiting when the program ends are dropped.
+    virtual void async(Task task) = 0;
+
+    // Runs `task` no earlier than `seconds` from now. Main thread only.
+    virtual void asyncAfter(double seconds, Task task) = 0;
+};
+
+} // namespace platform

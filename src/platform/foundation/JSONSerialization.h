@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/foundation/Value.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// JSON texts to values and back.
+namespace JSONSerialization {
+
+// Absent when `text` is not one whole JSON value in UTF-8.
+std::optional<Value> decode(std::string_view text);
+
+// One line of UTF-8. Absent when a text inside `value` is not UTF-8, or a number is not finite.
+std::optional<std::string> encode(const Value& value);
+
+} // namespace JSONSerialization
+
+} // namespace platform

@@ -1,0 +1,25 @@
+// The services that the current platform keeps one of, under the names they are called by.
+
+#include "platform/foundation/Bundle.h"
+#include "platform/foundation/DispatchQueue.h"
+#include "platform/foundation/UserDefaults.h"
+#include "platform/Platform.h"
+
+namespace platform {
+
+Bundle& Bundle::main()
+{
+    return Platform::current().mainBundle();
+}
+
+DispatchQueue& DispatchQueue::main()
+{
+    return Platform::current().mainQueue();
+}
+
+UserDefaults& UserDefaults::standard()
+{
+    return Platform::current().userDefaults();
+}
+
+} // namespace platform

@@ -1,0 +1,77 @@
+#include "platform/foundation/Unicode.h"
+
+#include <glib.h>
+#include <memory>
+
+namespace platform {
+
+namespace {
+
+struct FreeText {
+    void operator()(gchar* text) const { g_free(text); }
+};
+
+using NormalizedText = std::unique_ptr<gchar, FreeText>;
+
+NormalizedText canonicallyDecomposed(std::string_view text)
+{
+    return NormalizedText(
+        g_utf8_normalize(text.data(), static_cast<gssize>(text.size()), G_NORMALIZE_NFD));
+}
+
+bool isComparable(std::string_view text)
+{
+    return g_utf8_validate_len(text.data(), text.size(), nullptr); // false for a NUL inside as well
+}
+
+// A tab, or a blank of any script: the general category Zs.
+bool isBlank(gunichar character)
+{
+    return character == '\t' || g_unichar_type(character) == G_UNICODE_SPACE_SEPARATOR;
+}
+
+// The length in bytes of the blank at the start of a text that is not empty; 0 when there is none.
+std::size_t blankAtStart(std::string_view text)
+{
+    const auto character = g_utf8_get_char_validated(text.data(), static_cast<gssize>(text.size()));
+    return isBlank(character) ? static_cast<std::size_t>(g_unichar_to_utf8(character, nullptr)) : 0;
+}
+
+std::size_t blankAtEnd(std::string_view text)
+{
+    const auto* last = g_utf8_find_prev_char(text.data(), text.data() + text.size());
+    if (!last)
+        return 0;
+    const auto tail = text.substr(static_cast<std::size_t>(last - text.data()));
+    return blankAtStart(tail) == tail.size() ? tail.size() : 0;
+}
+
+} // namespace
+
+bool isCanonicallyEquivalent(std::string_view left, std::string_view right)
+{
+    if (left == right)
+        return true;
+    if (!isComparable(left) || !isComparable(right))
+        return false;
+    return g_str_equal(canonicallyDecomposed(left).get(), canonicallyDecomposed(right).get());
+}
+
+std::string trimmingWhitespace(std::string_view text)
+{
+    while (!text.empty()) {
+        const auto length = blankAtStart(text);
+        if (!length)
+            break;
+        text.remove_prefix(length);
+    }
+    while (!text.empty()) {
+        const auto length = blankAtEnd(text);
+        if (!length)
+            break;
+        text.remove_suffix(length);
+    }
+    return std::string(text);
+}
+
+} // namespace platform

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// Whether two UTF-8 texts are the same under Unicode canonical equivalence: a precomposed and a
+// decomposed letter are equal, letters of different case are not. Texts that are not UTF-8 are
+// compared byte by byte.
+bool isCanonicallyEquivalent(std::string_view left, std::string_view right);
+
+// `text` without the blanks and tabs at both ends, those of other scripts included. Line breaks
+// stay.
+std::string trimmingWhitespace(std::string_view text);
+
+} // namespace platform

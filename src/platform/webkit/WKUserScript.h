@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+// A script that runs in every page by itself.
+struct WKUserScript {
+    enum class InjectionTime { atDocumentStart, atDocumentEnd };
+
+    std::string source;
+    InjectionTime injectionTime = InjectionTime::atDocumentEnd;
+    bool forMainFrameOnly = true;
+};
+
+} // namespace platform

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/appkit/NSView.h"
+#include "platform/webkit/URLRequest.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace platform {
+
+// A view that shows web pages, one after the other, and keeps a list of them. Each has its own
+// content process, which may die without harm: see `docs/web-view.md` for what the view does then,
+// and when a load fails.
+//
+// Main thread only. Nothing here waits for the content process.
+class WKWebView : public NSView {
+public:
+    enum class Property { canGoBack, canGoForward, isLoading, estimatedProgress, title };
+
+    // A running observation; dropping it ends it.
+    using Observation = std::shared_ptr<void>;
+
+    virtual void load(const URLRequest& request) = 0;
+
+    // Runs `script` in the main frame's page. Neither its result nor an error comes back.
+    virtual void evaluateJavaScript(const std::string& script) = 0;
+
+    // One step in the list of pages; nothing when there is none.
+    virtual void goBack() = 0;
+    virtual void goForward() = 0;
+
+    virtual bool canGoBack() const = 0;
+    virtual bool canGoForward() const = 0;
+    virtual bool isLoading() const = 0;
+    virtual double estimatedProgress() const = 0; // 0.0 to 1.0
+    virtual std::string title() const = 0; // empty when the page has none
+
+    // Calls `handler` now, and after every change of `property`.
+    [[nodiscard]] virtual Observation observe(Property property, std::function<void()> handler) = 0;
+
+    virtual void setCustomUserAgent(const std::string& userAgent) = 0;
+    virtual void setAllowsBackForwardNavigationGestures(bool isAllowed) = 0;
+    virtual void setAllowsMagnification(bool isAllowed) = 0;
+
+    // Scroll bars that lie over the page and fade, and take no room.
+    virtual void setUsesOverlayScrollers(bool isOverlay) = 0;
+
+    // Whether the view paints a colour of its own behind the page.
+    virtual void setDrawsBackground(bool isDrawn) = 0;
+};
+
+} // namespace platform
