@@ -1,0 +1,15 @@
+#pragma once
+
+namespace ui {
+
+// The desktop's own font in a size and weight.
+struct Font {
+    enum class Weight { regular, medium, semibold, bold };
+
+    double size = 13; // points
+    Weight weight = Weight::regular;
+
+    bool operator==(const Font&) const = default;
+};
+
+} // namespace ui

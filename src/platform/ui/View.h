@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/ui/Color.h"
+#include "platform/ui/Layout.h"
+#include "platform/ui/Transition.h"
+
+#include <concepts>
+#include <functional>
+#include <memory>
+
+namespace platform {
+class URL;
+}
+
+namespace ui {
+
+struct Node;
+class View;
+
+// A view made of other views: any type with a body. The body reads models and describes; it writes
+// nothing.
+template <class T>
+concept Component = requires(const T& component)
+{
+    {
+        component.body()
+        } -> std::convertible_to<View>;
+};
+
+// A view that stands for a native one. It is asked for a coordinator and then for the native view
+// when it is first shown, and to update that at every later redraw. Where it declares
+// `waitsForFirstFrame` to be true, it is made after the window's first frame is on the screen.
+template <class T>
+concept NSViewRepresentable = requires(const T& host, typename T::Coordinator& coordinator)
+{
+    {
+        host.makeCoordinator()
+        } -> std::convertible_to<std::shared_ptr<typename T::Coordinator>>;
+    {
+        *host.makeNSView(coordinator)
+        } -> std::convertible_to<typename T::NSViewType&>;
+    host.updateNSView(std::declval<typename T::NSViewType&>(), coordinator);
+};
+
+// A description of what is to be seen: a small value, cheap to copy, made afresh at every redraw.
+// Modifiers return a new description around this one and so apply in the order written, inside
+// first.
+class View {
+public:
+    // Nothing to be seen.
+    View() = default;
+
+    View(std::shared_ptr<Node> node)
+        : node_(std::move(node))
+    {
+    }
+
+    // These two are defined in `Node.h`, which whoever builds views includes through `Views.h`.
+    template <Component T> View(T component);
+    template <NSViewRepresentable T> View(T host);
+
+    View frame(FrameOptions options) const;
+    View padding(PaddingOptions options) const;
+
+    // Another view behind or in front of this one, as large as this one.
+    View background(View behind) const;
+    View overlay(View inFront, Alignment alignment = Alignment::center) const;
+
+    // 0 (invisible) to 1. A native view that has never been anything but invisible is not made.
+    View opacity(double opacity) const;
+
+    // Whether clicks, keys and drops reach this view and what is in it.
+    View allowsHitTesting(bool isAllowed) const;
+
+    View transition(Transition transition) const;
+
+    // Called with every address that the window is asked to open.
+    View onOpenURL(std::function<void(const platform::URL&)> action) const;
+
+    const std::shared_ptr<Node>& node() const { return node_; }
+
+private:
+    std::shared_ptr<Node> node_;
+};
+
+} // namespace ui
