@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/ui/Published.h"
+#include "web/WebModel.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmaro {
+
+// The window's open tabs and which of them is shown. Main thread only.
+class TabbedAppModel : public std::enable_shared_from_this<TabbedAppModel> {
+public:
+    using Tabs = std::vector<std::shared_ptr<WebModel>>;
+
+    // The model made last; null when it has gone. For callers without a view, such as page bridges.
+    static std::shared_ptr<TabbedAppModel> shared();
+
+    // Restores the tabs of the last run, and saves them when the application terminates.
+    static std::shared_ptr<TabbedAppModel> make();
+
+    // Left to right; never empty.
+    ui::Published<Tabs> tabs;
+
+    // Index of the tab that is shown; any value outside the list means none.
+    ui::Published<int> activeIndex = 0;
+
+    // Null when no tab is active.
+    std::shared_ptr<WebModel> activeTab() const;
+
+    // Opens a tab at the end and shows it; without a route, on the service's page for new tabs.
+    void newTab(const std::optional<std::string>& route = std::nullopt);
+
+    // Closes the tab at `index`, or the window when it is the only one. The active index is
+    // clamped, not shifted.
+    void closeTab(int index);
+
+    void nextTab();
+    void previousTab();
+
+    // Moves the dragged tab to just in front of the target, or to the end when the target is
+    // unknown. The same tab stays active.
+    void moveTab(const platform::UUID& draggedId, const platform::UUID& targetId);
+
+    // Drops every tab but the active one.
+    void keepOnlyActiveTab();
+
+    void handleAppWillTerminate(const platform::Notification& notification);
+
+private:
+    TabbedAppModel();
+
+    int count() const { return static_cast<int>(tabs().size()); }
+
+    platform::NotificationCenter::Observer terminationObserver_;
+};
+
+} // namespace velmaro

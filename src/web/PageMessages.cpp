@@ -1,0 +1,90 @@
+#include "web/PageMessages.h"
+
+#include "platform/foundation/UserDefaults.h"
+#include "tabs/TabbedAppModel.h"
+#include "web/OnboardingKeys.h"
+#include "web/WebModel.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace velmaro {
+
+using platform::UserDefaults;
+using platform::Value;
+
+namespace {
+
+std::optional<std::string> stringMember(const Value& body, const char* name)
+{
+    const auto* member = body.member(name);
+    const auto* text = member ? member->string() : nullptr;
+    return text ? std::optional(*text) : std::nullopt;
+}
+
+// An object is a signed-in user, whatever it holds; anything else means that nobody is.
+PageAction reportUser(const Value& body)
+{
+    std::optional<UserIdentity> identity;
+    if (body.object()) {
+        identity = UserIdentity{.firstname = stringMember(body, "firstname").value_or(""),
+            .lastname = stringMember(body, "lastname").value_or("")};
+    }
+    return [identity](WebModel& model) { model.setUser(identity); };
+}
+
+PageAction reportRoute(const Value& body)
+{
+    const auto page = stringMember(body, "page");
+    if (!page)
+        return {};
+    return [page = *page](WebModel& model) { model.currentRoute = page; };
+}
+
+PageAction finishOnboarding(const Value&)
+{
+    return [](WebModel&) {
+        UserDefaults::standard().setBoolean(OnboardingKeys::completed, true);
+        UserDefaults::standard().setBoolean(OnboardingKeys::shown, true);
+    };
+}
+
+PageAction logOut(const Value&)
+{
+    return [](WebModel&) {
+        if (const auto app = TabbedAppModel::shared())
+            app->keepOnlyActiveTab();
+    };
+}
+
+PageAction openTab(const Value&)
+{
+    return [](WebModel&) {
+        if (const auto app = TabbedAppModel::shared())
+            app->newTab();
+    };
+}
+
+struct MessageRule {
+    std::string_view name;
+    PageAction (*action)(const Value& body);
+};
+
+constexpr std::array messageRules{
+    MessageRule{"authBridge", reportUser},
+    MessageRule{"routeBridge", reportRoute},
+    MessageRule{"onboardingBridge", finishOnboarding},
+    MessageRule{"logoutBridge", logOut},
+    MessageRule{"tabBridge", openTab},
+};
+
+} // namespace
+
+PageAction actionForPageMessage(const platform::WKScriptMessage& message)
+{
+    const auto rule = std::ranges::find(messageRules, message.name, &MessageRule::name);
+    return rule == messageRules.end() ? PageAction() : rule->action(message.body);
+}
+
+} // namespace velmaro

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/webkit/WKScriptMessageHandler.h"
+
+#include <functional>
+
+namespace velmaro {
+
+class WebModel;
+
+// What a page has asked for, ready to be done to its tab's model.
+using PageAction = std::function<void(WebModel&)>;
+
+// The names that pages post messages to, in the order of registration.
+inline constexpr auto pageMessageNames = {
+    "authBridge",
+    "reportBridge",
+    "printBridge",
+    "routeBridge",
+    "onboardingBridge",
+    "notifyBridge",
+    "logoutBridge",
+    "tabBridge",
+};
+
+// Validates a message. The action is empty when nothing is to be done: an unknown name, or a body
+// that lacks what the name requires.
+PageAction actionForPageMessage(const platform::WKScriptMessage& message);
+
+} // namespace velmaro

@@ -1,0 +1,70 @@
+#include "web/PageScripts.h"
+
+#include <algorithm>
+
+namespace velmaro::PageScripts {
+
+namespace {
+
+std::string withoutApostrophes(std::string_view text)
+{
+    std::string result(text);
+    std::erase(result, '\'');
+    return result;
+}
+
+// Fit to stand between two apostrophes.
+std::string escapedArgument(std::string_view text)
+{
+    std::string result;
+    for (const char character : text) {
+        if (character == '\\' || character == '\'')
+            result += '\\';
+        result += character;
+    }
+    return result;
+}
+
+std::string showRouteAndCallWith(
+    std::string_view route, std::string_view function, const std::string& argumentLiteral)
+{
+    const auto name = withoutApostrophes(function);
+    return "(function(){\n  " + showRoute(route) + "\n  if (typeof " + name
+        + " === 'function') { try { " + name + "(" + argumentLiteral + "); } catch(_){} }\n})();";
+}
+
+} // namespace
+
+std::string showRoute(std::string_view route)
+{
+    const auto name = withoutApostrophes(route);
+    return "if (typeof showPage === 'function') { showPage('" + name
+        + "'); } else { location.href = '/online#" + name + "'; }";
+}
+
+std::string showRouteAndCall(std::string_view route, std::string_view function)
+{
+    return showRouteAndCallWith(route, function, "");
+}
+
+std::string showRouteAndCall(
+    std::string_view route, std::string_view function, std::string_view argument)
+{
+    return showRouteAndCallWith(route, function, "'" + escapedArgument(argument) + "'");
+}
+
+std::string reloadKeepingRoute()
+{
+    return R"js((function () {
+  try {
+    if (typeof _currentPage === 'string' && _currentPage) {
+      if (window.location.hash !== '#' + _currentPage) {
+        window.location.hash = _currentPage;
+      }
+    }
+  } catch (_) {}
+  window.location.reload();
+})();)js";
+}
+
+} // namespace velmaro::PageScripts

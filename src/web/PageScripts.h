@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velmaro {
+
+// The one-shot scripts that steer a page. Routes and function names lose their apostrophes and are
+// not escaped otherwise; arguments have backslashes doubled and apostrophes escaped.
+namespace PageScripts {
+
+// Shows `route` through the page's own `showPage`, else by loading its address.
+std::string showRoute(std::string_view route);
+
+// Shows `route`, then calls the page function if there is one; what it throws is swallowed.
+std::string showRouteAndCall(std::string_view route, std::string_view function);
+std::string showRouteAndCall(
+    std::string_view route, std::string_view function, std::string_view argument);
+
+// Reloads the page so that it comes back on the page that it shows now.
+std::string reloadKeepingRoute();
+
+} // namespace PageScripts
+
+} // namespace velmaro

@@ -1,0 +1,53 @@
+#include "web/TabContent.h"
+
+#include "platform/ui/Views.h"
+#include "web/TabLoadingSplash.h"
+#include "web/WebView.h"
+
+namespace velmaro {
+
+using ui::Alignment;
+using ui::ProgressBar;
+using ui::View;
+using ui::ZStack;
+
+namespace {
+
+// The three pieces read different fields, so that a load's progress redraws nothing but its line.
+
+struct Splash {
+    std::shared_ptr<WebModel> model;
+
+    bool operator==(const Splash&) const = default;
+
+    View body() const
+    {
+        if (!model->pageTitle().empty())
+            return {};
+        return View(TabLoadingSplash{}).transition({.fades = true, .duration = 0.2});
+    }
+};
+
+struct ProgressLine {
+    std::shared_ptr<WebModel> model;
+
+    bool operator==(const ProgressLine&) const = default;
+
+    View body() const
+    {
+        if (!model->isLoading())
+            return {};
+        return ProgressBar(model->estimatedProgress())
+            .frame({.height = 2, .maxWidth = ui::infinity});
+    }
+};
+
+} // namespace
+
+View TabContent::body() const
+{
+    return ZStack{{}, WebView{.model = model}, Splash{model}}.overlay(
+        ProgressLine{model}, Alignment::top);
+}
+
+} // namespace velmaro
