@@ -1,0 +1,74 @@
+#include "platform/gtk/ui/Container.h"
+
+#include "platform/gtk/ui/Departure.h"
+#include "platform/gtk/ui/Fade.h"
+
+#include <algorithm>
+
+namespace gtk {
+
+namespace {
+
+ui::Transition transitionOf(const ui::Widget& widget)
+{
+    const auto* container = dynamic_cast<const Container*>(&widget);
+    return container ? container->transition() : ui::Transition();
+}
+
+} // namespace
+
+Container::Area::Area()
+    : Glib::ObjectBase("VelmaroArea")
+{
+}
+
+Container::Area::~Area()
+{
+    while (auto* child = get_first_child())
+        child->unparent();
+    if (get_parent())
+        unparent();
+}
+
+Container::Container() = default;
+
+Container::~Container()
+{
+    departures_.clear(); // while there is an area to leave
+}
+
+void Container::place(ui::Widget& child, std::size_t index)
+{
+    auto& widget = nativeOf(child);
+    const bool isNew = std::erase(children_, &widget) == 0;
+
+    if (index == 0)
+        widget.insert_at_start(area_);
+    else
+        widget.insert_after(area_, *children_[index - 1]);
+    children_.insert(children_.begin() + static_cast<std::ptrdiff_t>(index), &widget);
+
+    const auto transition = transitionOf(child);
+    if (isNew && transition.fades && isAnimated(area_))
+        fade(widget, 0, widget.get_opacity(), transition.duration);
+}
+
+void Container::remove(ui::Widget& child, std::shared_ptr<void> owner)
+{
+    auto& widget = nativeOf(child);
+    std::erase(children_, &widget);
+
+    const auto transition = transitionOf(child);
+    if (!transition.fades || !isAnimated(area_)) {
+        widget.unparent();
+        return;
+    }
+    auto departure = std::make_shared<Departure>(widget, std::move(owner));
+    departures_.push_back(departure);
+    departure->begin(transition.duration, [this](const Departure& departed) {
+        std::erase_if(
+            departures_, [&](const auto& departure) { return departure.get() == &departed; });
+    });
+}
+
+} // namespace gtk

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/gtk/ui/NativeWidget.h"
+#include "platform/ui/Transition.h"
+
+#include <memory>
+#include <vector>
+
+namespace gtk {
+
+class Departure;
+
+// A widget with children, which its layout manager arranges.
+class Container : public NativeWidget {
+public:
+    Container();
+    ~Container() override;
+
+    Gtk::Widget& native() override { return area_; }
+
+    void place(ui::Widget& child, std::size_t index) override;
+    void remove(ui::Widget& child, std::shared_ptr<void> owner) override;
+
+    // How this widget comes and goes when it is a child.
+    const ui::Transition& transition() const { return transition_; }
+
+protected:
+    void setTransition(const ui::Transition& transition) { transition_ = transition; }
+
+private:
+    // A widget without a look or behaviour of its own.
+    class Area : public Gtk::Widget {
+    public:
+        Area();
+        ~Area() override;
+    };
+
+    Area area_;
+    ui::Transition transition_;
+    std::vector<Gtk::Widget*> children_; // those on their way out are not among them
+    std::vector<std::shared_ptr<Departure>> departures_;
+};
+
+} // namespace gtk

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/gtk/ui/NativeWidget.h"
+#include "platform/ui/HostedView.h"
+
+#include <memory>
+
+namespace gtk {
+
+class FirstFrame;
+
+// The place of a native view. The view is put into it once and never taken out before both go.
+class HostWidget final : public NativeWidget {
+public:
+    HostWidget(ui::HostedView& hosted, FirstFrame& firstFrame);
+    ~HostWidget() override;
+
+    Gtk::Widget& native() override { return area_; }
+    void apply(const ui::Node&) override { }
+    void setShown(bool isShown) override;
+
+private:
+    class Area final : public Gtk::Widget {
+    public:
+        Area();
+    };
+
+    void makeIfShown();
+
+    ui::HostedView& hosted_;
+    FirstFrame& firstFrame_;
+    Area area_;
+    std::shared_ptr<platform::NSView> view_;
+    bool isShown_ = false;
+    std::shared_ptr<bool> isAlive_; // told to a task that waits for the first frame
+};
+
+} // namespace gtk

@@ -1,0 +1,46 @@
+#include "platform/gtk/ui/WidgetFactory.h"
+
+#include "platform/gtk/ui/Containers.h"
+#include "platform/gtk/ui/HostWidget.h"
+#include "platform/gtk/ui/Leaves.h"
+#include "platform/ui/Node.h"
+
+namespace gtk {
+
+std::unique_ptr<ui::Widget> WidgetFactory::makeWidget(const ui::Node& node)
+{
+    switch (node.kind) {
+    case ui::Kind::group:
+        return std::make_unique<GroupWidget>();
+    case ui::Kind::frame:
+        return std::make_unique<FrameWidget>();
+    case ui::Kind::padding:
+        return std::make_unique<PaddingWidget>();
+    case ui::Kind::horizontalStack:
+        return std::make_unique<StackWidget>(Gtk::Orientation::HORIZONTAL);
+    case ui::Kind::verticalStack:
+        return std::make_unique<StackWidget>(Gtk::Orientation::VERTICAL);
+    case ui::Kind::layers:
+        return std::make_unique<LayersWidget>();
+    case ui::Kind::fill:
+        return std::make_unique<FillWidget>();
+    case ui::Kind::text:
+        return std::make_unique<TextWidget>();
+    case ui::Kind::applicationIcon:
+        return std::make_unique<ApplicationIconWidget>();
+    case ui::Kind::progressBar:
+        return std::make_unique<ProgressBarWidget>();
+    case ui::Kind::component:
+    case ui::Kind::sequence:
+    case ui::Kind::hosted:
+        break; // never asked for
+    }
+    g_assert_not_reached();
+}
+
+std::unique_ptr<ui::Widget> WidgetFactory::makeHost(ui::HostedView& hosted)
+{
+    return std::make_unique<HostWidget>(hosted, firstFrame_);
+}
+
+} // namespace gtk

@@ -1,0 +1,29 @@
+#include "platform/gtk/ui/WindowContent.h"
+
+#include "platform/gtk/ui/Containers.h"
+#include "platform/gtk/ui/Theme.h"
+
+namespace gtk {
+
+WindowContent::WindowContent(ui::View content)
+    : root_(std::make_unique<GroupWidget>())
+    , firstFrame_(root_->native())
+    , factory_(firstFrame_)
+    , mount_(std::move(content), factory_, *root_)
+{
+    installTheme(root_->native().get_display());
+}
+
+WindowContent::~WindowContent() = default;
+
+Gtk::Widget& WindowContent::widget()
+{
+    return root_->native();
+}
+
+void WindowContent::openURL(const platform::URL& url)
+{
+    mount_.openURL(url);
+}
+
+} // namespace gtk

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/gtk/ui/FirstFrame.h"
+#include "platform/gtk/ui/WidgetFactory.h"
+#include "platform/ui/Mount.h"
+
+#include <memory>
+
+namespace Gtk {
+class Widget;
+}
+
+namespace gtk {
+
+class GroupWidget;
+
+// The declared views of one window, as GTK widgets. The window must have given up `widget()` before
+// this goes.
+class WindowContent {
+public:
+    explicit WindowContent(ui::View content);
+    ~WindowContent();
+
+    // Fills the window; made with the content.
+    Gtk::Widget& widget();
+
+    // Hands `url` to the views that open addresses.
+    void openURL(const platform::URL& url);
+
+private:
+    std::unique_ptr<GroupWidget> root_;
+    FirstFrame firstFrame_;
+    WidgetFactory factory_;
+    ui::Mount mount_;
+};
+
+} // namespace gtk
