@@ -9,6 +9,16 @@ namespace gtk {
 
 namespace {
 
+// A container expands when something in it does.
+void computeExpand(GtkWidget* widget, gboolean* horizontal, gboolean* vertical)
+{
+    for (auto* child = gtk_widget_get_first_child(widget); child;
+         child = gtk_widget_get_next_sibling(child)) {
+        *horizontal = *horizontal || gtk_widget_compute_expand(child, GTK_ORIENTATION_HORIZONTAL);
+        *vertical = *vertical || gtk_widget_compute_expand(child, GTK_ORIENTATION_VERTICAL);
+    }
+}
+
 ui::Transition transitionOf(const ui::Widget& widget)
 {
     const auto* container = dynamic_cast<const Container*>(&widget);
@@ -20,6 +30,7 @@ ui::Transition transitionOf(const ui::Widget& widget)
 Container::Area::Area()
     : Glib::ObjectBase("VelmaroArea")
 {
+    GTK_WIDGET_GET_CLASS(gobj())->compute_expand = computeExpand; // has no counterpart in gtkmm
 }
 
 Container::Area::~Area()
