@@ -9,6 +9,9 @@ namespace {
 
 using Json = nlohmann::json;
 
+constexpr int maximumDepth =
+    500; // lists and objects inside each other; values are walked on the stack
+
 Value valueFrom(Json& json)
 {
     switch (json.type()) {
@@ -76,8 +79,13 @@ std::optional<Json> jsonFrom(const Value& value)
 
 std::optional<Value> decode(std::string_view text)
 {
-    auto json = Json::parse(text, nullptr, false);
-    if (json.is_discarded())
+    bool isTooDeep = false;
+    const auto keepShallow = [&](int depth, Json::parse_event_t, Json&) {
+        isTooDeep = isTooDeep || depth > maximumDepth;
+        return !isTooDeep;
+    };
+    auto json = Json::parse(text, keepShallow, false);
+    if (json.is_discarded() || isTooDeep)
         return std::nullopt;
     return valueFrom(json);
 }

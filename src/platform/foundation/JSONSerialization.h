@@ -11,7 +11,7 @@ namespace platform {
 // JSON texts to values and back.
 namespace JSONSerialization {
 
-// Absent when `text` is not one whole JSON value in UTF-8.
+// Absent when `text` is not one whole JSON value in UTF-8, or is nested more than 500 deep.
 std::optional<Value> decode(std::string_view text);
 
 // One line of UTF-8. Absent when a text inside `value` is not UTF-8, or a number is not finite.

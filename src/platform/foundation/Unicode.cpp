@@ -2,6 +2,7 @@
 
 #include <glib.h>
 #include <memory>
+#include <optional>
 
 namespace platform {
 
@@ -11,17 +12,23 @@ struct FreeText {
     void operator()(gchar* text) const { g_free(text); }
 };
 
-using NormalizedText = std::unique_ptr<gchar, FreeText>;
-
-NormalizedText canonicallyDecomposed(std::string_view text)
+// The text in canonical decomposition; absent when it is not UTF-8. GLib ends a text at a NUL, so
+// what stands between them is taken piece by piece.
+std::optional<std::string> canonicallyDecomposed(std::string_view text)
 {
-    return NormalizedText(
-        g_utf8_normalize(text.data(), static_cast<gssize>(text.size()), G_NORMALIZE_NFD));
-}
-
-bool isComparable(std::string_view text)
-{
-    return g_utf8_validate_len(text.data(), text.size(), nullptr); // false for a NUL inside as well
+    std::string result;
+    while (true) {
+        const auto piece = text.substr(0, text.find('\0'));
+        const std::unique_ptr<gchar, FreeText> decomposed(
+            g_utf8_normalize(piece.data(), static_cast<gssize>(piece.size()), G_NORMALIZE_NFD));
+        if (!decomposed)
+            return std::nullopt;
+        result += decomposed.get();
+        if (piece.size() == text.size())
+            return result;
+        result += '\0';
+        text.remove_prefix(piece.size() + 1);
+    }
 }
 
 // A tab, or a blank of any script: the general category Zs.
@@ -52,9 +59,8 @@ bool isCanonicallyEquivalent(std::string_view left, std::string_view right)
 {
     if (left == right)
         return true;
-    if (!isComparable(left) || !isComparable(right))
-        return false;
-    return g_str_equal(canonicallyDecomposed(left).get(), canonicallyDecomposed(right).get());
+    const auto decomposed = canonicallyDecomposed(left);
+    return decomposed && decomposed == canonicallyDecomposed(right);
 }
 
 std::string trimmingWhitespace(std::string_view text)

@@ -57,6 +57,9 @@ struct ComponentNode : Node {
 
     virtual View body() const = 0;
 
+    // The same component for another place.
+    virtual std::shared_ptr<ComponentNode> copy() const = 0;
+
     // Makes the component's state, or takes over that of `previous`, which is of the same type.
     virtual void mount() = 0;
     virtual void adopt(const ComponentNode& previous) = 0;
@@ -64,6 +67,8 @@ struct ComponentNode : Node {
     // Whether the component is known to describe the same as `previous` while no field that it
     // reads has changed: only where its type can be compared.
     virtual bool isEqual(const ComponentNode& previous) const = 0;
+
+    bool isMounted = false; // it has a place, or had one
 };
 
 // Children that stand in place of the one view, each under its key.
@@ -200,6 +205,11 @@ template <Component T> struct ComponentNodeOf final : ComponentNode {
 
     std::type_index type() const override { return typeid(T); }
     View body() const override { return component.body(); }
+
+    std::shared_ptr<ComponentNode> copy() const override
+    {
+        return std::make_shared<ComponentNodeOf>(component);
+    }
 
     void mount() override
     {

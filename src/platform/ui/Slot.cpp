@@ -66,14 +66,17 @@ void Slot::update(const std::shared_ptr<Node>& node)
 
 void Slot::updateComponent(const std::shared_ptr<Node>& node)
 {
-    auto& component = static_cast<ComponentNode&>(*node);
-    const auto previous = std::exchange(node_, node);
+    auto component = std::static_pointer_cast<ComponentNode>(node);
+    if (component != node_ && component->isMounted)
+        component = component->copy(); // one description in two places has a state in each
+    component->isMounted = true;
+
+    const auto previous = std::static_pointer_cast<ComponentNode>(std::exchange(node_, component));
     if (!previous) {
-        component.mount();
-    } else if (previous != node) {
-        const auto& previousComponent = static_cast<const ComponentNode&>(*previous);
-        component.adopt(previousComponent);
-        if (!hasChanged_ && component.isEqual(previousComponent))
+        component->mount();
+    } else if (previous != component) {
+        component->adopt(*previous);
+        if (!hasChanged_ && component->isEqual(*previous))
             return;
     }
     evaluateBody();
@@ -109,9 +112,14 @@ void Slot::updateWidget(const std::shared_ptr<Node>& node)
     if (!widget_)
         widget_ = mount_.renderer_.makeWidget(*node);
     widget_->apply(*node);
-    for (const auto& child : children_)
-        child->setShown(isShown_ && showsChildren());
+
+    // What is hidden is hidden before its children change, and what is shown is shown after:
+    // nothing is shown in between that is hidden before and after.
+    if (!showsChildren())
+        showChildren(false);
     updateChildren(node->children);
+    if (isShown_ && showsChildren())
+        showChildren(true);
     arrange();
 }
 
@@ -227,8 +235,13 @@ void Slot::setShown(bool isShown)
     isShown_ = isShown;
     if (hosted_)
         widget_->setShown(isShown);
+    showChildren(isShown_ && showsChildren());
+}
+
+void Slot::showChildren(bool isShown)
+{
     for (const auto& child : children_)
-        child->setShown(isShown_ && showsChildren());
+        child->setShown(isShown);
 }
 
 void Slot::subjectChanged()

@@ -74,6 +74,7 @@ private:
     std::shared_ptr<Slot> widgetSlot();
 
     void setShown(bool isShown);
+    void showChildren(bool isShown);
     bool showsChildren() const;
 
     Mount& mount_;

@@ -12,10 +12,11 @@ namespace ui {
 template <class T> class State {
 public:
     State(T initial)
-        : storage_(std::make_shared<Published<T>>(std::move(initial)))
+        : initial_(std::move(initial))
     {
     }
 
+    // This and all below: only inside `body()` and in what it makes.
     const T& operator()() const { return (*storage_)(); }
 
     void set(T value) const { *storage_ = std::move(value); }
@@ -31,11 +32,12 @@ public:
         return {[storage = storage_] { return (*storage)(); }, setter()};
     }
 
-    void mount() { }
+    void mount() { storage_ = std::make_shared<Published<T>>(initial_); }
     void adopt(const State& previous) { storage_ = previous.storage_; }
 
 private:
-    std::shared_ptr<Published<T>> storage_;
+    T initial_;
+    std::shared_ptr<Published<T>> storage_; // null until the view is mounted
 };
 
 // A model that belongs to a view: made, by `Model::make()`, when the view is first built and kept
