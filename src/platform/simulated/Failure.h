@@ -1,0 +1,16 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace simulated {
+
+// Called when the stand-in is used in a way that nobody prepared or that the real platform would
+// not bear. Without a handler it writes the message to stderr and aborts.
+using FailureHandler = std::function<void(const std::string& message)>;
+
+void setFailureHandler(FailureHandler handler);
+
+void fail(const std::string& message);
+
+} // namespace simulated

@@ -1,0 +1,48 @@
+#include "platform/simulated/SimulatedHost.h"
+
+#include "platform/simulated/Failure.h"
+#include "platform/simulated/SimulatedPlace.h"
+#include "platform/simulated/SimulatedRenderer.h"
+
+namespace simulated {
+
+SimulatedHost::SimulatedHost(SimulatedRenderer& renderer, ui::HostedView& hosted)
+    : SimulatedWidget(renderer)
+    , hosted_(hosted)
+{
+}
+
+SimulatedHost::~SimulatedHost()
+{
+    if (auto* place = dynamic_cast<SimulatedPlace*>(view()))
+        place->setHost(nullptr);
+}
+
+void SimulatedHost::setShown(bool isShown)
+{
+    isShown_ = isShown;
+    if (!hosted_.waitsForFirstFrame())
+        return make();
+    renderer().whenFirstFrameIsShown([this, lifetime = lifetime()] {
+        if (!lifetime.expired())
+            make();
+    });
+}
+
+void SimulatedHost::make()
+{
+    if (!isShown_ || hosted_.isMade())
+        return;
+    auto* place = dynamic_cast<SimulatedPlace*>(hosted_.view().get());
+    if (!place)
+        return fail("a hosted view is none of this platform's");
+    place->setHost(this);
+}
+
+std::string SimulatedHost::describeSelf() const
+{
+    return std::string("hosted") + (hosted_.isMade() ? "" : " unmade")
+        + (isShown_ ? "" : " hidden");
+}
+
+} // namespace simulated

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/simulated/SimulatedApplication.h"
+#include "platform/simulated/SimulatedBundle.h"
+#include "platform/simulated/SimulatedQueue.h"
+#include "platform/simulated/SimulatedScreen.h"
+#include "platform/simulated/SimulatedUserDefaults.h"
+#include "platform/simulated/SimulatedWebView.h"
+
+#include <string>
+#include <vector>
+
+namespace simulated {
+
+// A desktop in memory: no screen, no settings, no time passing, until the test provides them. It is
+// the current platform for as long as it lives.
+class SimulatedPlatform final : public platform::Platform {
+public:
+    SimulatedPlatform();
+    ~SimulatedPlatform() override;
+
+    SimulatedQueue& mainQueue() override { return queue_; }
+    SimulatedUserDefaults& userDefaults() override { return userDefaults_; }
+    SimulatedBundle& mainBundle() override { return bundle_; }
+    SimulatedApplication& application() override { return application_; }
+    platform::NSScreen* mainScreen() override;
+    std::shared_ptr<platform::NSView> makeView() override;
+    std::shared_ptr<platform::WKWebView> makeWebView(
+        const platform::WKWebViewConfiguration& configuration) override;
+    void log(const std::string& line) override { logLines.push_back(line); }
+
+    // Plugs in one more screen; the first is the main one.
+    SimulatedScreen& addScreen(const platform::NSRect& visibleFrame);
+    void removeScreens() { screens_.clear(); }
+
+    // The screen that shares the largest area with `frame`; null when none does.
+    SimulatedScreen* screenWith(const platform::NSRect& frame);
+
+    // The web views made so far, in order, also those that have gone since.
+    const std::vector<std::weak_ptr<SimulatedWebView>>& webViews() const { return webViews_; }
+
+    std::vector<std::string> logLines;
+
+private:
+    SimulatedQueue queue_;
+    SimulatedUserDefaults userDefaults_;
+    SimulatedBundle bundle_;
+    std::vector<std::unique_ptr<SimulatedScreen>> screens_;
+    std::vector<std::weak_ptr<SimulatedWebView>> webViews_;
+    SimulatedApplication application_;
+};
+
+} // namespace simulated

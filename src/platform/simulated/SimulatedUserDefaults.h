@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/foundation/UserDefaults.h"
+
+#include <map>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace simulated {
+
+// The settings store in memory. It starts empty.
+class SimulatedUserDefaults final : public platform::UserDefaults {
+public:
+    // Whatever a settings file may hold under a key, also what the application never writes.
+    using Stored = std::variant<bool, std::int64_t, double, std::string, std::vector<std::string>,
+        platform::Data>;
+
+    bool contains(const std::string& key) const override;
+    std::optional<std::vector<std::string>> stringArray(const std::string& key) const override;
+    std::int64_t integer(const std::string& key) const override;
+    bool boolean(const std::string& key) const override;
+    std::optional<platform::Data> data(const std::string& key) const override;
+
+    void setStringArray(const std::string& key, const std::vector<std::string>& value) override;
+    void setInteger(const std::string& key, std::int64_t value) override;
+    void setBoolean(const std::string& key, bool value) override;
+    void setData(const std::string& key, const platform::Data& value) override;
+    void removeObject(const std::string& key) override;
+
+    // All that is stored. A copy of it, planted in the next platform's store, is what a new launch
+    // finds.
+    const std::map<std::string, Stored>& contents() const { return contents_; }
+    void plant(std::map<std::string, Stored> contents) { contents_ = std::move(contents); }
+
+    // Stores a value that the application has not written.
+    void plant(const std::string& key, Stored value) { contents_[key] = std::move(value); }
+
+    // The keys that were set or removed, in order, those in vain included.
+    const std::vector<std::string>& writes() const { return writes_; }
+
+    // From now on writes reach nothing, as on a full disk: what was stored stays.
+    void simulateWriteFailure(bool fails = true) { writesFail_ = fails; }
+
+private:
+    template <class T> const T* find(const std::string& key) const;
+    void store(const std::string& key, Stored value);
+
+    std::map<std::string, Stored> contents_;
+    std::vector<std::string> writes_;
+    bool writesFail_ = false;
+};
+
+} // namespace simulated

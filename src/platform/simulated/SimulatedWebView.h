@@ -1,0 +1,83 @@
+#pragma once
+
+#include "platform/simulated/SimulatedPlace.h"
+#include "platform/webkit/WKWebView.h"
+#include "platform/webkit/WKWebViewConfiguration.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace simulated {
+
+// A web view without a web: it records what it is asked to do and shows what the test says that the
+// page shows.
+class SimulatedWebView final : public platform::WKWebView, public SimulatedPlace {
+public:
+    // Absent: never set.
+    struct Settings {
+        std::optional<std::string> customUserAgent;
+        std::optional<bool> allowsBackForwardNavigationGestures;
+        std::optional<bool> allowsMagnification;
+        std::optional<bool> usesOverlayScrollers;
+        std::optional<bool> drawsBackground;
+    };
+
+    explicit SimulatedWebView(platform::WKWebViewConfiguration configuration);
+
+    platform::NSWindow* window() const override { return windowOfHost(); }
+
+    void load(const platform::URLRequest& request) override { loads.push_back(request); }
+    void evaluateJavaScript(const std::string& script) override { scripts.push_back(script); }
+    void goBack() override;
+    void goForward() override;
+
+    bool canGoBack() const override { return canGoBack_; }
+    bool canGoForward() const override { return canGoForward_; }
+    bool isLoading() const override { return isLoading_; }
+    double estimatedProgress() const override { return estimatedProgress_; }
+    std::string title() const override { return title_; }
+
+    Observation observe(Property property, std::function<void()> handler) override;
+
+    void setCustomUserAgent(const std::string& userAgent) override;
+    void setAllowsBackForwardNavigationGestures(bool isAllowed) override;
+    void setAllowsMagnification(bool isAllowed) override;
+    void setUsesOverlayScrollers(bool isOverlay) override;
+    void setDrawsBackground(bool isDrawn) override;
+
+    // What the page does. Observers are told at once.
+    void simulateHistory(bool canGoBack, bool canGoForward);
+    void simulateLoading(bool isLoading, double progress);
+    void simulateTitle(const std::string& title);
+
+    // The page posts `body` to the handler registered under `name`; fails the test when nobody is.
+    void simulateMessage(const std::string& name, platform::Value body);
+
+    // How many observations are running.
+    std::size_t observationCount() const;
+
+    const platform::WKWebViewConfiguration configuration;
+    Settings settings;
+    std::vector<platform::URLRequest> loads;
+    std::vector<std::string> scripts;
+    int stepsBack = 0;
+    int stepsForward = 0;
+
+private:
+    struct Observer {
+        Property property;
+        std::function<void()> handler;
+    };
+
+    void notify(Property property);
+
+    std::vector<std::weak_ptr<Observer>> observers_;
+    bool canGoBack_ = false;
+    bool canGoForward_ = false;
+    bool isLoading_ = false;
+    double estimatedProgress_ = 0;
+    std::string title_;
+};
+
+} // namespace simulated

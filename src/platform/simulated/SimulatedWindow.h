@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/appkit/NSWindow.h"
+#include "platform/simulated/SimulatedRenderer.h"
+#include "platform/simulated/SimulatedView.h"
+#include "platform/simulated/SimulatedWidget.h"
+#include "platform/ui/Mount.h"
+
+#include <optional>
+#include <string>
+
+namespace simulated {
+
+class SimulatedPlatform;
+
+// A window on a simulated screen. It opens with 800 × 600 points in the screen's corner.
+class SimulatedWindow final : public platform::NSWindow {
+public:
+    struct Options {
+        std::string title = {};
+        bool canBecomeMainWindow = true;
+        bool hasContentView = true;
+    };
+
+    SimulatedWindow(SimulatedPlatform& platform, Options options);
+
+    // Fills the window with views; its first frame is shown when the event is over.
+    void show(ui::View content);
+
+    // The views, as widgets that a test can read.
+    const SimulatedWidget& content() const { return root_; }
+    ui::Mount& mount() { return *mount_; }
+    SimulatedRenderer& renderer() { return renderer_; }
+    const std::string& title() const { return options_.title; }
+    bool isVisible() const { return isVisible_; }
+
+    platform::NSScreen* screen() const override;
+    platform::NSRect frame() const override { return frame_; }
+    void setFrame(const platform::NSRect& frame, bool display, bool animate) override;
+    platform::NSSize minSize() const override { return minSize_; }
+    void setMinSize(platform::NSSize size) override { minSize_ = size; }
+    bool isFullScreen() const override { return isFullScreen_; }
+    std::uint32_t collectionBehavior() const override { return collectionBehavior_; }
+    void setCollectionBehavior(std::uint32_t behavior) override { collectionBehavior_ = behavior; }
+    TabbingMode tabbingMode() const override { return tabbingMode_; }
+    void setTabbingMode(TabbingMode mode) override { tabbingMode_ = mode; }
+    bool isRestorable() const override { return isRestorable_; }
+    void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
+    bool canBecomeMainWindow() const override { return options_.canBecomeMainWindow; }
+    platform::NSView* contentView() const override;
+    void makeKeyAndOrderFront() override;
+    void close() override;
+
+    // The user drags an edge: the upper left corner stays, and the minimum size holds.
+    void simulateUserResize(platform::NSSize size);
+
+    // The desktop gives the window another place or size, say on another screen, and tells of it.
+    void simulateFrame(const platform::NSRect& frame);
+
+    void simulateFullScreen(bool isFullScreen) { isFullScreen_ = isFullScreen; }
+    void simulateMiniaturize() { isVisible_ = false; }
+
+private:
+    SimulatedPlatform& platform_;
+    Options options_;
+    SimulatedRenderer renderer_;
+    SimulatedWidget root_;
+    mutable SimulatedView contentView_;
+    std::optional<ui::Mount> mount_; // goes before what it shows itself in
+    platform::NSRect frame_{{0, 0}, {800, 600}};
+    platform::NSSize minSize_;
+    std::uint32_t collectionBehavior_ = fullScreenNone;
+    TabbingMode tabbingMode_ = TabbingMode::automatic;
+    bool isFullScreen_ = false;
+    bool isRestorable_ = true;
+    bool isVisible_ = true;
+};
+
+} // namespace simulated

@@ -1,0 +1,279 @@
+#include "app/VelmaroOnlineApp.h"
+
+#include "platform/simulated/SimulatedPlatform.h"
+#include "tabs/TabbedAppModel.h"
+
+#include <gtest/gtest.h>
+
+using simulated::SimulatedWebView;
+using velmaro::TabbedAppModel;
+using Contents = std::map<std::string, simulated::SimulatedUserDefaults::Stored>;
+using Strings = std::vector<std::string>;
+
+namespace {
+
+// The whole application, launched on a desktop with one screen.
+struct Launch {
+    explicit Launch(Contents settings = {})
+    {
+        platform.addScreen({{0, 25}, {1440, 875}});
+        platform.userDefaults().plant(std::move(settings));
+        platform.application().launch(app.appDelegate, scene);
+    }
+
+    simulated::SimulatedApplication& application() { return platform.application(); }
+    std::shared_ptr<TabbedAppModel> tabs() const { return TabbedAppModel::shared(); }
+
+    std::shared_ptr<SimulatedWebView> webView(std::size_t index = 0) const
+    {
+        return platform.webViews().at(index).lock();
+    }
+
+    // The addresses first loaded, in the order in which web views were made.
+    Strings addresses() const
+    {
+        Strings addresses;
+        for (const auto& webView : platform.webViews())
+            addresses.push_back(webView.lock()->loads.at(0).url.absoluteString());
+        return addresses;
+    }
+
+    void settle() { platform.mainQueue().runUntilIdle(); }
+
+    velmaro::VelmaroOnlineApp app;
+    ui::Scene scene = app.body();
+    simulated::SimulatedPlatform platform;
+};
+
+Contents threeTabs(std::int64_t active)
+{
+    return {{"vl.open.routes", Strings{"drives", "fuel", "vehicles"}},
+        {"vl.open.routes.active", active}};
+}
+
+} // namespace
+
+TEST(Launching, opensOneWindowOnTheWelcomePage)
+{
+    Launch launch;
+    auto& window = launch.application().window();
+    EXPECT_EQ(launch.application().windows().size(), 1u);
+    EXPECT_EQ(window.title(), "Velmaro Online");
+    EXPECT_EQ(window.frame().size.width, 1224);
+    EXPECT_FALSE(platform::NSWindow::allowsAutomaticWindowTabbing());
+    EXPECT_EQ(launch.addresses(), Strings{"https://velmaro.example/online/welcome.php"});
+    EXPECT_TRUE(launch.platform.logLines.empty());
+}
+
+TEST(Launching, bringsTheTabsBackAndLoadsOnlyTheOneThatIsSeen)
+{
+    Launch launch(threeTabs(1));
+    EXPECT_EQ(launch.addresses(), Strings{"https://velmaro.example/online#fuel"});
+
+    launch.tabs()->nextTab();
+    launch.settle();
+    launch.tabs()->previousTab();
+    launch.settle();
+    EXPECT_EQ(launch.addresses(),
+        (Strings{
+            "https://velmaro.example/online#fuel", "https://velmaro.example/online#vehicles"}));
+    EXPECT_EQ(launch.webView(0)->loads.size(), 1u);
+    EXPECT_EQ(launch.webView(1)->window(), &launch.application().window());
+}
+
+TEST(Launching, showsAndTouchesOnlyTheActiveTab)
+{
+    Launch launch(threeTabs(0));
+    const auto layers = [&] {
+        std::string text;
+        for (const auto* group : launch.application().window().content().findAll<ui::GroupNode>()) {
+            const auto& node = *group->node<ui::GroupNode>();
+            if (node.transition == ui::Transition() && !node.onOpenURL)
+                text += node.allowsHitTesting && node.opacity == 1 ? '+'
+                    : node.opacity == 0                            ? '-'
+                                                                   : '?';
+        }
+        return text;
+    };
+    EXPECT_EQ(layers(), "+--");
+    launch.tabs()->activeIndex = 2;
+    launch.settle();
+    EXPECT_EQ(layers(), "--+");
+}
+
+TEST(Terminating, savesTheTabsHoweverItComesButNotAtACrash)
+{
+    struct Case {
+        const char* name;
+        std::function<void(Launch&)> end;
+        bool saves;
+    };
+    const Case cases[] = {
+        {"window closed", [](auto& launch) { launch.application().simulateCloseWindow(); }, true},
+        {"quit", [](auto& launch) { launch.application().simulateQuit(); }, true},
+        {"last tab closed",
+            [](auto& launch) {
+                launch.tabs()->keepOnlyActiveTab();
+                launch.tabs()->closeTab(0);
+                launch.settle();
+            },
+            true},
+        {"crash", [](auto&) {}, false},
+    };
+    for (const auto& [name, end, saves] : cases) {
+        SCOPED_TRACE(name);
+        Launch launch(threeTabs(2));
+        launch.webView()->simulateMessage(
+            "routeBridge", platform::Value::Object{{"page", "charging"}});
+        launch.settle();
+        end(launch);
+
+        EXPECT_EQ(launch.application().hasTerminated(), saves);
+        const auto routes = launch.platform.userDefaults().stringArray("vl.open.routes").value();
+        EXPECT_EQ(routes.back(), saves ? "charging" : "vehicles");
+        EXPECT_EQ(launch.platform.userDefaults().writes().size(), saves ? 2u : 0u);
+        EXPECT_EQ(launch.tabs() == nullptr, saves) << "the model goes with its window";
+    }
+}
+
+TEST(Terminating, isComeBackFromAtTheNextLaunch)
+{
+    Launch first(threeTabs(0));
+    first.tabs()->newTab("reports");
+    first.application().simulateQuit();
+
+    Launch second(first.platform.userDefaults().contents());
+    EXPECT_EQ(second.tabs()->tabs().size(), 4u);
+    EXPECT_EQ(second.addresses(), Strings{"https://velmaro.example/online#reports"});
+}
+
+TEST(Running, endsWithTheSession)
+{
+    velmaro::VelmaroOnlineApp app;
+    simulated::SimulatedPlatform platform;
+    bool hasRun = false;
+    platform.application().prepareSession([&] { hasRun = TabbedAppModel::shared() != nullptr; });
+    EXPECT_EQ(app.run(), 0);
+    EXPECT_TRUE(hasRun);
+    EXPECT_TRUE(platform.application().hasTerminated());
+}
+
+TEST(DuplicateWindows, areClosedShortlyAfterLaunch)
+{
+    Launch launch;
+    auto& application = launch.application();
+    auto& panel = application.simulateBareWindow({.title = "panel", .canBecomeMainWindow = false});
+    auto& unready = application.simulateBareWindow({.title = "unready", .hasContentView = false});
+    application.simulateNewWindow();
+    application.simulateNewWindow();
+    launch.platform.mainQueue().advance(0.34);
+    EXPECT_EQ(application.windows().size(), 5u);
+
+    launch.platform.mainQueue().advance(0.02);
+    ASSERT_EQ(application.windows().size(), 3u);
+    EXPECT_EQ(application.window(0).title(), "Velmaro Online");
+    EXPECT_EQ(&application.window(1), &panel);
+    EXPECT_EQ(&application.window(2), &unready);
+    EXPECT_FALSE(application.hasTerminated());
+}
+
+TEST(DuplicateWindows, openedLaterStay)
+{
+    Launch launch;
+    launch.platform.mainQueue().advance(0.4);
+    launch.application().simulateNewWindow();
+    launch.platform.mainQueue().advance(10);
+    EXPECT_EQ(launch.application().windows().size(), 2u);
+}
+
+TEST(Reopening, bringsAHiddenWindowForward)
+{
+    Launch launch;
+    EXPECT_TRUE(launch.application().simulateReopen());
+
+    auto& window = launch.application().window();
+    window.simulateMiniaturize();
+    launch.application().simulateResignActive();
+    EXPECT_FALSE(launch.application().simulateReopen());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(launch.application().keyWindow().get(), &window);
+}
+
+TEST(Reopening, leavesTheRestToThePlatformWhereNoWindowIsLeft)
+{
+    simulated::SimulatedPlatform platform;
+    velmaro::AppDelegate delegate;
+    auto& panel = platform.application().simulateBareWindow({.canBecomeMainWindow = false});
+    panel.simulateMiniaturize();
+    EXPECT_TRUE(delegate.applicationShouldHandleReopen(platform.application(), false));
+    EXPECT_FALSE(panel.isVisible());
+}
+
+TEST(OpeningAnAddress, reachesThePageOfTheActiveTab)
+{
+    Launch launch(threeTabs(0));
+    launch.tabs()->nextTab();
+    launch.settle();
+    launch.application().simulateOpenURL("velmaro://page/reports");
+    launch.application().simulateOpenURL("velmaro://new/boat");
+    EXPECT_TRUE(launch.webView(0)->scripts.empty());
+    ASSERT_EQ(launch.webView(1)->scripts.size(), 1u);
+    EXPECT_NE(launch.webView(1)->scripts[0].find("showPage('reports')"), std::string::npos);
+}
+
+TEST(OpeningAnAddress, isDroppedWhenNoTabIsActive)
+{
+    Launch launch(threeTabs(0));
+    launch.tabs()->activeIndex = 7;
+    launch.settle();
+    launch.application().simulateOpenURL("velmaro://page/reports");
+    launch.tabs()->activeIndex = 0;
+    launch.settle();
+    for (const auto& webView : launch.platform.webViews())
+        EXPECT_TRUE(webView.expired() || webView.lock()->scripts.empty());
+}
+
+TEST(ClosingATab, leavesNothingOfItBehind)
+{
+    Launch launch(threeTabs(0));
+    launch.webView()->simulateTitle("Drives");
+    launch.settle();
+    const std::weak_ptr model = launch.tabs()->tabs()[0];
+    const std::weak_ptr webView = launch.webView();
+    const auto coordinator =
+        webView.lock()->configuration.userContentController.scriptMessageHandlers[0].handler;
+
+    launch.webView()->simulateLoading(true, 0.5);
+    launch.tabs()->closeTab(0);
+    launch.platform.mainQueue().advance(1);
+    EXPECT_TRUE(model.expired());
+    EXPECT_TRUE(webView.expired());
+    EXPECT_TRUE(coordinator.expired());
+    EXPECT_EQ(launch.tabs()->tabs().size(), 2u);
+}
+
+TEST(ClosingATab, whoseSplashIsStillFadingLeavesNothingBehindEither)
+{
+    Launch launch(threeTabs(0));
+    const std::weak_ptr model = launch.tabs()->tabs()[0];
+    launch.webView()->simulateTitle("Drives");
+    launch.settle();
+    launch.tabs()->closeTab(0);
+    launch.platform.mainQueue().advance(1);
+    EXPECT_TRUE(model.expired());
+}
+
+TEST(Tabs, keepTheirPagesWhenTheyAreMovedAndWhenOthersClose)
+{
+    Launch launch(threeTabs(0));
+    launch.tabs()->nextTab();
+    launch.settle();
+    const auto tabs = launch.tabs()->tabs();
+    launch.tabs()->moveTab(tabs[2]->id, tabs[0]->id);
+    launch.settle();
+    launch.tabs()->closeTab(0);
+    launch.settle();
+    EXPECT_EQ(launch.platform.webViews().size(), 2u);
+    EXPECT_EQ(tabs[0]->webView.lock(), launch.webView(0));
+    EXPECT_EQ(launch.webView(0)->loads.size(), 1u);
+}

@@ -1,0 +1,216 @@
+#include "web/PageScripts.h"
+#include "ScriptEngine.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+using platform::Value;
+namespace PageScripts = velmaro::PageScripts;
+
+namespace {
+
+using Call = Value::Array; // a function's name and what it was given
+
+// What `calls` holds in a page whose functions were called like this.
+Value noted(std::initializer_list<Call> calls)
+{
+    Value::Array all;
+    for (const auto& call : calls)
+        all.push_back(Value(call));
+    return all;
+}
+
+// Notes every call, and notices when anything else than the page's own functions was reached.
+constexpr auto pageWithShowPage = R"js(
+    var calls = [];
+    var intruded = 0;
+    var location = { href: '' };
+    function showPage(...route) { calls.push(['showPage', ...route]); }
+    function viewDriveDetail(...id) { calls.push(['viewDriveDetail', ...id]); }
+    function addFuel(...none) { calls.push(['addFuel', ...none]); throw new Error('swallowed'); }
+)js";
+
+constexpr auto barePage = R"js(
+    var calls = [];
+    var intruded = 0;
+    var location = { href: '' };
+    function viewDriveDetail(...id) { calls.push(['viewDriveDetail', ...id]); }
+)js";
+
+// Pieces that would end a literal, a statement or a comment, or run code where one of them did.
+const std::vector<std::string> hostilePieces = {"'", "\"", "`", "\\", "\\\\", "\n", "\r", "\u2028",
+    "\u2029", ");", "intruded=1", ";intruded=1;", "//", "/*", "*/", "${intruded=1}", "}", "{", "#",
+    "/", "+", "x27", "u0027", "u{27}", "<!--", "-->", "</script>", " in ", "a", "fuel", "\t",
+    "\u00e9", "0", "\\x27", "-intruded++-"};
+
+class HostileTexts {
+public:
+    std::string next()
+    {
+        std::string text;
+        for (auto count = engine_() % 9; count > 0; --count)
+            text += hostilePieces[engine_() % hostilePieces.size()];
+        return text;
+    }
+
+private:
+    std::mt19937 engine_{20'240'607};
+};
+
+bool hasLineBreak(const std::string& text)
+{
+    return text.find_first_of("\n\r") != text.npos;
+}
+
+// Clears what the page has noted.
+constexpr auto forget = "calls = []; intruded = 0; location = { href: '' };";
+
+} // namespace
+
+TEST(PageScripts, showARouteThroughThePagesOwnFunctionElseByItsAddress)
+{
+    struct Case {
+        std::string route;
+        std::string shown;
+    };
+    for (const auto& [route, shown] :
+        {Case{"drives", "drives"}, {"account-groups", "account-groups"}, {"o'brien", "obrien"},
+            {"'", ""}, {"", ""}, {"\u00e9t\u00e9", "\u00e9t\u00e9"}, {"a\"b", "a\"b"}}) {
+        ScriptEngine page(pageWithShowPage);
+        page.evaluate(PageScripts::showRoute(route));
+        EXPECT_EQ(page.value("calls"), noted({Call{"showPage", shown}}));
+        EXPECT_EQ(page.value("location.href"), Value(""));
+
+        ScriptEngine bare(barePage);
+        bare.evaluate(PageScripts::showRoute(route));
+        EXPECT_EQ(bare.value("calls"), noted({}));
+        EXPECT_EQ(bare.value("location.href"), Value("/online#" + shown));
+    }
+}
+
+TEST(PageScripts, callThePagesFunctionAfterShowingTheRoute)
+{
+    ScriptEngine page(pageWithShowPage);
+    page.evaluate(PageScripts::showRouteAndCall("fuel", "add'Fuel'"));
+    EXPECT_EQ(page.exception(), "");
+    EXPECT_EQ(page.value("calls"), noted({Call{"showPage", "fuel"}, Call{"addFuel"}}));
+
+    page.evaluate(forget);
+    page.evaluate(PageScripts::showRouteAndCall("drives", "viewDriveDetail", "a'b\\c"));
+    EXPECT_EQ(page.value("calls"),
+        noted({Call{"showPage", "drives"}, Call{"viewDriveDetail", "a'b\\c"}}));
+
+    page.evaluate(forget);
+    page.evaluate(PageScripts::showRouteAndCall("drives", "isNotThere"));
+    EXPECT_EQ(page.exception(), "");
+    EXPECT_EQ(page.value("calls"), noted({Call{"showPage", "drives"}}));
+}
+
+TEST(PageScripts, noArgumentBreaksOutOfItsString)
+{
+    ScriptEngine page(pageWithShowPage);
+    HostileTexts texts;
+    int arrived = 0;
+    for (int i = 0; i < 5000; ++i) {
+        const auto argument = texts.next();
+        page.evaluate(forget);
+        page.evaluate(PageScripts::showRouteAndCall("drives", "viewDriveDetail", argument));
+
+        // A line break ends the literal too early: the engine refuses the whole script.
+        const auto expected = hasLineBreak(argument)
+            ? noted({})
+            : noted({Call{"showPage", "drives"}, Call{"viewDriveDetail", argument}});
+        ASSERT_EQ(page.value("calls"), expected) << argument;
+        ASSERT_EQ(page.exception(), hasLineBreak(argument) ? "SyntaxError" : "") << argument;
+        ASSERT_EQ(page.value("intruded"), Value(0)) << argument;
+        arrived += !hasLineBreak(argument);
+    }
+    EXPECT_GT(arrived, 1000);
+}
+
+TEST(PageScripts, noRouteRunsAnythingButThePagesOwnFunction)
+{
+    ScriptEngine page(pageWithShowPage);
+    ScriptEngine bare(barePage);
+    HostileTexts texts;
+    int shown = 0;
+    for (int i = 0; i < 5000; ++i) {
+        const auto route = texts.next();
+        for (const auto& script : {PageScripts::showRoute(route),
+                 PageScripts::showRouteAndCall(route, "noFunction", "a")}) {
+            page.evaluate(forget);
+            page.evaluate(script);
+            ASSERT_EQ(page.value("intruded"), Value(0)) << script;
+            ASSERT_EQ(page.value("location.href"), Value("")) << script;
+            if (page.exception().empty()) {
+                ++shown;
+                ASSERT_EQ(page.value("calls.length"), Value(1)) << script;
+                ASSERT_EQ(page.value("calls[0].length"), Value(2)) << script;
+            } else {
+                ASSERT_EQ(page.exception(), "SyntaxError") << script;
+                ASSERT_EQ(page.value("calls"), noted({})) << script;
+            }
+
+            bare.evaluate(forget);
+            bare.evaluate(script);
+            ASSERT_EQ(bare.value("intruded"), Value(0)) << script;
+            if (bare.exception().empty())
+                ASSERT_EQ(bare.value("location.href.startsWith('/online#')"), Value(true))
+                    << script;
+            else
+                ASSERT_EQ(bare.value("location.href"), Value("")) << script;
+        }
+    }
+    EXPECT_GT(shown, 1000);
+}
+
+TEST(PageScripts, aBackslashInARouteIsReadByTheEngineAndOneAtItsEndMakesTheScriptUnreadable)
+{
+    struct Case {
+        std::string route;
+        std::optional<std::string> shown; // absent: a syntax error, and nothing runs
+    };
+    const Case cases[] = {
+        {"fuel\\", {}},
+        {"fuel\\\\", "fuel\\"},
+        {"fuel\\\\\\", {}},
+        {"fu\\nel", "fu\nel"},
+        {"\\x27);intruded=1;//", "');intruded=1;//"},
+        {"\\xg", {}},
+        {"\\'", {}},
+        {");intruded=1;//\\", {}},
+    };
+    for (const auto& [route, shown] : cases) {
+        ScriptEngine page(pageWithShowPage);
+        page.evaluate(PageScripts::showRoute(route));
+        EXPECT_EQ(page.exception(), shown ? "" : "SyntaxError") << route;
+        EXPECT_EQ(page.value("calls"), shown ? noted({Call{"showPage", *shown}}) : noted({}))
+            << route;
+        EXPECT_EQ(page.value("intruded"), Value(0)) << route;
+    }
+}
+
+TEST(PageScripts, reloadOnThePageThatIsShown)
+{
+    struct Case {
+        std::string currentPage;
+        std::string hash;
+        std::string hashAfter;
+    };
+    const Case cases[] = {
+        {"var _currentPage = 'fuel';", "#drives", "fuel"},
+        {"var _currentPage = 'fuel';", "#fuel", "#fuel"},
+        {"var _currentPage = '';", "#drives", "#drives"},
+        {"var _currentPage = 3;", "#drives", "#drives"},
+        {"", "#drives", "#drives"},
+        {"Object.defineProperty(globalThis, '_currentPage', { get() { throw 1; } });", "#drives",
+            "#drives"},
+    };
+    for (const auto& [currentPage, hash, hashAfter] : cases) {
+        ScriptEngine page("var reloads = 0; var location = { hash: '" + hash
+            + "', reload() { ++reloads; } };" + currentPage);
+        page.evaluate(PageScripts::reloadKeepingRoute());
+        EXPECT_EQ(page.value("reloads"), Value(1)) << currentPage;
+        EXPECT_EQ(page.value("location.hash"), Value(hashAfter)) << currentPage;
+    }
+}

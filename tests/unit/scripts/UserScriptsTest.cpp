@@ -1,0 +1,79 @@
+#include "web/UserScripts.h"
+#include "ScriptEngine.h"
+
+#include <gtest/gtest.h>
+
+using platform::Value;
+namespace UserScripts = velmaro::UserScripts;
+
+namespace {
+
+// A page whose clock is turned by `tick()`.
+constexpr auto page = R"js(
+    var posts = [];
+    var ticks = [];
+    function setInterval(action, milliseconds) { ticks.push([action, milliseconds]); }
+    function tick() { ticks.forEach(([action]) => action()); }
+    window.webkit = { messageHandlers: { authBridge: { postMessage(body) { posts.push(body); } } } };
+)js";
+
+Value names(const char* first, const char* last)
+{
+    return Value::Object{{"firstname", first}, {"lastname", last}};
+}
+
+} // namespace
+
+TEST(UserScripts, theMarkerTellsPagesWhereTheyRun)
+{
+    ScriptEngine engine("");
+    engine.evaluate(UserScripts::platformMarker);
+    EXPECT_EQ(engine.value("window.__vlPlatform"), Value("desktop"));
+}
+
+TEST(UserScripts, theSignInWatcherIsWhatTheServiceExpectsToTheLetter)
+{
+    EXPECT_EQ(std::string(UserScripts::signInWatcher).size(), 572u);
+}
+
+TEST(UserScripts, theSignInWatcherPostsOnceAndThenOnlyChanges)
+{
+    ScriptEngine engine(page);
+    engine.evaluate(UserScripts::signInWatcher);
+    EXPECT_EQ(engine.value("posts"), Value(Value::Array{nullptr}));
+    EXPECT_EQ(
+        engine.value("ticks.map(([, milliseconds]) => milliseconds)"), Value(Value::Array{1000}));
+
+    struct Step {
+        const char* change;
+        std::optional<Value> posted;
+    };
+    const Step steps[] = {
+        {"", {}},
+        {"currentUser = { firstname: 'Ada', lastname: 'Moor', other: 1 }", names("Ada", "Moor")},
+        {"currentUser = { firstname: 'Ada', lastname: 'Moor' }", {}},
+        {"currentUser.lastname = 'Lund'", names("Ada", "Lund")},
+        {"currentUser = { firstname: 'Ada' }", names("Ada", "")},
+        {"currentUser = {}", names("", "")},
+        {"Object.defineProperty(currentUser, 'firstname', { get() { throw 1; } })", {}},
+        {"currentUser = null", Value()},
+        {"currentUser = undefined", {}},
+        {"window.webkit = undefined; currentUser = { firstname: 'Eve' }", {}},
+    };
+    for (const auto& [change, posted] : steps) {
+        engine.evaluate("posts = [];" + std::string(change));
+        engine.evaluate("tick()");
+        EXPECT_EQ(engine.exception(), "") << change;
+        EXPECT_EQ(engine.value("posts"), Value(posted ? Value::Array{*posted} : Value::Array{}))
+            << change;
+    }
+}
+
+TEST(UserScripts, theSignInWatcherIsInstalledOnce)
+{
+    ScriptEngine engine(page);
+    engine.evaluate(UserScripts::signInWatcher);
+    engine.evaluate(UserScripts::signInWatcher);
+    EXPECT_EQ(engine.value("posts.length"), Value(1));
+    EXPECT_EQ(engine.value("ticks.length"), Value(1));
+}

@@ -1,0 +1,278 @@
+#include "Stage.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <map>
+#include <random>
+
+using namespace ui;
+
+// Two laws, tried on random trees. A failure names the seed that repeats it.
+
+namespace {
+
+constexpr unsigned seedCount = 60;
+constexpr int stepCount = 40;
+
+class Random {
+public:
+    explicit Random(unsigned seed)
+        : engine_(seed)
+    {
+    }
+
+    // 0 to `count` - 1.
+    std::size_t below(std::size_t count) { return engine_() % count; }
+
+private:
+    std::mt19937 engine_; // the same numbers with every standard library
+};
+
+struct NoView final : platform::NSView, simulated::SimulatedPlace {
+    platform::NSWindow* window() const override { return windowOfHost(); }
+};
+
+struct Host {
+    struct Coordinator { };
+    using NSViewType = NoView;
+
+    std::shared_ptr<Coordinator> makeCoordinator() const { return std::make_shared<Coordinator>(); }
+    std::shared_ptr<NoView> makeNSView(Coordinator&) const { return std::make_shared<NoView>(); }
+    void updateNSView(NoView&, Coordinator&) const { }
+};
+
+// One thing that changes in many ways, shown by one component.
+struct Item {
+    enum class Look { text, nothing, host, row, layers, mixed, onlyChild, invisible, count };
+
+    int id = 0;
+    Published<Look> look = Look::text;
+    Published<int> number = 0;
+    Published<std::vector<std::shared_ptr<Item>>> children;
+};
+
+struct ItemView;
+struct ComparedItemView;
+
+View viewOf(const std::shared_ptr<Item>& item);
+
+View bodyOf(const Item& item)
+{
+    const auto key = [](const auto& child) { return std::to_string(child->id); };
+    const auto children = [&] { return ForEach(item.children(), key, viewOf); };
+    const auto text = [&] { return Text(std::to_string(item.number())); };
+
+    switch (item.look()) {
+    case Item::Look::nothing:
+        return {};
+    case Item::Look::host:
+        return Host{};
+    case Item::Look::row:
+        return HStack{{.spacing = double(item.number())}, children()};
+    case Item::Look::layers:
+        return ZStack{{}, children(), text()}.background(Fill(Color::gray));
+    case Item::Look::mixed:
+        return VStack{
+            {}, text(), children(), item.number() % 2 ? View(Host{}) : View(), text(), children()};
+    case Item::Look::onlyChild:
+        return item.children().empty() ? View() : viewOf(item.children().front());
+    case Item::Look::invisible:
+        return HStack{{}, children(), Host{}}.opacity(item.number() % 3).padding({.top = 1});
+    default:
+        return text();
+    }
+}
+
+struct ItemView {
+    std::shared_ptr<Item> item;
+    View body() const { return bodyOf(*item); }
+};
+
+struct ComparedItemView {
+    std::shared_ptr<Item> item;
+    bool operator==(const ComparedItemView&) const = default;
+    View body() const { return bodyOf(*item); }
+};
+
+View viewOf(const std::shared_ptr<Item>& item)
+{
+    return item->id % 2 ? View(ItemView{item}) : View(ComparedItemView{item});
+}
+
+// A tree of items that grows, shrinks and is shuffled at random.
+class Forest {
+public:
+    explicit Forest(Random& random)
+        : random_(random)
+        , root(makeItem())
+    {
+        root->look = Item::Look::row;
+    }
+
+    void change()
+    {
+        auto& item = *anyItem();
+        switch (random_.below(6)) {
+        case 0:
+            item.look =
+                static_cast<Item::Look>(random_.below(static_cast<std::size_t>(Item::Look::count)));
+            break;
+        case 1:
+            item.number = static_cast<int>(random_.below(4));
+            break;
+        case 2:
+        case 3:
+            item.children.mutate([&](auto& children) {
+                const auto place = random_.below(children.size() + 1);
+                children.insert(children.begin() + static_cast<std::ptrdiff_t>(place), makeItem());
+            });
+            break;
+        case 4:
+            item.children.mutate([&](auto& children) {
+                if (!children.empty())
+                    children.erase(children.begin()
+                        + static_cast<std::ptrdiff_t>(random_.below(children.size())));
+            });
+            break;
+        default:
+            item.children.mutate([&](auto& children) {
+                for (std::size_t i = children.size(); i > 1; --i)
+                    std::swap(children[i - 1], children[random_.below(i)]);
+            });
+        }
+    }
+
+private:
+    std::shared_ptr<Item> makeItem()
+    {
+        auto item = std::make_shared<Item>();
+        item->id = ++itemCount_;
+        item->number = itemCount_;
+        item->look =
+            static_cast<Item::Look>(random_.below(static_cast<std::size_t>(Item::Look::count)));
+        return item;
+    }
+
+    std::shared_ptr<Item> anyItem()
+    {
+        auto item = root;
+        while (!item->children().empty() && random_.below(4) > 0)
+            item = item->children()[random_.below(item->children().size())];
+        return item;
+    }
+
+    Random& random_;
+    int itemCount_ = 0;
+
+public:
+    std::shared_ptr<Item> root;
+};
+
+// Whether a hidden native view was made depends on whether it was ever shown: the one difference
+// that may stay.
+std::string looksOf(const simulated::SimulatedWindow& window)
+{
+    auto text = window.content().describe();
+    for (const std::string unmade = " unmade"; auto found = text.find(unmade) + 1;)
+        text.erase(found - 1, unmade.size());
+    return text;
+}
+
+} // namespace
+
+TEST(ReconcilerLaws, anyHistoryOfUpdatesEqualsAFreshBuild)
+{
+    for (unsigned seed = 1; seed <= seedCount; ++seed) {
+        Stage stage;
+        Random random(seed);
+        Forest forest(random);
+        auto& window = stage.show(viewOf(forest.root));
+        for (int step = 0; step < stepCount; ++step) {
+            for (auto changes = 1 + random.below(6); changes > 0; --changes)
+                forest.change();
+            stage.settle();
+            auto& fresh = stage.show(viewOf(forest.root));
+            ASSERT_EQ(looksOf(window), looksOf(fresh)) << "seed " << seed << ", step " << step;
+            fresh.close();
+            stage.settle();
+        }
+    }
+}
+
+namespace {
+
+struct Token {
+    std::string key;
+    std::shared_ptr<std::map<std::string, std::function<void(int)>>> setters;
+    State<int> token = 0;
+
+    auto state() { return std::tie(token); }
+    View body() const
+    {
+        (*setters)[key] = token.setter();
+        return HStack{{}, Text(key + ":" + std::to_string(token())), Host{}};
+    }
+};
+
+// What is known of a key since it was last added.
+struct Trace {
+    int token;
+    const simulated::SimulatedWidget* widget;
+};
+
+} // namespace
+
+TEST(ReconcilerLaws, aWidgetFollowsItsKeyWithItsState)
+{
+    struct Row {
+        std::shared_ptr<Published<std::vector<std::string>>> keys;
+        std::shared_ptr<std::map<std::string, std::function<void(int)>>> setters;
+        View body() const
+        {
+            return VStack{{}, Fill(Color::clear),
+                ForEach((*keys)(), [](const auto& key) { return key; },
+                    [this](const auto& key) {
+                        return Token{key, setters};
+                    })};
+        }
+    };
+
+    for (unsigned seed = 1; seed <= seedCount; ++seed) {
+        Stage stage;
+        Random random(seed);
+        const auto keys = std::make_shared<Published<std::vector<std::string>>>();
+        const auto setters = std::make_shared<std::map<std::string, std::function<void(int)>>>();
+        auto& window = stage.show(Row{keys, setters});
+        std::map<std::string, Trace> traces;
+        int tokenCount = 0;
+
+        for (int step = 0; step < stepCount; ++step) {
+            SCOPED_TRACE("seed " + std::to_string(seed) + ", step " + std::to_string(step));
+            std::vector<std::string> next;
+            for (const auto* key : {"a", "b", "c", "d", "e", "f", "g"}) {
+                if (random.below(3) > 0)
+                    next.insert(
+                        next.begin() + static_cast<std::ptrdiff_t>(random.below(next.size() + 1)),
+                        key);
+            }
+            *keys = next;
+            stage.settle();
+
+            const auto rows = window.content().findAll<StackNode>();
+            ASSERT_EQ(rows.size(), next.size() + 1);
+            std::map<std::string, Trace> newTraces;
+            for (std::size_t i = 0; i < next.size(); ++i) {
+                const auto& key = next[i];
+                const auto* widget = rows[i + 1];
+                const auto known = traces.find(key);
+                const int token = known == traces.end() ? 0 : known->second.token;
+                ASSERT_EQ(textsOf(*widget), key + ":" + std::to_string(token));
+                ASSERT_EQ(widget, known == traces.end() ? widget : known->second.widget);
+                newTraces[key] = {known == traces.end() ? ++tokenCount : token, widget};
+                setters->at(key)(newTraces[key].token);
+            }
+            traces = newTraces;
+            stage.settle();
+        }
+    }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/simulated/SimulatedPlatform.h"
+#include "platform/ui/Views.h"
+
+// A desktop with one window for views to be shown in.
+struct Stage {
+    simulated::SimulatedWindow& show(ui::View content)
+    {
+        auto& window = platform.application().simulateBareWindow({});
+        window.show(std::move(content));
+        return window;
+    }
+
+    // Lets the turn of the main loop end.
+    void settle() { platform.mainQueue().runUntilIdle(); }
+
+    simulated::SimulatedPlatform platform;
+};
+
+// The texts below `widget`, in order, with one blank between.
+inline std::string textsOf(const simulated::SimulatedWidget& widget)
+{
+    std::string texts;
+    for (const auto* text : widget.findAll<ui::TextNode>())
+        texts += (texts.empty() ? "" : " ") + text->node<ui::TextNode>()->text;
+    return texts;
+}

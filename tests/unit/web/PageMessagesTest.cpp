@@ -1,0 +1,93 @@
+#include "web/PageMessages.h"
+
+#include "platform/simulated/SimulatedPlatform.h"
+#include "tabs/TabbedAppModel.h"
+#include "web/WebModel.h"
+
+#include <gtest/gtest.h>
+
+using platform::Value;
+using velmaro::UserIdentity;
+using velmaro::WebModel;
+
+namespace {
+
+struct PageMessages : testing::Test {
+    // Handles the message as if it had come from the page of `model`. False when nothing is to be
+    // done.
+    bool post(const std::string& name, Value body)
+    {
+        const auto action = velmaro::actionForPageMessage({name, std::move(body)});
+        if (action)
+            action(model);
+        return static_cast<bool>(action);
+    }
+
+    simulated::SimulatedPlatform platform;
+    WebModel model{"drives"};
+};
+
+} // namespace
+
+TEST_F(PageMessages, reportWhoIsSignedIn)
+{
+    struct Step {
+        Value body;
+        std::optional<UserIdentity> user;
+    };
+    const Step steps[] = {
+        {Value::Object{{"firstname", "Ada"}, {"lastname", "Moor"}}, UserIdentity{"Ada", "Moor"}},
+        {Value::Object{{"firstname", 5}, {"lastname", Value::Array{}}}, UserIdentity{"", ""}},
+        {Value::Object{{"firstname", "Ada"}}, UserIdentity{"Ada", ""}},
+        {Value(), {}},
+        {Value::Object{}, UserIdentity{"", ""}},
+        {Value("Ada"), {}},
+    };
+    for (const auto& [body, user] : steps) {
+        EXPECT_TRUE(post("authBridge", body));
+        EXPECT_EQ(model.user(), user);
+        EXPECT_EQ(platform.userDefaults().contains("vl.user.identity"), user.has_value());
+        const auto writes = platform.userDefaults().writes().size();
+        post("authBridge", body);
+        EXPECT_EQ(platform.userDefaults().writes().size(), writes);
+    }
+}
+
+TEST_F(PageMessages, reportTheRouteAsItIs)
+{
+    for (const auto& body :
+        {Value(), Value("fuel"), Value(Value::Object{}), Value(Value::Object{{"page", 3}})})
+        EXPECT_FALSE(post("routeBridge", body));
+    EXPECT_EQ(model.currentRoute(), "drives");
+    post("routeBridge", Value::Object{{"page", " Fuel "}});
+    EXPECT_EQ(model.currentRoute(), " Fuel ");
+    post("routeBridge", Value::Object{{"page", ""}});
+    EXPECT_EQ(model.currentRoute(), "");
+}
+
+TEST_F(PageMessages, finishTheWelcomeTour)
+{
+    post("onboardingBridge", Value());
+    EXPECT_TRUE(platform.userDefaults().boolean("vl.onboarding.completed"));
+    EXPECT_TRUE(platform.userDefaults().boolean("vl.onboarding.shown"));
+}
+
+TEST_F(PageMessages, openATabOrLeaveOne)
+{
+    post("tabBridge", Value()); // without a tab model
+    post("logoutBridge", Value());
+
+    const auto app = velmaro::TabbedAppModel::make();
+    post("tabBridge", Value("ignored"));
+    EXPECT_EQ(app->tabs().size(), 2u);
+    EXPECT_EQ(app->activeTab()->currentRoute(), "newtab");
+    const auto active = app->activeTab();
+    post("logoutBridge", Value());
+    EXPECT_EQ(app->tabs(), velmaro::TabbedAppModel::Tabs{active});
+}
+
+TEST_F(PageMessages, underUnknownNamesAreDropped)
+{
+    for (const auto* name : {"", "AuthBridge", "unknownBridge"})
+        EXPECT_FALSE(post(name, Value::Object{{"page", "fuel"}}));
+}

@@ -1,0 +1,107 @@
+#include "web/TabContent.h"
+
+#include "ui/Stage.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct TabContents : Stage, testing::Test {
+    // Progress as shown; absent when there is no line.
+    std::optional<double> progress() const
+    {
+        const auto lines = window->content().findAll<ui::ProgressBarNode>();
+        return lines.empty() ? std::nullopt
+                             : std::optional(lines[0]->node<ui::ProgressBarNode>()->fraction);
+    }
+
+    // Splashes in the tree: 1 while it covers the page.
+    std::size_t splashes() const
+    {
+        std::size_t count = 0;
+        for (const auto* fill : window->content().findAll<ui::FillNode>())
+            count += fill->node<ui::FillNode>()->color == ui::Color::windowBackground;
+        return count;
+    }
+
+    void open()
+    {
+        window = &show(velmaro::TabContent{model});
+        settle();
+    }
+
+    std::shared_ptr<velmaro::WebModel> model = std::make_shared<velmaro::WebModel>("fuel");
+    simulated::SimulatedWindow* window = nullptr;
+};
+
+} // namespace
+
+TEST_F(TabContents, hideThePageUntilItHasATitle)
+{
+    open();
+    EXPECT_EQ(splashes(), 1u);
+    model->pageTitle = "Fuel";
+    settle();
+    EXPECT_EQ(splashes(), 0u);
+    EXPECT_NE(window->content().describe().find("fades duration 0.2 leaving"), std::string::npos);
+    platform.mainQueue().advance(0.2);
+    EXPECT_EQ(window->content().describe().find("leaving"), std::string::npos);
+
+    model->pageTitle = "";
+    settle();
+    EXPECT_EQ(splashes(), 1u);
+}
+
+TEST_F(TabContents, showALineOnlyWhileLoading)
+{
+    open();
+    EXPECT_EQ(progress(), std::nullopt);
+    model->isLoading = true;
+    model->estimatedProgress = 0.4;
+    settle();
+    EXPECT_EQ(progress(), 0.4);
+    EXPECT_NE(window->content().describe().find("height 2"), std::string::npos);
+    model->isLoading = false;
+    settle();
+    EXPECT_EQ(progress(), std::nullopt);
+}
+
+TEST_F(TabContents, progressRedrawsNothingButItsLine)
+{
+    open();
+    model->isLoading = true;
+    settle();
+    window->renderer().counts = {};
+    model->estimatedProgress = 0.7;
+    settle();
+    const auto& counts = window->renderer().counts;
+    EXPECT_EQ(counts.made + counts.placed + counts.removed, 0);
+    EXPECT_LE(counts.applied, 2); // the line and its frame
+    EXPECT_EQ(progress(), 0.7);
+}
+
+TEST_F(TabContents, keepTheWebViewWhateverComesAndGoes)
+{
+    open();
+    const auto webView = platform.webViews().at(0).lock();
+    for (const auto* title : {"a", "", "b"}) {
+        model->pageTitle = title;
+        model->isLoading = !model->isLoading();
+        platform.mainQueue().advance(1);
+    }
+    EXPECT_EQ(platform.webViews().size(), 1u);
+    EXPECT_EQ(webView->loads.size(), 1u);
+    EXPECT_EQ(webView->window(), window);
+}
+
+TEST_F(TabContents, showTheIconFaintlyWhereThereIsOne)
+{
+    open();
+    EXPECT_TRUE(window->content().findAll<ui::ApplicationIconNode>().empty());
+    platform.application().hasIcon = true;
+    open();
+    const auto text = window->content().describe();
+    EXPECT_NE(text.find("opacity 0.15"), std::string::npos);
+    EXPECT_NE(text.find("width 160 height 160"), std::string::npos);
+    EXPECT_EQ(window->content().findAll<ui::ApplicationIconNode>().size(), 1u);
+}

@@ -1,0 +1,172 @@
+#include "web/WebModel.h"
+
+#include "platform/simulated/SimulatedPlatform.h"
+
+#include <gtest/gtest.h>
+
+using platform::Data;
+using velmaro::UserIdentity;
+using velmaro::WebModel;
+using Scripts = std::vector<std::string>;
+
+namespace {
+
+constexpr auto key = "vl.user.identity";
+
+Data dataOf(std::string_view text)
+{
+    const auto* bytes = reinterpret_cast<const std::byte*>(text.data());
+    return Data(bytes, bytes + text.size());
+}
+
+struct WebModels : testing::Test {
+    std::optional<UserIdentity> stored()
+    {
+        const auto data = platform.userDefaults().data(key);
+        return data ? UserIdentity::decoded(*data) : std::nullopt;
+    }
+
+    simulated::SimulatedPlatform platform;
+};
+
+struct ShownWebModel : WebModels {
+    ShownWebModel() { model.webView = webView; }
+
+    std::shared_ptr<simulated::SimulatedWebView> webView =
+        std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
+    WebModel model;
+};
+
+} // namespace
+
+TEST_F(WebModels, startOnTheirRoute)
+{
+    EXPECT_EQ(WebModel().currentRoute(), "");
+    EXPECT_EQ(WebModel("newtab").currentRoute(), "newtab");
+    EXPECT_EQ(WebModel("").initialRoute, "");
+    EXPECT_NE(WebModel().id, WebModel().id);
+}
+
+TEST_F(WebModels, startWithTheStoredIdentity)
+{
+    EXPECT_FALSE(WebModel().user());
+    platform.userDefaults().plant(key, dataOf(R"({"firstname":"Ada","lastname":"Moor"})"));
+    EXPECT_EQ(WebModel().user(), (UserIdentity{"Ada", "Moor"}));
+}
+
+TEST_F(WebModels, ignoreAndKeepAnIdentityThatCannotBeRead)
+{
+    for (const auto& damaged : {simulated::SimulatedUserDefaults::Stored(dataOf("not JSON")),
+             simulated::SimulatedUserDefaults::Stored(std::string("text"))}) {
+        platform.userDefaults().plant(key, damaged);
+        EXPECT_FALSE(WebModel().user());
+        EXPECT_EQ(platform.userDefaults().contents().at(key), damaged);
+    }
+}
+
+TEST_F(WebModels, storeAndPublishTheUserOnlyWhenItChanges)
+{
+    struct Step {
+        std::optional<UserIdentity> identity;
+        bool changes;
+    };
+    const Step steps[] = {
+        {{}, false},
+        {UserIdentity{"Zo\u00eb", "Moor"}, true},
+        {UserIdentity{"Zoe\u0308", "Moor"}, false},
+        {UserIdentity{"", ""}, true},
+        {UserIdentity{"", ""}, false},
+        {{}, true},
+        {{}, false},
+    };
+    WebModel model;
+    int changes = 0;
+    const ui::Observation observation([&] { model.user(); }, [&] { ++changes; });
+    for (const auto& [identity, isChange] : steps) {
+        const auto writes = platform.userDefaults().writes().size();
+        changes = 0;
+        model.setUser(identity);
+        EXPECT_EQ(changes, isChange);
+        EXPECT_EQ(platform.userDefaults().writes().size() - writes, isChange);
+        EXPECT_EQ(model.user(), identity);
+        EXPECT_EQ(stored(), identity);
+    }
+}
+
+TEST_F(WebModels, keepTheNewUserWhenItCannotBeStored)
+{
+    WebModel model;
+    model.setUser(UserIdentity{"Ada", "Moor"});
+    model.setUser(UserIdentity{"\xff", ""});
+    EXPECT_EQ(model.user(), (UserIdentity{"\xff", ""}));
+    EXPECT_EQ(stored(), (UserIdentity{"Ada", "Moor"}));
+}
+
+TEST_F(WebModels, doNothingWithoutAWebView)
+{
+    WebModel model("fuel");
+    model.webView =
+        std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
+    model.showRoute("drives");
+    model.showRouteAndCall("drives", "addDrive");
+    model.showRouteAndCall("drives", "viewDriveDetail", "1");
+    model.reloadKeepingRoute();
+    model.goBack();
+    model.goForward();
+    model.handleDeepLink(*platform::URL::fromString("velmaro://fuel"));
+    EXPECT_EQ(model.currentRoute(), "fuel");
+}
+
+TEST_F(ShownWebModel, evaluatesThePageScriptsToTheLetter)
+{
+    model.showRoute("o'brien");
+    model.showRouteAndCall("fu'el", "add'Fuel");
+    model.showRouteAndCall("drives", "viewDriveDetail", "a'b\\c");
+    model.reloadKeepingRoute();
+    EXPECT_EQ(webView->scripts,
+        (Scripts{
+            "if (typeof showPage === 'function') { showPage('obrien'); } else { location.href = "
+            "'/online#obrien'; }",
+            "(function(){\n  if (typeof showPage === 'function') { showPage('fuel'); } else { "
+            "location.href = "
+            "'/online#fuel'; }\n  if (typeof addFuel === 'function') { try { addFuel(); } "
+            "catch(_){} }\n})();",
+            "(function(){\n  if (typeof showPage === 'function') { showPage('drives'); } else { "
+            "location.href = "
+            "'/online#drives'; }\n  if (typeof viewDriveDetail === 'function') { try { "
+            "viewDriveDetail('a\\'b\\\\c'); } catch(_){} }\n})();",
+            "(function () {\n  try {\n    if (typeof _currentPage === 'string' && _currentPage) "
+            "{\n      if "
+            "(window.location.hash !== '#' + _currentPage) {\n        window.location.hash = "
+            "_currentPage;\n      "
+            "}\n    }\n  } catch (_) {}\n  window.location.reload();\n})();",
+        }));
+}
+
+TEST_F(ShownWebModel, goesBackAndForth)
+{
+    model.goBack();
+    webView->simulateHistory(true, true);
+    model.goBack();
+    model.goForward();
+    model.goForward();
+    EXPECT_EQ(webView->stepsBack, 1);
+    EXPECT_EQ(webView->stepsForward, 2);
+    EXPECT_TRUE(webView->scripts.empty());
+}
+
+TEST_F(ShownWebModel, followsDeepLinks)
+{
+    WebModel other;
+    const auto otherView =
+        std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
+    other.webView = otherView;
+    other.showRoute("drives");
+    other.showRouteAndCall("drives", "viewDriveDetail", "7");
+    other.showRouteAndCall("fuel", "addFuel");
+
+    for (const auto* address : {"velmaro://page/drives", "velmaro://drive/+007",
+             "velmaro://new/fuel", "velmaro://drive/abc", "https://velmaro.example/fuel"})
+        model.handleDeepLink(*platform::URL::fromString(address));
+    EXPECT_EQ(webView->scripts, otherView->scripts);
+}
