@@ -1,0 +1,73 @@
+#include "app/VelmaroOnlineApp.h"
+#include "platform/gtk/GtkPlatform.h"
+#include "web/Service.h"
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+constexpr int usageError = 2;
+
+constexpr auto help = R"(Usage: velmaro-online [ADDRESS]
+
+Opens Velmaro Online, or brings it forward where it runs already. ADDRESS is a
+page to show in it, such as velmaro://page/drives.
+
+  --help     Show this text
+  --version  Show the version
+
+VELMARO_SERVICE_ORIGIN       https origin of the web service
+VELMARO_SERVICE_CERTIFICATE  PEM file with a certificate to trust for that host
+)";
+
+int fail(const std::string& line)
+{
+    std::fprintf(stderr, "velmaro-online: %s\n", line.c_str());
+    return usageError;
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    const std::string argument = argumentCount > 1 ? arguments[1] : "";
+    if (argument == "--help") {
+        std::fputs(help, stdout);
+        return EXIT_SUCCESS;
+    }
+    if (argument == "--version") {
+        std::puts("Velmaro Online " VELMARO_VERSION);
+        return EXIT_SUCCESS;
+    }
+    if (argument.starts_with("-"))
+        return fail("there is no option " + argument + "; --help tells which there are");
+
+    // Texts for people follow the user's language; numbers, which stand in scripts and files, do
+    // not.
+    std::setlocale(LC_ALL, "");
+    std::setlocale(LC_NUMERIC, "C");
+
+    gtk::GtkPlatform platform({
+        .identifier = "example.velmaro.Online",
+        .address = argument.empty() ? std::nullopt : std::optional(argument),
+    });
+
+    auto& service = velmaro::Service::current();
+    if (const char* origin = std::getenv("VELMARO_SERVICE_ORIGIN")) {
+        if (!service.setServiceOrigin(origin))
+            return fail(
+                "VELMARO_SERVICE_ORIGIN is not an https origin such as https://example.com: "
+                + std::string(origin));
+    }
+    if (const char* path = std::getenv("VELMARO_SERVICE_CERTIFICATE")) {
+        if (const auto failure = platform.trust({service.serviceHost(), path}))
+            return fail("VELMARO_SERVICE_CERTIFICATE cannot be used: " + *failure);
+    }
+    platform.expectHost(service.serviceHost());
+
+    velmaro::VelmaroOnlineApp app;
+    return app.run();
+}

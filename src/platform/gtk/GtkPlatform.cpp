@@ -1,0 +1,128 @@
+#include "platform/gtk/GtkPlatform.h"
+
+#include "platform/gtk/appkit/Application.h"
+#include "platform/gtk/appkit/PlainView.h"
+#include "platform/gtk/appkit/RendererPolicy.h"
+#include "platform/gtk/appkit/Screen.h"
+#include "platform/gtk/foundation/MainLoopQueue.h"
+#include "platform/gtk/foundation/ProgramBundle.h"
+#include "platform/gtk/foundation/SettingsFile.h"
+#include "platform/gtk/foundation/StandardPaths.h"
+#include "platform/gtk/webkit/GtkWebView.h"
+#include "platform/gtk/webkit/WebEngine.h"
+
+#include <gio/gio.h>
+#include <glibmm/init.h>
+
+namespace gtk {
+
+namespace {
+
+constexpr auto programName = "velmaro-online";
+constexpr auto settingsName = "settings.json";
+
+StandardPaths standardPaths()
+{
+    return StandardPaths::forProgram(programName);
+}
+
+} // namespace
+
+GtkPlatform::GtkPlatform(Options options)
+    : mainQueue_(std::make_unique<MainLoopQueue>())
+    , settings_(std::make_unique<SettingsFile>(
+          standardPaths().config / settingsName, *mainQueue_, platform::NSLog))
+    , bundle_(std::make_unique<ProgramBundle>())
+{
+    chooseRenderer();
+    // Desktops find the program's windows, and its desktop entry from them, by this name.
+    g_set_prgname(options.identifier.c_str());
+    // Texts for people follow the user's language; numbers in scripts and files must not.
+    Glib::set_init_to_users_preferred_locale(false);
+    application_ = std::make_unique<Application>(*this, options.identifier, options.address);
+}
+
+GtkPlatform::~GtkPlatform()
+{
+    releaseSharedObjects();
+}
+
+std::optional<std::string> GtkPlatform::trust(HostCertificate certificate)
+{
+    GError* error = nullptr;
+    auto* found = g_tls_certificate_new_from_file(certificate.path.c_str(), &error);
+    if (!found) {
+        const std::string reason = error->message;
+        g_error_free(error);
+        return reason;
+    }
+    g_object_unref(found);
+    certificate_ = std::move(certificate);
+    return std::nullopt;
+}
+
+platform::DispatchQueue& GtkPlatform::mainQueue()
+{
+    return *mainQueue_;
+}
+
+platform::UserDefaults& GtkPlatform::userDefaults()
+{
+    return *settings_;
+}
+
+platform::Bundle& GtkPlatform::mainBundle()
+{
+    return *bundle_;
+}
+
+platform::NSApplication& GtkPlatform::application()
+{
+    return *application_;
+}
+
+platform::NSScreen* GtkPlatform::mainScreen()
+{
+    const auto keyWindow = application_->keyWindow();
+    auto* screen = keyWindow ? keyWindow->screen() : nullptr;
+    return screen ? screen : Screen::first();
+}
+
+std::shared_ptr<platform::NSView> GtkPlatform::makeView()
+{
+    return std::make_shared<PlainView>();
+}
+
+std::shared_ptr<platform::WKWebView> GtkPlatform::makeWebView(
+    const platform::WKWebViewConfiguration& configuration)
+{
+    return std::make_shared<GtkWebView>(webEngine(), configuration);
+}
+
+void GtkPlatform::log(const std::string& line)
+{
+    g_log(programName, G_LOG_LEVEL_MESSAGE, "%s", line.c_str());
+}
+
+WebEngine& GtkPlatform::webEngine()
+{
+    if (!webEngine_)
+        webEngine_ =
+            std::make_unique<WebEngine>(standardPaths(), certificate_, hasGraphicsProcessor());
+    return *webEngine_;
+}
+
+std::optional<std::string> GtkPlatform::prepare()
+{
+    webEngine().prepare(expectedHost_);
+    if (const auto missing = webEngine().missingSandboxHelper())
+        return "web pages cannot be shown without their sandbox: " + *missing;
+    return std::nullopt;
+}
+
+void GtkPlatform::saveSettings()
+{
+    settings_->flush();
+}
+
+} // namespace gtk

@@ -1,0 +1,171 @@
+#include "platform/gtk/appkit/Application.h"
+
+#include "platform/appkit/NSApplicationDelegate.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/gtk/appkit/LostDisplay.h"
+#include "platform/gtk/appkit/MainWindow.h"
+#include "platform/gtk/appkit/TerminationSignals.h"
+#include "platform/gtk/GtkPlatform.h"
+#include "platform/gtk/ui/ApplicationIcon.h"
+#include "platform/gtk/webkit/WebEngine.h"
+
+#include <algorithm>
+
+namespace gtk {
+
+Application::Application(
+    GtkPlatform& platform, const std::string& identifier, std::optional<std::string> address)
+    : platform_(platform)
+    , program_(identifier,
+          {
+              .startup = [&platform] { return platform.prepare(); },
+              .activate = [this] { activate(); },
+              .open = [this](const auto& addresses) { open(addresses); },
+              .shutdown = [this] { finish(); },
+          })
+    , address_(std::move(address))
+    , openURLQueue_(
+          platform.mainQueue(),
+          [this] { return !windows_.empty() && platform_.webEngine().isFrontPageReady(); },
+          [this](const platform::URL& url) { windows_.front()->openURL(url); })
+{
+}
+
+Application::~Application() = default;
+
+std::vector<std::shared_ptr<platform::NSWindow>> Application::windows() const
+{
+    std::vector<std::shared_ptr<platform::NSWindow>> frontToBack;
+    for (auto* native : program_.windows()) {
+        for (const auto& window : windows_) {
+            if (GTK_WINDOW(window->native().gobj()) == native)
+                frontToBack.push_back(window);
+        }
+    }
+    return frontToBack;
+}
+
+std::shared_ptr<platform::NSWindow> Application::keyWindow() const
+{
+    const auto found = std::find_if(
+        windows_.begin(), windows_.end(), [](const auto& window) { return window->isKeyWindow(); });
+    return found == windows_.end() ? nullptr : *found;
+}
+
+bool Application::hasApplicationIconImage() const
+{
+    return applicationIcon() != nullptr;
+}
+
+int Application::run(platform::NSApplicationDelegate& delegate, const ui::Scene& scene)
+{
+    delegate_ = &delegate;
+    scene_ = &scene;
+
+    const TerminationSignals signals([this] { terminate(); });
+    const int status = program_.run(address_);
+
+    // Only now, since another start would wait for this one as long as its name is on the bus.
+    closedWindows_.clear();
+    windows_.clear();
+    return status;
+}
+
+void Application::terminate()
+{
+    if (isTerminating_)
+        return;
+    isTerminating_ = true;
+    platform_.mainQueue().async([this] {
+        finish(); // not left to the end of the main loop, which an open alert may keep from ending
+        program_.quit();
+    });
+}
+
+void Application::activate()
+{
+    if (isTerminating_)
+        return;
+    if (isLaunched_)
+        reopen();
+    launchOnce();
+}
+
+void Application::open(const std::vector<std::string>& addresses)
+{
+    if (isTerminating_)
+        return;
+    if (isLaunched_ && !windows_.empty())
+        windows_.front()->makeKeyAndOrderFront();
+    else if (isLaunched_)
+        makeWindow();
+    launchOnce();
+    for (const auto& address : addresses)
+        openURLQueue_.enqueue(address);
+}
+
+void Application::launchOnce()
+{
+    if (isLaunched_)
+        return;
+    isLaunched_ = true;
+    program_.hold(); // windows alone do not decide how long the program lives
+    onLostDisplay([this] { finish(); });
+    platform_.webEngine().signalFrontPageChanged().connect([this] { openURLQueue_.update(); });
+
+    delegate_->applicationWillFinishLaunching(*this);
+    makeWindow();
+    delegate_->applicationDidFinishLaunching(*this);
+}
+
+void Application::reopen()
+{
+    const bool hasVisibleWindows = std::any_of(
+        windows_.begin(), windows_.end(), [](const auto& window) { return window->isVisible(); });
+    if (!delegate_->applicationShouldHandleReopen(*this, hasVisibleWindows))
+        return;
+    if (windows_.empty())
+        makeWindow();
+    else
+        windows_.front()->makeKeyAndOrderFront();
+}
+
+void Application::makeWindow()
+{
+    auto window = std::make_shared<MainWindow>(*scene_);
+    program_.add(window->native());
+    window->signalClosed().connect([this, window = window.get()] { windowClosed(*window); });
+    windows_.push_back(window);
+
+    // The views have just queued what they do to their window; it is shown when that is done.
+    platform_.mainQueue().async([weakWindow = std::weak_ptr(window)] {
+        if (const auto window = weakWindow.lock())
+            window->makeKeyAndOrderFront();
+    });
+}
+
+void Application::windowClosed(MainWindow& window)
+{
+    const auto found = std::find_if(windows_.begin(), windows_.end(),
+        [&window](const auto& candidate) { return candidate.get() == &window; });
+    if (found == windows_.end())
+        return;
+    closedWindows_.push_back(std::move(*found));
+    windows_.erase(found);
+
+    if (windows_.empty() && delegate_->applicationShouldTerminateAfterLastWindowClosed(*this))
+        terminate();
+    else
+        platform_.mainQueue().async([this] { closedWindows_.clear(); });
+}
+
+void Application::finish()
+{
+    if (!isLaunched_ || isFinished_)
+        return;
+    isFinished_ = true;
+    platform::NotificationCenter::defaultCenter().post(willTerminateNotification, this);
+    platform_.saveSettings();
+}
+
+} // namespace gtk

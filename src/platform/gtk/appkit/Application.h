@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/appkit/NSApplication.h"
+#include "platform/gtk/appkit/OpenURLQueue.h"
+#include "platform/gtk/appkit/Program.h"
+
+#include <optional>
+
+namespace gtk {
+
+class GtkPlatform;
+class MainWindow;
+
+// The running program on the desktop.
+class Application final : public platform::NSApplication {
+public:
+    // `address` is what the program was started to open. `platform` owns this.
+    Application(
+        GtkPlatform& platform, const std::string& identifier, std::optional<std::string> address);
+    ~Application() override;
+
+    std::vector<std::shared_ptr<platform::NSWindow>> windows() const override;
+    std::shared_ptr<platform::NSWindow> keyWindow() const override;
+    bool hasApplicationIconImage() const override;
+
+    // In a start that is not the user's first, hands the address to the running program and returns
+    // at once.
+    int run(platform::NSApplicationDelegate& delegate, const ui::Scene& scene) override;
+    void terminate() override;
+
+private:
+    void activate();
+    void open(const std::vector<std::string>& addresses);
+
+    void launchOnce();
+    void reopen();
+    void makeWindow();
+    void windowClosed(MainWindow& window);
+    void finish();
+
+    GtkPlatform& platform_;
+    Program program_;
+    std::optional<std::string> address_;
+    platform::NSApplicationDelegate* delegate_ = nullptr;
+    const ui::Scene* scene_ = nullptr;
+
+    OpenURLQueue openURLQueue_;
+    std::vector<std::shared_ptr<MainWindow>> windows_;
+    std::vector<std::shared_ptr<MainWindow>> closedWindows_; // whose models may still have to save
+    bool isLaunched_ = false;
+    bool isTerminating_ = false;
+    bool isFinished_ = false;
+};
+
+} // namespace gtk

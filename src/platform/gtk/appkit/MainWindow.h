@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/appkit/NSView.h"
+#include "platform/appkit/NSWindow.h"
+#include "platform/foundation/DispatchQueue.h"
+#include "platform/gtk/ui/WindowContent.h"
+#include "platform/ui/Scene.h"
+
+#include <gtkmm/applicationwindow.h>
+#include <sigc++/signal.h>
+
+namespace gtk {
+
+// A window of the application, with the views of its scene in it. It is made hidden.
+class MainWindow final : public platform::NSWindow {
+public:
+    explicit MainWindow(const ui::Scene& scene);
+    ~MainWindow() override;
+
+    // The one that `widget` is in; null while it is in none.
+    static MainWindow* holding(const Gtk::Widget& widget);
+
+    // The user or the program closes the window, which is still whole then.
+    sigc::signal<void()>& signalClosed() { return signalClosed_; }
+
+    Gtk::ApplicationWindow& native() { return *window_; }
+
+    // Hands `url` to the views that open addresses.
+    void openURL(const platform::URL& url) { content_.openURL(url); }
+
+    // The user sees it, or would if no other window covered it.
+    bool isVisible() const;
+    bool isKeyWindow() const { return window_->is_active(); }
+
+    platform::NSScreen* screen() const override;
+    platform::NSRect frame() const override;
+    void setFrame(const platform::NSRect& frame, bool display, bool animate) override;
+    platform::NSSize minSize() const override { return minSize_; }
+    void setMinSize(platform::NSSize size) override;
+    bool isFullScreen() const override { return window_->is_fullscreen(); }
+
+    std::uint32_t collectionBehavior() const override { return collectionBehavior_; }
+    void setCollectionBehavior(std::uint32_t behavior) override { collectionBehavior_ = behavior; }
+    TabbingMode tabbingMode() const override { return tabbingMode_; }
+    void setTabbingMode(TabbingMode mode) override { tabbingMode_ = mode; }
+    bool isRestorable() const override { return isRestorable_; }
+    void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
+
+    bool canBecomeMainWindow() const override { return !isClosed_; }
+    platform::NSView* contentView() const override { return contentView_.get(); }
+    void makeKeyAndOrderFront() override;
+    void close() override;
+
+private:
+    class ContentView;
+
+    // How large the window is, and what it is measured against.
+    struct Extent {
+        int width = 0;
+        int height = 0;
+        Gdk::Rectangle screen; // empty when it is on none
+
+        bool operator==(const Extent&) const = default;
+    };
+
+    GdkSurface* surface() const; // null until the window is realized
+    void watchSurface();
+    void checkExtent();
+    Extent currentExtent() const;
+
+    std::unique_ptr<Gtk::ApplicationWindow> window_ = std::make_unique<Gtk::ApplicationWindow>();
+    WindowContent content_;
+    std::shared_ptr<platform::NSView> contentView_;
+
+    platform::NSRect frame_; // as last asked for
+    platform::NSSize minSize_;
+    std::uint32_t collectionBehavior_ = 0;
+    TabbingMode tabbingMode_ = TabbingMode::automatic;
+    bool isRestorable_ = true;
+    bool isClosed_ = false;
+    Extent extent_; // as last told
+    bool isCheckQueued_ = false;
+    sigc::signal<void()> signalClosed_;
+};
+
+} // namespace gtk

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <gtkmm/window.h>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace gtk {
+
+// The toolkit's own application object, of which one runs for each user: a later start finds it on
+// the session bus, hands over what it was asked for and ends. Without a session bus every start is
+// the first.
+class Program {
+public:
+    struct Handlers {
+        // The display is open. May return a reason why the program cannot run. With one, and where
+        // there is no display to open, the program says so in one line and exits with status 1.
+        std::function<std::optional<std::string>()> startup;
+
+        std::function<void()> activate;
+
+        // Addresses as their senders wrote them.
+        std::function<void(const std::vector<std::string>& addresses)> open;
+
+        // The main loop has ended.
+        std::function<void()> shutdown;
+    };
+
+    // Starts nothing: a later start needs neither a display nor much time.
+    Program(std::string identifier, Handlers handlers);
+    ~Program();
+
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    // Runs the main loop, or hands `address` to the program that runs already. All handlers are
+    // called from inside. Returns the exit status.
+    int run(std::optional<std::string> address);
+
+    // Ends the main loop.
+    void quit();
+
+    // From now on the program lives on without a window.
+    void hold();
+
+    void add(Gtk::Window& window);
+
+    // The one used last comes first.
+    std::vector<GtkWindow*> windows() const;
+
+    const Handlers& handlers() const { return handlers_; }
+
+private:
+    std::string identifier_;
+    Handlers handlers_;
+    GtkApplication* object_;
+};
+
+} // namespace gtk

@@ -1,0 +1,199 @@
+#include "platform/gtk/webkit/GtkWebView.h"
+
+#include "platform/gtk/appkit/MainWindow.h"
+#include "platform/gtk/webkit/FrontPage.h"
+#include "platform/gtk/webkit/PageManners.h"
+#include "platform/gtk/webkit/WebEngine.h"
+
+#include <gtkmm/settings.h>
+
+namespace gtk {
+
+namespace {
+
+ObjectPointer<WebKitWebView> makeView(WebEngine& engine,
+    const platform::WKWebViewConfiguration& configuration, WebKitUserContentManager* content)
+{
+    const auto session = engine.session(configuration.websiteDataStore);
+    const auto settings = engine.makeSettings(configuration.preferences);
+    auto* object = g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session.get(), "settings",
+        settings.get(), "user-content-manager", content, nullptr);
+    return retain(WEBKIT_WEB_VIEW(object));
+}
+
+// Calls `act` for the engine's recogniser of pinches, for which it has no switch.
+template <class Act> void withPinchGesture(WebKitWebView* view, Act act)
+{
+    const ObjectPointer<GListModel> controllers(gtk_widget_observe_controllers(GTK_WIDGET(view)));
+    for (guint index = 0; index < g_list_model_get_n_items(controllers.get()); ++index) {
+        const ObjectPointer<GObject> controller(
+            G_OBJECT(g_list_model_get_item(controllers.get(), index)));
+        if (GTK_IS_GESTURE_ZOOM(controller.get()))
+            act(GTK_EVENT_CONTROLLER(controller.get()));
+    }
+}
+
+} // namespace
+
+GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration& configuration)
+    : frontPage_(engine.frontPage())
+    , content_(configuration.userContentController, [this] { return !keeper_.failure(); })
+    , view_(makeView(engine, configuration, content_.manager()))
+    , keeper_(view_.get(), area_, engine.trust(), engine.patience(),
+          {
+              [this] {
+                  titleChanged();
+                  historyChanged();
+              },
+              [this] { frontPage_->readinessChanged(this, keeper_.isReady()); },
+          })
+{
+    gtk_overlay_set_child(area_.gobj(), GTK_WIDGET(view_.get()));
+    teachManners(view_.get());
+    watch();
+}
+
+GtkWebView::~GtkWebView()
+{
+    frontPage_->hidden(this);
+    if (area_.get_parent())
+        area_.unparent();
+    area_.unset_child();
+}
+
+void GtkWebView::watch()
+{
+    const auto connect = [this](gpointer object, const char* signal, auto handler) {
+        signals_.connect(object, signal, G_CALLBACK(+handler), this);
+    };
+    connect(view_.get(), "notify::title",
+        [](GObject*, GParamSpec*, GtkWebView* self) { self->titleChanged(); });
+    connect(view_.get(), "notify::is-loading",
+        [](GObject*, GParamSpec*, GtkWebView* self) { self->changed(Property::isLoading); });
+    connect(view_.get(), "notify::estimated-load-progress",
+        [](GObject*, GParamSpec*, GtkWebView* self) {
+            self->changed(Property::estimatedProgress);
+        });
+    connect(webkit_web_view_get_back_forward_list(view_.get()), "changed",
+        [](WebKitBackForwardList*, WebKitBackForwardListItem*, gpointer, GtkWebView* self) {
+            self->historyChanged();
+        });
+}
+
+void GtkWebView::titleChanged()
+{
+    gtk_accessible_update_property(
+        GTK_ACCESSIBLE(view_.get()), GTK_ACCESSIBLE_PROPERTY_LABEL, title().c_str(), -1);
+    changed(Property::title);
+}
+
+void GtkWebView::historyChanged()
+{
+    changed(Property::canGoBack);
+    changed(Property::canGoForward);
+}
+
+platform::NSWindow* GtkWebView::window() const
+{
+    return MainWindow::holding(area_);
+}
+
+void GtkWebView::setShown(bool isShown)
+{
+    if (isShown)
+        frontPage_->shown(this, keeper_.isReady());
+    else
+        frontPage_->hidden(this);
+    keeper_.setShown(isShown);
+}
+
+void GtkWebView::evaluateJavaScript(const std::string& script)
+{
+    if (!keeper_.hasPageForScript())
+        return;
+    webkit_web_view_evaluate_javascript(view_.get(), script.data(),
+        static_cast<gssize>(script.size()), nullptr, nullptr, nullptr, nullptr, nullptr);
+}
+
+void GtkWebView::goBack()
+{
+    if (keeper_.hasPageUnderPanel())
+        keeper_.uncover();
+    else
+        webkit_web_view_go_back(view_.get());
+}
+
+void GtkWebView::goForward()
+{
+    webkit_web_view_go_forward(view_.get());
+}
+
+bool GtkWebView::canGoBack() const
+{
+    return keeper_.hasPageUnderPanel() || webkit_web_view_can_go_back(view_.get());
+}
+
+bool GtkWebView::canGoForward() const
+{
+    return webkit_web_view_can_go_forward(view_.get());
+}
+
+bool GtkWebView::isLoading() const
+{
+    return webkit_web_view_is_loading(view_.get());
+}
+
+double GtkWebView::estimatedProgress() const
+{
+    return webkit_web_view_get_estimated_load_progress(view_.get());
+}
+
+std::string GtkWebView::title() const
+{
+    if (const auto* failure = keeper_.failure())
+        return failure->title();
+    const char* title = webkit_web_view_get_title(view_.get());
+    return title ? title : "";
+}
+
+platform::WKWebView::Observation GtkWebView::observe(
+    Property property, std::function<void()> handler)
+{
+    return observers_.add(property, std::move(handler));
+}
+
+void GtkWebView::setCustomUserAgent(const std::string& userAgent)
+{
+    webkit_settings_set_user_agent(webkit_web_view_get_settings(view_.get()), userAgent.c_str());
+}
+
+void GtkWebView::setAllowsBackForwardNavigationGestures(bool isAllowed)
+{
+    webkit_settings_set_enable_back_forward_navigation_gestures(
+        webkit_web_view_get_settings(view_.get()), isAllowed);
+}
+
+void GtkWebView::setAllowsMagnification(bool isAllowed)
+{
+    withPinchGesture(view_.get(), [isAllowed](GtkEventController* gesture) {
+        gtk_event_controller_set_propagation_phase(
+            gesture, isAllowed ? GTK_PHASE_TARGET : GTK_PHASE_NONE);
+    });
+}
+
+void GtkWebView::setUsesOverlayScrollers(bool isOverlay)
+{
+    // One setting for the whole program: the engine follows it, and has none for a single view.
+    const auto setting = Gtk::Settings::get_default()->property_gtk_overlay_scrolling();
+    if (setting.get_value() != isOverlay)
+        Gtk::Settings::get_default()->property_gtk_overlay_scrolling() = isOverlay;
+}
+
+void GtkWebView::setDrawsBackground(bool isDrawn)
+{
+    constexpr GdkRGBA white = {1, 1, 1, 1};
+    constexpr GdkRGBA clear = {0, 0, 0, 0};
+    webkit_web_view_set_background_color(view_.get(), isDrawn ? &white : &clear);
+}
+
+} // namespace gtk

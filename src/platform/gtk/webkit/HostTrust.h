@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/gtk/webkit/HostCertificate.h"
+#include "platform/gtk/webkit/ObjectPointer.h"
+
+#include <optional>
+#include <webkit/webkit.h>
+
+namespace gtk {
+
+// Makes network sessions trust the user's certificate, for its host and no other.
+class HostTrust {
+public:
+    // A file that holds no certificate is told in one line of the log, and nothing is trusted.
+    explicit HostTrust(const std::optional<HostCertificate>& certificate);
+
+    void apply(WebKitNetworkSession* session) const;
+
+    // Whether a certificate that the session has refused for the page at `address` was issued by
+    // the user's. The session accepts it from then on.
+    bool accept(WebKitNetworkSession* session, GTlsCertificate* refused, const char* address) const;
+
+private:
+    const HostCertificate trusted_;
+    ObjectPointer<GTlsCertificate> certificate_; // null when there is none
+};
+
+} // namespace gtk

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/gtk/webkit/Patience.h"
+#include "platform/gtk/webkit/SignalHandlers.h"
+#include "platform/gtk/webkit/Timer.h"
+
+#include <gio/gio.h>
+
+namespace gtk {
+
+// Decides when a load that has failed is tried again: when the network comes back, and from time to
+// time while somebody looks, each time after a longer pause.
+class RetrySchedule {
+public:
+    RetrySchedule(const Patience& patience, std::function<void()> retry);
+
+    // An attempt has failed; there will be another one.
+    void failed();
+
+    // An attempt is under way, by whomever: none is due before it has ended.
+    void attempted() { timer_.stop(); }
+
+    // No more attempts. The next failure starts with the shortest pause again.
+    void stop();
+
+    // Nobody looks any more, so only the network counts; or somebody looks again, and will try at
+    // once.
+    void setWatched(bool isWatched);
+
+private:
+    static void networkChanged(GNetworkMonitor*, gboolean isAvailable, RetrySchedule* self);
+
+    const Patience patience_;
+    const std::function<void()> retry_;
+    double pause_ = 0; // seconds; 0 while nothing has failed
+    bool isWatched_ = false;
+    Timer timer_;
+    SignalHandlers signals_;
+};
+
+} // namespace gtk

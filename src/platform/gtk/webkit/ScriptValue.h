@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/foundation/Value.h"
+
+#include <jsc/jsc.h>
+
+namespace gtk {
+
+// A value that a page has posted, as a value of ours.
+//
+// Texts come through whole, with NUL characters; half a surrogate pair becomes U+FFFD. What has no
+// counterpart is null, and so is an object inside itself and all that lies deeper than 512 levels.
+// A message of more than 100,000 values ends there, so that none keeps the program busy for long.
+platform::Value valueFromScript(JSCValue* value);
+
+} // namespace gtk

@@ -1,0 +1,53 @@
+#include "platform/gtk/webkit/UserContent.h"
+
+#include "platform/gtk/webkit/ScriptValue.h"
+
+namespace gtk {
+
+UserContent::UserContent(
+    const platform::WKUserContentController& controller, std::function<bool()> acceptsMessages)
+    : manager_(webkit_user_content_manager_new())
+    , acceptsMessages_(std::move(acceptsMessages))
+{
+    for (const auto& script : controller.userScripts)
+        addScript(script);
+    for (const auto& receiver : controller.scriptMessageHandlers)
+        addBridge(receiver);
+}
+
+void UserContent::addScript(const platform::WKUserScript& script)
+{
+    using InjectionTime = platform::WKUserScript::InjectionTime;
+
+    auto* userScript = webkit_user_script_new(script.source.c_str(),
+        script.forMainFrameOnly ? WEBKIT_USER_CONTENT_INJECT_TOP_FRAME
+                                : WEBKIT_USER_CONTENT_INJECT_ALL_FRAMES,
+        script.injectionTime == InjectionTime::atDocumentStart
+            ? WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START
+            : WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_END,
+        nullptr, nullptr);
+    webkit_user_content_manager_add_script(manager_.get(), userScript);
+    webkit_user_script_unref(userScript);
+}
+
+void UserContent::addBridge(const platform::WKUserContentController::MessageHandler& receiver)
+{
+    bridges_.push_back(std::make_unique<Bridge>(Bridge{*this, receiver}));
+    const auto signal = "script-message-received::" + receiver.name;
+    signals_.connect(
+        manager_.get(), signal.c_str(), G_CALLBACK(&UserContent::receive), bridges_.back().get());
+    webkit_user_content_manager_register_script_message_handler(
+        manager_.get(), receiver.name.c_str(), nullptr);
+}
+
+void UserContent::receive(WebKitUserContentManager*, JSCValue* body, Bridge* bridge)
+{
+    const auto handler = bridge->receiver.handler.lock();
+    if (!handler || !bridge->owner.acceptsMessages_())
+        return;
+    // The handler may do away with the web view, and with it the bridge.
+    handler->userContentControllerDidReceiveScriptMessage(
+        {bridge->receiver.name, valueFromScript(body)});
+}
+
+} // namespace gtk

@@ -1,0 +1,112 @@
+#include "platform/gtk/webkit/WebEngine.h"
+
+#include "platform/gtk/webkit/Sandbox.h"
+
+#include <clocale>
+#include <cstdlib>
+#include <string_view>
+
+namespace gtk {
+
+namespace {
+
+// Pages would be told that the user's language is "C", which their scripts cannot make sense of.
+void replaceLanguageOfNoCountry()
+{
+    const char* locale = std::setlocale(LC_MESSAGES, nullptr);
+    const std::string_view name = locale ? locale : "C";
+    if (name != "POSIX" && name != "C" && !name.starts_with("C."))
+        return;
+    const char* languages[] = {"en-US", nullptr};
+    webkit_web_context_set_preferred_languages(webkit_web_context_get_default(), languages);
+}
+
+bool asksForInspector()
+{
+    return std::getenv("WEBKIT_INSPECTOR_SERVER") || std::getenv("WEBKIT_INSPECTOR_HTTP_SERVER");
+}
+
+ObjectPointer<WebKitNetworkSession> makePersistentSession(const StandardPaths& paths)
+{
+    const auto data = paths.data / "web";
+    const auto cache = paths.cache / "web";
+    std::error_code
+        error; // a folder that cannot be made leaves the session with what it can keep in memory
+    std::filesystem::create_directories(data, error);
+
+    ObjectPointer<WebKitNetworkSession> session(
+        webkit_network_session_new(data.c_str(), cache.c_str()));
+    webkit_cookie_manager_set_persistent_storage(
+        webkit_network_session_get_cookie_manager(session.get()), (data / "cookies.sqlite").c_str(),
+        WEBKIT_COOKIE_PERSISTENT_STORAGE_SQLITE);
+    return session;
+}
+
+// Left alone, the engine would put files where the user's are, and might do away with one of those.
+void refuseDownload(WebKitNetworkSession*, WebKitDownload* download)
+{
+    webkit_download_cancel(download);
+}
+
+} // namespace
+
+WebEngine::WebEngine(
+    StandardPaths paths, std::optional<HostCertificate> certificate, bool isAccelerated)
+    : paths_(std::move(paths))
+    , certificate_(std::move(certificate))
+    , isAccelerated_(isAccelerated)
+{
+}
+
+WebEngine::~WebEngine() = default;
+
+void WebEngine::prepare(const std::string& host)
+{
+    const auto session = this->session(platform::WKWebsiteDataStore::defaultDataStore);
+    if (!host.empty())
+        webkit_network_session_prefetch_dns(session.get(), host.c_str());
+}
+
+std::optional<std::string> WebEngine::missingSandboxHelper() const
+{
+    return sandboxProblem();
+}
+
+ObjectPointer<WebKitNetworkSession> WebEngine::session(platform::WKWebsiteDataStore store)
+{
+    const bool isPersistent = store == platform::WKWebsiteDataStore::defaultDataStore;
+    if (isPersistent && session_)
+        return retain(session_.get());
+
+    replaceLanguageOfNoCountry();
+    auto session = isPersistent
+        ? makePersistentSession(paths_)
+        : ObjectPointer<WebKitNetworkSession>(webkit_network_session_new_ephemeral());
+    trust()->apply(session.get());
+    g_signal_connect(session.get(), "download-started", G_CALLBACK(refuseDownload), nullptr);
+    if (isPersistent)
+        session_ = retain(session.get());
+    return session;
+}
+
+ObjectPointer<WebKitSettings> WebEngine::makeSettings(
+    const platform::WKPreferences& preferences) const
+{
+    ObjectPointer<WebKitSettings> settings(webkit_settings_new());
+    webkit_settings_set_javascript_can_open_windows_automatically(
+        settings.get(), preferences.javaScriptCanOpenWindowsAutomatically);
+    webkit_settings_set_enable_developer_extras(settings.get(), asksForInspector());
+    if (!isAccelerated_)
+        webkit_settings_set_hardware_acceleration_policy(
+            settings.get(), WEBKIT_HARDWARE_ACCELERATION_POLICY_NEVER);
+    return settings;
+}
+
+std::shared_ptr<const HostTrust> WebEngine::trust()
+{
+    if (!trust_)
+        trust_ = std::make_shared<HostTrust>(certificate_);
+    return trust_;
+}
+
+} // namespace gtk

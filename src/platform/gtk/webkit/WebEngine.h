@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/gtk/foundation/StandardPaths.h"
+#include "platform/gtk/webkit/FrontPage.h"
+#include "platform/gtk/webkit/HostTrust.h"
+#include "platform/gtk/webkit/Patience.h"
+#include "platform/webkit/WKWebViewConfiguration.h"
+
+#include <memory>
+
+namespace gtk {
+
+// What the web views of a program share: where they keep data, whom they trust, and which of them
+// is in front. Its processes end when it and the last view have gone.
+class WebEngine {
+public:
+    // Cookies and storage go to the folder "web" of the program's data, and of its caches. Where
+    // web views cannot be drawn by a graphics processor, `isAccelerated` is false. Nothing is
+    // started yet.
+    WebEngine(StandardPaths paths, std::optional<HostCertificate> certificate, bool isAccelerated);
+    ~WebEngine();
+
+    WebEngine(const WebEngine&) = delete;
+    WebEngine& operator=(const WebEngine&) = delete;
+
+    // Starts the engine's network process, and lets it look up `host`, while the program has other
+    // things to do. May be called before GTK is initialised. Otherwise this happens with the first
+    // web view.
+    void prepare(const std::string& host = {});
+
+    // Why web views cannot be made, in a few words; to be asked before the first one, which would
+    // end the program.
+    std::optional<std::string> missingSandboxHelper() const;
+
+    // Whether the web view in front shows a page that has been loaded to its end; the signal tells
+    // each change.
+    bool isFrontPageReady() const { return frontPage_->isReady(); }
+    sigc::signal<void()>& signalFrontPageChanged() { return frontPage_->signalChanged(); }
+
+    ObjectPointer<WebKitNetworkSession> session(platform::WKWebsiteDataStore store);
+    ObjectPointer<WebKitSettings> makeSettings(const platform::WKPreferences& preferences) const;
+    const std::shared_ptr<FrontPage>& frontPage() const { return frontPage_; }
+    std::shared_ptr<const HostTrust> trust();
+
+    // For views made from now on.
+    const Patience& patience() const { return patience_; }
+    void setPatience(const Patience& patience) { patience_ = patience; }
+
+private:
+    const StandardPaths paths_;
+    const std::optional<HostCertificate> certificate_;
+    const bool isAccelerated_;
+    Patience patience_;
+    std::shared_ptr<FrontPage> frontPage_ = std::make_shared<FrontPage>();
+    std::shared_ptr<const HostTrust> trust_; // read with the first session
+    ObjectPointer<WebKitNetworkSession> session_; // made when first needed
+};
+
+} // namespace gtk
