@@ -1,0 +1,111 @@
+#include "platform/gtk/foundation/MainLoopQueue.h"
+
+#include <glib.h>
+#include <gtest/gtest.h>
+#include <numeric>
+#include <optional>
+#include <thread>
+
+namespace gtk {
+
+namespace {
+
+void runLoopUntil(const bool& isDone)
+{
+    while (!isDone)
+        g_main_context_iteration(nullptr, TRUE);
+}
+
+void runWaitingEvents()
+{
+    while (g_main_context_iteration(nullptr, FALSE)) { }
+}
+
+} // namespace
+
+TEST(MainLoopQueue, tasksRunInTheirOrderAndNotBeforeTheCurrentEventIsHandled)
+{
+    MainLoopQueue queue;
+    std::vector<int> order;
+    queue.async([&] {
+        queue.async([&] { order.push_back(3); });
+        order.push_back(1);
+    });
+    queue.async([&] { order.push_back(2); });
+    EXPECT_TRUE(order.empty());
+    runWaitingEvents();
+    EXPECT_EQ(order, (std::vector{1, 2, 3}));
+}
+
+TEST(MainLoopQueue, tasksOfAnotherThreadRunOnThisOneInTheirOrder)
+{
+    MainLoopQueue queue;
+    constexpr int count = 1000;
+    std::vector<int> order;
+    bool isDone = false;
+    bool isOnMainThread = true;
+    const auto mainThread = std::this_thread::get_id();
+
+    std::thread other([&] {
+        for (int i = 0; i < count; ++i) {
+            queue.async([&, i] {
+                isOnMainThread = isOnMainThread && std::this_thread::get_id() == mainThread;
+                order.push_back(i);
+                isDone = i == count - 1;
+            });
+        }
+    });
+    runLoopUntil(isDone);
+    other.join();
+
+    std::vector<int> expected(count);
+    std::iota(expected.begin(), expected.end(), 0);
+    EXPECT_EQ(order, expected);
+    EXPECT_TRUE(isOnMainThread);
+}
+
+TEST(MainLoopQueue, laterTasksRunInTheOrderOfTheirTimesAndNeverEarly)
+{
+    MainLoopQueue queue;
+    std::vector<double> order;
+    const auto start = g_get_monotonic_time();
+    bool isDone = false;
+    bool isEarly = false;
+    for (const double delay : {0.02, 0.0105, 0.0, -1.0}) {
+        queue.asyncAfter(delay, [&, delay] {
+            order.push_back(delay);
+            isEarly = isEarly || static_cast<double>(g_get_monotonic_time() - start) < delay * 1e6;
+            isDone = order.size() == 4;
+        });
+    }
+    runLoopUntil(isDone);
+    EXPECT_EQ(order, (std::vector{0.0, -1.0, 0.0105, 0.02}));
+    EXPECT_FALSE(isEarly);
+}
+
+TEST(MainLoopQueue, tasksGoOnWhileOneOfThemWaitsInALoopOfItsOwn)
+{
+    MainLoopQueue queue;
+    bool isAlertClosed = false;
+    bool hasReturned = false;
+    queue.async([&] {
+        runLoopUntil(isAlertClosed);
+        hasReturned = true;
+    });
+    queue.async([&] { isAlertClosed = true; });
+    runLoopUntil(hasReturned);
+    EXPECT_TRUE(isAlertClosed);
+}
+
+TEST(MainLoopQueue, waitingTasksAreDroppedWithTheQueue)
+{
+    std::optional<MainLoopQueue> queue(std::in_place);
+    bool hasRun = false;
+    queue->async([&] { hasRun = true; });
+    queue->asyncAfter(0, [&] { hasRun = true; });
+    queue.reset();
+    runWaitingEvents();
+    EXPECT_FALSE(hasRun);
+}
+
+} // namespace gtk

@@ -1,0 +1,117 @@
+// Whatever breaks under a page, the way ends on the page again.
+
+#include "harness/AccessibleObject.h"
+#include "harness/AppProcess.h"
+#include "harness/PrivateNetwork.h"
+#include "harness/SavedCookies.h"
+#include "harness/SavedSettings.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+// {"firstname":"Ada","lastname":"Example"}
+const nlohmann::json identity = {
+    {"data", "eyJmaXJzdG5hbWUiOiJBZGEiLCJsYXN0bmFtZSI6IkV4YW1wbGUifQ=="}};
+
+// Somebody who has left the application on the drives' page. Pages that take them for signed out
+// would make the application forget the identity.
+class Recovery : public testing::Test {
+protected:
+    Recovery()
+    {
+        SavedCookies::signIn("Ada", "Example");
+        SavedSettings::write({
+            {"vl.open.routes", {"drives"}},
+            {"vl.user.identity", identity},
+        });
+    }
+
+    ~Recovery() override { EXPECT_EQ(SavedSettings::read()["vl.user.identity"], identity); }
+};
+
+bool showsTryAgain(AppProcess& app)
+{
+    return eventually(
+        [&] { return AccessibleObject::find(app.process().pid(), "Try Again").has_value(); });
+}
+
+void tryAgain(AppProcess& app)
+{
+    const auto button = AccessibleObject::find(app.process().pid(), "Try Again");
+    ASSERT_TRUE(button);
+    EXPECT_TRUE(button->activate());
+}
+
+bool hasLoaded(const DemoServiceProcess& service, std::size_t times)
+{
+    return eventually([&] { return service.requests("/online/api/drives").size() >= times; });
+}
+
+void killWebProcess(AppProcess& app)
+{
+    const auto processes = app.webProcesses();
+    ASSERT_FALSE(processes.empty());
+    for (const auto pid : processes)
+        kill(pid, SIGKILL);
+}
+
+} // namespace
+
+TEST_F(Recovery, aWebProcessThatDiesIsReplacedOnceAndThenOnRequest)
+{
+    DemoServiceProcess service;
+    AppProcess app(service);
+    ASSERT_TRUE(app.waitForPage());
+
+    killWebProcess(app);
+    EXPECT_TRUE(hasLoaded(service, 2));
+    EXPECT_TRUE(app.waitForPage());
+
+    killWebProcess(app);
+    EXPECT_TRUE(showsTryAgain(app));
+    EXPECT_EQ(service.requests("/online/api/drives").size(), 2u);
+
+    tryAgain(app);
+    EXPECT_TRUE(hasLoaded(service, 3));
+    EXPECT_TRUE(app.waitForPage());
+}
+
+TEST_F(Recovery, aServiceThatIsDownEndsOnThePageWhenAskedAgain)
+{
+    DemoServiceProcess service;
+    const int port = service.port();
+    service.stop();
+
+    AppProcess app(service);
+    EXPECT_TRUE(showsTryAgain(app));
+    EXPECT_EQ(SavedSettings::read()["vl.user.identity"], identity);
+
+    DemoServiceProcess again({.port = port});
+    tryAgain(app);
+    EXPECT_TRUE(hasLoaded(again, 1));
+    EXPECT_TRUE(app.waitForPage());
+}
+
+TEST_F(Recovery, startingOfflineEndsOnThePageWhenTheNetworkComesBack)
+{
+    PrivateNetwork network;
+    if (!network.exists())
+        GTEST_SKIP() << "no rights to make a network";
+    network.connect();
+    DemoServiceProcess service;
+    network.disconnect();
+
+    AppProcess app(service);
+    EXPECT_TRUE(showsTryAgain(app));
+    EXPECT_EQ(SavedSettings::read()["vl.user.identity"], identity);
+
+    network.connect();
+    EXPECT_TRUE(hasLoaded(service, 1));
+    EXPECT_TRUE(app.waitForPage());
+}
+
+} // namespace desktop

@@ -1,0 +1,72 @@
+// One running application for each user, and the addresses that it is asked to open.
+
+#include "harness/AppProcess.h"
+#include "harness/SavedSettings.h"
+
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+bool isAsked(const DemoServiceProcess& service, const std::string& path)
+{
+    return eventually([&] { return !service.requests(path).empty(); });
+}
+
+class SingleInstance : public testing::Test {
+protected:
+    SingleInstance() { SavedSettings::write({{"vl.open.routes", {"dashboard"}}}); }
+
+    // Starts the application once more and returns its exit status.
+    std::optional<int> startAgain(const std::vector<std::string>& arguments)
+    {
+        AppProcess second(service, arguments);
+        return second.process().waitForExit();
+    }
+
+    DemoServiceProcess service;
+};
+
+} // namespace
+
+TEST_F(SingleInstance, anAddressReachesTheRunningWindow)
+{
+    AppProcess app(service);
+    ASSERT_TRUE(app.waitForPage());
+    EXPECT_EQ(startAgain({"velmaro://drive/42"}), 0);
+    EXPECT_TRUE(isAsked(service, "/online/api/drives/42"));
+    EXPECT_EQ(Desktop::windows().size(), 1u);
+}
+
+TEST_F(SingleInstance, anAddressAtAColdStartReachesThePageOnceItHasLoaded)
+{
+    AppProcess app(service, {"velmaro://drive/42"});
+    EXPECT_TRUE(app.waitForPage());
+    EXPECT_TRUE(isAsked(service, "/online/api/drives/42"));
+}
+
+TEST_F(SingleInstance, argumentsAfterAnAddressAreIgnored)
+{
+    AppProcess app(service);
+    ASSERT_TRUE(app.waitForPage());
+    EXPECT_EQ(startAgain({"velmaro://page/vehicles", "velmaro://page/fuel", "--version"}), 0);
+    EXPECT_TRUE(isAsked(service, "/online/api/vehicles"));
+
+    // By the time that a later address has arrived, the ignored one would have too.
+    EXPECT_EQ(startAgain({"velmaro://page/drivers"}), 0);
+    EXPECT_TRUE(isAsked(service, "/online/api/drivers"));
+    EXPECT_TRUE(service.requests("/online/api/fuel").empty());
+}
+
+TEST_F(SingleInstance, aSecondStartLeavesOneWindow)
+{
+    AppProcess app(service);
+    ASSERT_TRUE(app.waitForPage());
+    EXPECT_EQ(startAgain({}), 0);
+    EXPECT_TRUE(app.process().isRunning());
+    EXPECT_EQ(Desktop::windows().size(), 1u);
+    EXPECT_EQ(service.requests("/online").size(), 1u);
+}
+
+} // namespace desktop

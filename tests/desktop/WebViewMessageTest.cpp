@@ -1,0 +1,117 @@
+#include "webview/WebViewTest.h"
+
+namespace desktop {
+
+using platform::Value;
+
+class WebViewMessageTest : public WebViewTest {
+protected:
+    void SetUp() override
+    {
+        openView();
+        ASSERT_TRUE(loads("/"));
+    }
+};
+
+TEST_F(WebViewMessageTest, valuesOfEveryKindArrive)
+{
+    const std::pair<const char*, Value> table[] = {
+        {"null", nullptr},
+        {"undefined", nullptr},
+        {"true", true},
+        {"false", false},
+        {"0", 0},
+        {"-2.5e300", -2.5e300},
+        {"''", ""},
+        {"'text'", "text"},
+        {"'\\u00e9 \\u{1F697} \\u2028'", "\u00e9 \U0001F697 \u2028"},
+        {"'a\\0b'", std::string("a\0b", 3)},
+        {"'\\0'", std::string("\0", 1)},
+        {"'a\\ud800b'", "a\uFFFDb"},
+        {"10n", nullptr},
+        {"[]", Value::Array{}},
+        {"[1, 'two', [null]]", Value::Array{1, "two", Value::Array{nullptr}}},
+        {"[, 1]", Value::Array{nullptr, 1}},
+        {"({})", Value::Object{}},
+        {"({a: 1, b: {c: 'd'}, '': undefined})",
+            Value::Object{{"a", 1}, {"b", Value::Object{{"c", "d"}}}, {"", nullptr}}},
+        {"({toString: 2, length: 3})", Value::Object{{"toString", 2}, {"length", 3}}},
+        {"new Date(0)", Value::Object{}},
+        {"new Map([[1, 2]])", Value::Object{}},
+        {"new Uint8Array([7])", Value::Object{{"0", 7}}},
+        {"new (class Own { constructor() { this.x = 1; } get y() { return 2; } })",
+            Value::Object{{"x", 1}}},
+    };
+    for (const auto& [expression, value] : table)
+        EXPECT_EQ(valueOf(expression), value) << expression;
+}
+
+TEST_F(WebViewMessageTest, numbersThatAreNoneArriveAsTheyAre)
+{
+    EXPECT_TRUE(std::isnan(*valueOf("NaN").number()));
+    EXPECT_EQ(valueOf("-Infinity"), -std::numeric_limits<double>::infinity());
+}
+
+TEST_F(WebViewMessageTest, whatCannotBePostedDoesNotArrive)
+{
+    for (const auto* expression : {"() => 1", "Symbol()", "document.body", "({f() {}})"}) {
+        view->evaluateJavaScript(
+            std::string("webkit.messageHandlers.probe.postMessage(") + expression + ")");
+        EXPECT_EQ(valueOf("'next'"), "next");
+    }
+    EXPECT_EQ(probe->messages.size(), 4u);
+}
+
+TEST_F(WebViewMessageTest, anObjectInsideItselfIsNullThere)
+{
+    EXPECT_EQ(valueOf("(() => { const o = {a: 1}; o.self = o; o.list = [o]; return o; })()"),
+        (Value::Object{{"a", 1}, {"self", nullptr}, {"list", Value::Array{nullptr}}}));
+}
+
+TEST_F(WebViewMessageTest, anObjectFoundTwiceIsThereTwice)
+{
+    const Value::Object shared{{"x", 1}};
+    EXPECT_EQ(
+        valueOf("(() => { const o = {x: 1}; return [o, o]; })()"), (Value::Array{shared, shared}));
+}
+
+TEST_F(WebViewMessageTest, hugeAndTangledObjectsEndInTime)
+{
+    const auto deep = valueOf("(() => { let o = 'core'; for (let i = 0; i < 10000; ++i) o = {o};"
+                              " return {page: 'kept', o}; })()");
+    EXPECT_EQ(*deep.member("page"), "kept");
+
+    valueOf("(() => { let o = {}; for (let i = 0; i < 60; ++i) o = [o, o]; return o; })()");
+    EXPECT_EQ(valueOf("new Array(1e6)").array()->size(), 100'000u);
+}
+
+TEST_F(WebViewMessageTest, aLongTextArrivesWhole)
+{
+    const auto value = valueOf("({html: '\\u00e9'.repeat(16 << 20)})");
+    ASSERT_TRUE(value.member("html"));
+    EXPECT_EQ(value.member("html")->string()->size(), 32u << 20);
+}
+
+TEST_F(WebViewMessageTest, messagesKeepTheirOrder)
+{
+    view->evaluateJavaScript(
+        "for (let i = 0; i < 1000; ++i) webkit.messageHandlers.probe.postMessage(i)");
+
+    ASSERT_TRUE(until([&] { return probe->messages.size() == 1000; }));
+    for (int index = 0; index < 1000; ++index)
+        EXPECT_EQ(probe->messages[static_cast<std::size_t>(index)].body, index);
+}
+
+TEST_F(WebViewMessageTest, aHandlerThatHasGoneGetsNothing)
+{
+    const std::weak_ptr<Recorder> gone = probe;
+    probe = std::make_shared<Recorder>();
+    EXPECT_TRUE(gone.expired());
+
+    view->evaluateJavaScript(
+        "webkit.messageHandlers.probe.postMessage(1); document.title = 'Done'");
+
+    EXPECT_TRUE(isReadyWith("Done"));
+}
+
+} // namespace desktop

@@ -1,0 +1,335 @@
+#include "webview/WebViewTest.h"
+
+namespace desktop {
+
+using platform::Value;
+
+class WebViewRecoveryTest : public WebViewTest {
+protected:
+    WebViewRecoveryTest()
+    {
+        patience.firstRetry = 3600; // only where a test is about it
+        configuration.userContentController.userScripts = {
+            {.source = "webkit.messageHandlers.probe.postMessage('hello ' + location.href)",
+                .injectionTime = platform::WKUserScript::InjectionTime::atDocumentStart}};
+        server.pages["/two"] = {.body = "<title>Two</title>"};
+        applyPatience();
+    }
+
+    void applyPatience() { engine->setPatience(patience); }
+
+    void killProcess() { webkit_web_view_terminate_web_process(native()); }
+
+    // How many documents have been shown so far: each says hello.
+    std::size_t documents() const { return probe->messages.size(); }
+
+    [[nodiscard]] bool losesPage()
+    {
+        return until([&] { return !engine->isFrontPageReady(); });
+    }
+
+    void pressTryAgain()
+    {
+        const std::function<bool(Gtk::Widget&)> press = [&](Gtk::Widget& widget) {
+            if (auto* button = dynamic_cast<Gtk::Button*>(&widget))
+                return gtk_widget_activate(GTK_WIDGET(button->gobj())) != FALSE;
+            for (auto* child = widget.get_first_child(); child; child = child->get_next_sibling()) {
+                if (press(*child))
+                    return true;
+            }
+            return false;
+        };
+        ASSERT_TRUE(panel());
+        EXPECT_TRUE(press(*panel()));
+    }
+};
+
+TEST_F(WebViewRecoveryTest, aProcessThatDiesInFrontIsReplaced)
+{
+    openView();
+    ASSERT_TRUE(loads("/"));
+
+    killProcess();
+
+    EXPECT_TRUE(losesPage());
+    EXPECT_TRUE(isReadyWith("Home"));
+    EXPECT_FALSE(panel());
+    EXPECT_EQ(documents(), 2u);
+}
+
+TEST_F(WebViewRecoveryTest, aProcessThatDiesTwiceIsGivenUpUntilSomebodyAsks)
+{
+    openView();
+    ASSERT_TRUE(loads("/"));
+    killProcess();
+    ASSERT_TRUE(losesPage());
+    ASSERT_TRUE(isReadyWith("Home"));
+
+    killProcess();
+    ASSERT_TRUE(failsWith("Page Stopped"));
+    EXPECT_FALSE(engine->isFrontPageReady());
+    EXPECT_EQ(documents(), 2u);
+
+    pressTryAgain();
+    EXPECT_TRUE(isReadyWith("Home"));
+}
+
+TEST_F(WebViewRecoveryTest, aSecondDeathMuchLaterIsAFirstOne)
+{
+    patience.secondDeath = 0;
+    applyPatience();
+    openView();
+    ASSERT_TRUE(loads("/"));
+    for (std::size_t deaths = 1; deaths < 4; ++deaths) {
+        killProcess();
+        ASSERT_TRUE(losesPage());
+        ASSERT_TRUE(isReadyWith("Home"));
+        EXPECT_EQ(documents(), deaths + 1);
+    }
+}
+
+TEST_F(WebViewRecoveryTest, aProcessThatDiesBehindIsReplacedWhenItsTabIsChosen)
+{
+    openView();
+    ASSERT_TRUE(loads("/"));
+    view->setShown(false);
+    killProcess();
+    ASSERT_TRUE(until([&] { return view->title().empty(); }));
+    EXPECT_EQ(documents(), 1u);
+
+    view->setShown(true);
+
+    EXPECT_TRUE(isReadyWith("Home"));
+    EXPECT_EQ(documents(), 2u);
+}
+
+TEST_F(WebViewRecoveryTest, aProcessThatDiesDuringTheFirstLoadStartsItAgain)
+{
+    server.pages["/slow"] = {.body = "", .isSilent = true};
+    openView();
+    load("/slow");
+    ASSERT_TRUE(until([&] { return server.requestCount("/slow") == 1; }));
+    server.pages["/slow"] = {.body = "<title>Slow</title>"};
+
+    killProcess();
+
+    EXPECT_TRUE(isReadyWith("Slow"));
+}
+
+TEST_F(WebViewRecoveryTest, aServerThatIsDownShowsThePanelAndNothingReachesTheBridges)
+{
+    server.stop();
+    openView();
+
+    load("/#fuel");
+
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+    EXPECT_FALSE(engine->isFrontPageReady());
+    EXPECT_TRUE(probe->messages.empty());
+    EXPECT_FALSE(view->canGoBack());
+
+    server.restart();
+    pressTryAgain();
+    EXPECT_TRUE(isReadyWith("Home"));
+    EXPECT_EQ(valueOf("location.hash"), "#fuel");
+}
+
+TEST_F(WebViewRecoveryTest, anyScriptBringsAFailedPageBack)
+{
+    const char* scripts[] = {"location.reload()", "showPage('fuel')", "document.title = 'Mine'"};
+    openView();
+    for (const auto* script : scripts) {
+        server.stop();
+        load("/two");
+        ASSERT_TRUE(failsWith("Page Unavailable")) << script;
+        server.restart();
+
+        view->evaluateJavaScript(script);
+
+        EXPECT_TRUE(isReadyWith("Two")) << script;
+    }
+}
+
+TEST_F(WebViewRecoveryTest, aReloadThatFailsIsCoveredAndMadeAgain)
+{
+    openView();
+    ASSERT_TRUE(loads("/"));
+    view->evaluateJavaScript("location.hash = 'drives'; kept = true");
+    EXPECT_EQ(valueOf("location.hash"), "#drives");
+    server.stop();
+    view->evaluateJavaScript("location.reload()");
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+
+    server.restart();
+    view->evaluateJavaScript("location.reload()");
+
+    ASSERT_TRUE(isReadyWith("Home"));
+    EXPECT_EQ(valueOf("location.hash"), "#drives");
+    EXPECT_EQ(valueOf("typeof kept"), "undefined");
+}
+
+TEST_F(WebViewRecoveryTest, aPageUnderThePanelIsMuteAndBackLeadsToIt)
+{
+    openView();
+    ASSERT_TRUE(loads("/"));
+    view->evaluateJavaScript(
+        "setInterval(() => webkit.messageHandlers.probe.postMessage('tick'), 1);"
+        "location.href = '"
+        + server.url("/two", "nowhere.invalid") + "'");
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+    EXPECT_TRUE(view->canGoBack());
+    const auto count = probe->messages.size();
+    view->evaluateJavaScript("1");
+    ASSERT_TRUE(until([&] { return view->isLoading(); }));
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+    EXPECT_EQ(probe->messages.size(), count);
+
+    view->goBack();
+
+    EXPECT_TRUE(isReadyWith("Home"));
+    EXPECT_TRUE(until([&] { return probe->messages.size() > count; }));
+    EXPECT_FALSE(panel());
+}
+
+TEST_F(WebViewRecoveryTest, aFailedPageComesBackByItself)
+{
+    patience.firstRetry = 0.05;
+    applyPatience();
+    server.stop();
+    openView();
+    load("/");
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+
+    server.restart();
+
+    EXPECT_TRUE(isReadyWith("Home"));
+}
+
+TEST_F(WebViewRecoveryTest, aFailedPageComesBackWithTheNetworkEvenUnseen)
+{
+    server.stop();
+    openView();
+    load("/");
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+    view->setShown(false);
+    server.restart();
+
+    g_signal_emit_by_name(g_network_monitor_get_default(), "network-changed", TRUE);
+
+    EXPECT_TRUE(until([&] { return view->title() == "Home"; }));
+}
+
+TEST_F(WebViewRecoveryTest, aFailedPageIsTriedAgainWhenItsTabIsChosen)
+{
+    server.stop();
+    openView();
+    load("/");
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+    view->setShown(false);
+    server.restart();
+
+    view->setShown(true);
+
+    EXPECT_TRUE(isReadyWith("Home"));
+}
+
+TEST_F(WebViewRecoveryTest, aCertificateOfSomebodyElseIsNeverAccepted)
+{
+    openView();
+
+    view->load({.url = *platform::URL::fromString(server.url("/", "other.localhost"))});
+
+    EXPECT_TRUE(failsWith("Connection Not Secure"));
+    EXPECT_EQ(server.requestCount("/"), 0u);
+    EXPECT_TRUE(probe->messages.empty());
+}
+
+TEST_F(WebViewRecoveryTest, aCertificateOfTheUsersAuthorityIsAcceptedForItsHostAlone)
+{
+    startEngine(authorityCertificate);
+    openView();
+    EXPECT_TRUE(loads("/"));
+
+    view->load({.url = *platform::URL::fromString(server.url("/two", "other.localhost"))});
+
+    EXPECT_TRUE(failsWith("Connection Not Secure"));
+}
+
+TEST_F(WebViewRecoveryTest, anAnswerThatDoesNotComeEndsTheLoad)
+{
+    server.pages["/silent"] = {.body = "", .isSilent = true};
+    openView();
+    ASSERT_TRUE(loads("/"));
+
+    view->load({.url = *platform::URL::fromString(server.url("/silent")), .timeoutInterval = 0.3});
+
+    EXPECT_TRUE(failsWith("Page Unavailable"));
+    EXPECT_EQ(server.requestCount("/silent"), 1u);
+    EXPECT_TRUE(loads("/"));
+}
+
+TEST_F(WebViewRecoveryTest, aPagesOwnLoadIsNotWaitedForLongerEither)
+{
+    patience.answer = 0.3;
+    applyPatience();
+    server.pages["/silent"] = {.body = "", .isSilent = true};
+    openView();
+    ASSERT_TRUE(loads("/"));
+
+    view->evaluateJavaScript("location.href = '/silent'");
+
+    EXPECT_TRUE(failsWith("Page Unavailable"));
+    server.pages["/silent"] = {.body = "<title>Not silent</title>"};
+    pressTryAgain();
+    EXPECT_TRUE(isReadyWith("Not silent"));
+}
+
+TEST_F(WebViewRecoveryTest, aPageThatIsCutOffIsCovered)
+{
+    server.pages["/half"] = {
+        .body = "<title>Half</title>" + std::string(100'000, 'x'), .isCutOff = true};
+    openView();
+
+    load("/half");
+
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+    server.pages["/half"] = {.body = "<title>Whole</title>"};
+    pressTryAgain();
+    EXPECT_TRUE(isReadyWith("Whole"));
+}
+
+TEST_F(WebViewRecoveryTest, anAddressWithoutAPageIsNoDeadEnd)
+{
+    server.pages["/file"] = {.body = "bytes",
+        .headers = {{"Content-Disposition", "attachment"}, {"Content-Type", "text/csv"}}};
+    openView();
+
+    load("/file");
+
+    ASSERT_TRUE(failsWith("Page Unavailable"));
+    EXPECT_TRUE(loads("/"));
+    EXPECT_FALSE(panel());
+}
+
+TEST_F(WebViewRecoveryTest, aLoadThatReplacesAnotherIsNoFailure)
+{
+    server.pages["/silent"] = {.body = "", .isSilent = true};
+    openView();
+    load("/silent");
+    ASSERT_TRUE(until([&] { return server.requestCount("/silent") == 1; }));
+
+    EXPECT_TRUE(loads("/"));
+    EXPECT_FALSE(panel());
+}
+
+TEST_F(WebViewRecoveryTest, aScriptBeforeTheFirstPageDoesNotDisturbItsLoad)
+{
+    openView();
+    load("/");
+    view->evaluateJavaScript("location.reload()");
+
+    EXPECT_TRUE(isReadyWith("Home"));
+    EXPECT_EQ(server.requestCount("/"), 1u);
+}
+
+} // namespace desktop

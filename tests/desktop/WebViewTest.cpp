@@ -1,0 +1,223 @@
+#include "webview/WebViewTest.h"
+
+namespace desktop {
+
+using CachePolicy = platform::URLRequest::CachePolicy;
+using Property = platform::WKWebView::Property;
+
+TEST_F(WebViewTest, loadsAPageAndTellsWhatChanges)
+{
+    openView();
+    std::vector<std::string> titles;
+    std::vector<double> progress;
+    bool wasLoading = false;
+    const auto title = view->observe(Property::title, [&] { titles.push_back(view->title()); });
+    const auto steps = view->observe(
+        Property::estimatedProgress, [&] { progress.push_back(view->estimatedProgress()); });
+    const auto loading =
+        view->observe(Property::isLoading, [&] { wasLoading = wasLoading || view->isLoading(); });
+    EXPECT_EQ(titles, std::vector<std::string>{""});
+    EXPECT_EQ(progress, std::vector<double>{0});
+
+    ASSERT_TRUE(loads("/"));
+
+    EXPECT_EQ(titles.back(), "Home");
+    EXPECT_EQ(progress.back(), 1);
+    EXPECT_TRUE(wasLoading);
+    EXPECT_FALSE(view->isLoading());
+}
+
+TEST_F(WebViewTest, anObservationEndsWithItsToken)
+{
+    openView();
+    int calls = 0;
+    auto observation = view->observe(Property::title, [&] { ++calls; });
+    observation.reset();
+
+    ASSERT_TRUE(loads("/"));
+
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(WebViewTest, goesThroughItsListOfPages)
+{
+    server.pages["/two"] = {.body = "<title>Two</title>"};
+    openView();
+    bool couldGoBack = false;
+    const auto observation =
+        view->observe(Property::canGoBack, [&] { couldGoBack = couldGoBack || view->canGoBack(); });
+    ASSERT_TRUE(loads("/"));
+    EXPECT_FALSE(view->canGoBack());
+    ASSERT_TRUE(loads("/two", "Two"));
+    EXPECT_TRUE(couldGoBack);
+
+    view->goBack();
+    EXPECT_TRUE(isReadyWith("Home"));
+    EXPECT_TRUE(view->canGoForward());
+
+    view->goForward();
+    EXPECT_TRUE(isReadyWith("Two"));
+}
+
+TEST_F(WebViewTest, theNextRunAsksTheServerWhetherAPageIsStillGood)
+{
+    server.pages["/"].headers = {{"ETag", "\"one\""}, {"Cache-Control", "max-age=3600"}};
+    openView();
+    ASSERT_TRUE(loads("/"));
+    ASSERT_TRUE(until([this] { return hasCachedSomething(); }));
+    startEngine();
+    openView();
+
+    load("/", CachePolicy::reloadRevalidatingCacheData);
+
+    ASSERT_TRUE(isReadyWith("Home"));
+    ASSERT_EQ(server.requestCount("/"), 2u);
+    EXPECT_EQ(server.requests.back().headers["if-none-match"], "\"one\"");
+}
+
+TEST_F(WebViewTest, cookiesAndStorageAreThereInTheNextRun)
+{
+    server.pages["/"].headers = {{"Set-Cookie", "kept=yes; Max-Age=3600; Secure; HttpOnly"}};
+    openView();
+    ASSERT_TRUE(loads("/"));
+    EXPECT_EQ(
+        valueOf("(localStorage.setItem('kept', 'too'), localStorage.getItem('kept'))"), "too");
+    startEngine();
+    openView();
+
+    ASSERT_TRUE(loads("/"));
+
+    EXPECT_EQ(server.requests.back().headers["cookie"], "kept=yes");
+    EXPECT_EQ(valueOf("localStorage.getItem('kept')"), "too");
+}
+
+TEST_F(WebViewTest, aViewWithoutPersistentStoreLeavesNothingBehind)
+{
+    server.pages["/"].headers = {{"Set-Cookie", "kept=yes; Max-Age=3600; Secure"}};
+    configuration.userContentController.scriptMessageHandlers = {{"probe", probe}};
+    const auto openPrivately = [this] {
+        configuration.websiteDataStore = platform::WKWebsiteDataStore::nonPersistent;
+        view = std::make_shared<gtk::GtkWebView>(*engine, configuration);
+        view->setShown(true);
+        return loads("/");
+    };
+    ASSERT_TRUE(openPrivately());
+    EXPECT_EQ(valueOf("document.cookie"), "kept=yes");
+    view.reset();
+
+    ASSERT_TRUE(openPrivately());
+
+    EXPECT_FALSE(server.requests.back().headers.contains("cookie"));
+}
+
+TEST_F(WebViewTest, userScriptsRunInTheMainFrameBeforeAndAfterThePagesOwn)
+{
+    using Time = platform::WKUserScript::InjectionTime;
+    server.pages["/"].body = "<title>Home</title><script>seen.push('page')</script>"
+                             "<iframe src='/frame'></iframe>";
+    server.pages["/frame"].body =
+        "<script>parent.seen.push(typeof seen === 'undefined' ? 'clean' : 'scripted')</script>";
+    configuration.userContentController.userScripts = {
+        {.source = "window.seen = ['start \\u00e9\u00e9'];",
+            .injectionTime = Time::atDocumentStart},
+        {.source = "seen.push('end ' + document.readyState);",
+            .injectionTime = Time::atDocumentEnd},
+    };
+    openView();
+    ASSERT_TRUE(loads("/"));
+
+    ASSERT_TRUE(until([&] { return valueOf("seen.length") == platform::Value(4); }));
+    EXPECT_EQ(valueOf("seen[0]"), "start \u00e9\u00e9");
+    EXPECT_EQ(valueOf("seen[1]"), "page");
+    EXPECT_EQ(valueOf("seen.includes('end interactive')"), true);
+    EXPECT_EQ(valueOf("seen.includes('clean')"), true);
+}
+
+TEST_F(WebViewTest, sendsItsOwnUserAgent)
+{
+    openView();
+    view->setCustomUserAgent("Something/1.0 Else/2");
+
+    ASSERT_TRUE(loads("/"));
+
+    EXPECT_EQ(server.requests.back().headers["user-agent"], "Something/1.0 Else/2");
+    EXPECT_EQ(valueOf("navigator.userAgent"), "Something/1.0 Else/2");
+}
+
+TEST_F(WebViewTest, showsOverlayScrollersAndNoBackgroundOfItsOwn)
+{
+    server.pages["/"].body = "<title>Home</title><div style='height: 9000px'></div>";
+    openView();
+    view->setUsesOverlayScrollers(true);
+    view->setDrawsBackground(false);
+
+    ASSERT_TRUE(loads("/"));
+
+    EXPECT_EQ(valueOf("innerWidth - document.documentElement.clientWidth"), 0);
+    GdkRGBA color;
+    webkit_web_view_get_background_color(native(), &color);
+    EXPECT_EQ(color.alpha, 0);
+}
+
+TEST_F(WebViewTest, pinchesOnlyWhereThatIsAllowed)
+{
+    openView();
+    const auto isPinchIgnored = [this] {
+        g_autoptr(GListModel) controllers = gtk_widget_observe_controllers(GTK_WIDGET(native()));
+        for (guint index = 0; index < g_list_model_get_n_items(controllers); ++index) {
+            g_autoptr(GObject) controller = G_OBJECT(g_list_model_get_item(controllers, index));
+            if (GTK_IS_GESTURE_ZOOM(controller))
+                return gtk_event_controller_get_propagation_phase(GTK_EVENT_CONTROLLER(controller))
+                    == GTK_PHASE_NONE;
+        }
+        ADD_FAILURE() << "the engine has no gesture for pinches";
+        return false;
+    };
+
+    view->setAllowsMagnification(false);
+    EXPECT_TRUE(isPinchIgnored());
+    view->setAllowsMagnification(true);
+    EXPECT_FALSE(isPinchIgnored());
+}
+
+TEST_F(WebViewTest, whatComesAfterTheViewHasGoneReachesNobody)
+{
+    openView();
+    ASSERT_TRUE(loads("/"));
+    std::weak_ptr<gtk::GtkWebView> gone = view;
+    auto* widget = GTK_WIDGET(native());
+    g_object_add_weak_pointer(G_OBJECT(widget), reinterpret_cast<gpointer*>(&widget));
+    view->evaluateJavaScript("setInterval(() => webkit.messageHandlers.probe.postMessage(1), 1)");
+    ASSERT_TRUE(until([&] { return !probe->messages.empty(); }));
+
+    closeView();
+
+    EXPECT_TRUE(gone.expired());
+    EXPECT_TRUE(until([&] { return !widget; }));
+    EXPECT_FALSE(engine->isFrontPageReady());
+}
+
+TEST_F(WebViewTest, aHandlerMayDoAwayWithTheView)
+{
+    struct Closer final : platform::WKScriptMessageHandler {
+        void userContentControllerDidReceiveScriptMessage(const platform::WKScriptMessage&) override
+        {
+            close();
+        }
+        std::function<void()> close;
+    };
+    openView();
+    const auto closer = std::make_shared<Closer>();
+    closer->close = [this] { closeView(); };
+    closeView();
+    configuration.userContentController.scriptMessageHandlers = {{"closer", closer}};
+    view = std::make_shared<gtk::GtkWebView>(*engine, configuration);
+    view->setShown(true);
+    ASSERT_TRUE(loads("/"));
+
+    view->evaluateJavaScript("webkit.messageHandlers.closer.postMessage(null)");
+
+    EXPECT_TRUE(until([&] { return !view; }));
+}
+
+} // namespace desktop

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace desktop {
+
+// A control of some program as a screen reader meets it. It stays harmless when the control goes
+// away.
+class AccessibleObject {
+public:
+    // The first object with this name anywhere in the application whose process is `pid`: what a
+    // person would call the control. Absent while there is none on screen.
+    static std::optional<AccessibleObject> find(int pid, const std::string& name);
+
+    std::string role() const;
+
+    // Does what a click does. False when the object cannot be clicked.
+    bool activate() const;
+
+private:
+    struct Address {
+        std::string program; // its name on the accessibility bus
+        std::string path;
+    };
+
+    explicit AccessibleObject(Address address)
+        : address_(std::move(address))
+    {
+    }
+
+    std::string name() const;
+    bool isVisible() const;
+    std::vector<AccessibleObject> children() const;
+    std::optional<AccessibleObject> descendant(const std::string& name) const;
+
+    Address address_;
+};
+
+} // namespace desktop

@@ -1,0 +1,72 @@
+#include "AppProcess.h"
+
+#include "PageOnScreen.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <regex>
+#include <sstream>
+
+namespace desktop {
+
+namespace {
+
+std::vector<std::string> commandLine(const std::vector<std::string>& arguments)
+{
+    std::vector<std::string> result = {VELMARO_ONLINE};
+    result.insert(result.end(), arguments.begin(), arguments.end());
+    return result;
+}
+
+// The lines that no healthy run writes.
+std::string complaints(const std::string& errors)
+{
+    const std::regex pattern(
+        "WARNING \\*\\*|CRITICAL \\*\\*|ERROR|runtime error:|\\(warning|Sanitizer");
+    std::string result, line;
+    for (std::istringstream lines(errors); std::getline(lines, line);) {
+        if (std::regex_search(line, pattern))
+            result += line + '\n';
+    }
+    return result;
+}
+
+} // namespace
+
+AppProcess::AppProcess(
+    const std::vector<std::string>& arguments, const Process::Environment& environment)
+    : process_(commandLine(arguments), environment)
+{
+}
+
+AppProcess::AppProcess(const DemoServiceProcess& service, const std::vector<std::string>& arguments)
+    : AppProcess(arguments, service.clientEnvironment())
+{
+}
+
+AppProcess::~AppProcess()
+{
+    process_.signal(SIGTERM);
+    process_.waitForExit(std::chrono::seconds(10));
+    EXPECT_EQ(complaints(process_.errors()), "");
+}
+
+std::optional<DesktopWindow> AppProcess::waitForWindow()
+{
+    std::optional<DesktopWindow> window;
+    const bool isThere = eventually([&] {
+        window = Desktop::window("Velmaro Online");
+        return window || !process_.isRunning();
+    });
+    if (!isThere || !window)
+        ADD_FAILURE() << "no window; the application wrote:\n" << process_.errors();
+    return window;
+}
+
+bool AppProcess::waitForPage()
+{
+    const auto window = waitForWindow();
+    return window && pageOnScreen(*window, generousLimit).has_value();
+}
+
+} // namespace desktop

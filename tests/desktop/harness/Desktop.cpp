@@ -1,0 +1,150 @@
+#include "Desktop.h"
+
+#include <algorithm>
+#include <memory>
+#include <stdexcept>
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+
+namespace desktop {
+
+namespace {
+
+Display* display()
+{
+    static Display* const connection = [] {
+        // Windows come and go while they are looked at; each operation tells by its result.
+        XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+        Display* opened = XOpenDisplay(nullptr);
+        if (!opened)
+            throw std::runtime_error("no X display");
+        return opened;
+    }();
+    return connection;
+}
+
+Atom atom(const char* name)
+{
+    return XInternAtom(display(), name, False);
+}
+
+struct Freed {
+    void operator()(void* data) const { XFree(data); }
+};
+
+// The elements of a property: of type unsigned char where its format is 8, of unsigned long where
+// it is 32.
+template <class Element> std::vector<Element> property(Window window, const char* name)
+{
+    Atom type = None;
+    int format = 0;
+    unsigned long count = 0, rest = 0;
+    unsigned char* data = nullptr;
+    const int result = XGetWindowProperty(display(), window, atom(name), 0, 100'000, False,
+        AnyPropertyType, &type, &format, &count, &rest, &data);
+    const std::unique_ptr<void, Freed> owner(data);
+    if (result != Success || format != (sizeof(Element) == 1 ? 8 : 32))
+        return {};
+    const auto* elements = reinterpret_cast<const Element*>(data);
+    return {elements, elements + count};
+}
+
+struct Extents {
+    int left = 0, right = 0, top = 0, bottom = 0;
+};
+
+Extents extents(Window window, const char* name)
+{
+    const auto sides = property<unsigned long>(window, name);
+    if (sides.size() != 4)
+        return {};
+    return {static_cast<int>(sides[0]), static_cast<int>(sides[1]), static_cast<int>(sides[2]),
+        static_cast<int>(sides[3])};
+}
+
+} // namespace
+
+std::string DesktopWindow::title() const
+{
+    const auto text = property<unsigned char>(id_, "_NET_WM_NAME");
+    return {text.begin(), text.end()};
+}
+
+Rectangle DesktopWindow::frame() const
+{
+    XWindowAttributes attributes;
+    if (!XGetWindowAttributes(display(), id_, &attributes))
+        return {};
+    int x = 0, y = 0;
+    Window child = None;
+    XTranslateCoordinates(display(), id_, attributes.root, 0, 0, &x, &y, &child);
+
+    const auto added = extents(id_, "_NET_FRAME_EXTENTS");
+    const auto shadow = extents(id_, "_GTK_FRAME_EXTENTS");
+    const int left = added.left - shadow.left, right = added.right - shadow.right;
+    const int top = added.top - shadow.top, bottom = added.bottom - shadow.bottom;
+    return {x - left, y - top, attributes.width + left + right, attributes.height + top + bottom};
+}
+
+std::optional<Picture> DesktopWindow::picture() const
+{
+    XWindowAttributes attributes;
+    if (!XGetWindowAttributes(display(), id_, &attributes) || attributes.map_state != IsViewable)
+        return {};
+    XImage* image =
+        XGetImage(display(), id_, 0, 0, attributes.width, attributes.height, AllPlanes, ZPixmap);
+    if (!image)
+        return {};
+    Picture picture{.width = image->width, .height = image->height, .pixels = {}};
+    picture.pixels.reserve(static_cast<std::size_t>(image->width) * image->height);
+    for (int y = 0; y < image->height; ++y) {
+        const auto* row = reinterpret_cast<const std::uint32_t*>(
+            image->data + static_cast<std::ptrdiff_t>(y) * image->bytes_per_line);
+        std::transform(row, row + image->width, std::back_inserter(picture.pixels),
+            [](std::uint32_t pixel) { return pixel & 0xffffff; });
+    }
+    XDestroyImage(image);
+    return picture;
+}
+
+void DesktopWindow::close() const
+{
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = id_;
+    event.xclient.message_type = atom("_NET_CLOSE_WINDOW");
+    event.xclient.format = 32;
+    event.xclient.data.l[1] = 2; // On behalf of the user.
+    XSendEvent(display(), DefaultRootWindow(display()), False,
+        SubstructureNotifyMask | SubstructureRedirectMask, &event);
+    XFlush(display());
+}
+
+std::vector<DesktopWindow> Desktop::windows()
+{
+    std::vector<DesktopWindow> result;
+    for (const auto id : property<unsigned long>(DefaultRootWindow(display()), "_NET_CLIENT_LIST"))
+        result.emplace_back(id);
+    return result;
+}
+
+std::optional<DesktopWindow> Desktop::window(const std::string& title)
+{
+    for (const auto& window : windows()) {
+        if (window.title() == title)
+            return window;
+    }
+    return {};
+}
+
+Rectangle Desktop::workArea()
+{
+    const auto areas = property<unsigned long>(DefaultRootWindow(display()), "_NET_WORKAREA");
+    if (areas.size() < 4)
+        return {};
+    return {static_cast<int>(areas[0]), static_cast<int>(areas[1]), static_cast<int>(areas[2]),
+        static_cast<int>(areas[3])};
+}
+
+} // namespace desktop

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Picture.h"
+#include "Rectangle.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace desktop {
+
+// A top-level window of any program, seen from outside as the window manager sees it. Everything is
+// absent or empty once it has gone.
+class DesktopWindow {
+public:
+    explicit DesktopWindow(unsigned long id)
+        : id_(id)
+    {
+    }
+
+    unsigned long id() const { return id_; }
+    std::string title() const;
+
+    // With the title bar and the borders, whoever draws them, and without shadows.
+    Rectangle frame() const;
+
+    // What it draws itself, so without a title bar of the window manager. Absent while it is not on
+    // screen.
+    std::optional<Picture> picture() const;
+
+    // Asks it to close, as its close button does.
+    void close() const;
+
+    bool operator==(const DesktopWindow&) const = default;
+
+private:
+    unsigned long id_;
+};
+
+// The X desktop that the test runs on.
+class Desktop {
+public:
+    // The windows that the window manager shows, oldest first.
+    static std::vector<DesktopWindow> windows();
+
+    // The oldest window with this title.
+    static std::optional<DesktopWindow> window(const std::string& title);
+
+    // The screen without panels and docks.
+    static Rectangle workArea();
+};
+
+} // namespace desktop

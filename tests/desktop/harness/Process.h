@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Eventually.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace desktop {
+
+// A program that runs beside the test, and no longer than this object.
+class Process {
+public:
+    // What to set in the inherited environment; an empty value takes the variable away.
+    using Environment = std::map<std::string, std::string>;
+
+    // Throws std::runtime_error when the system cannot start another process. A program that is
+    // missing exits with 127.
+    explicit Process(
+        const std::vector<std::string>& arguments, const Environment& environment = {});
+
+    // Asks it to end and, after ten seconds, makes it end.
+    ~Process();
+
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+
+    pid_t pid() const { return pid_; }
+    bool isRunning() { return !waitForExit(std::chrono::milliseconds(0)); }
+    void signal(int number) const;
+
+    // The exit status, or minus the number of the signal that ended it. Absent when it is running
+    // after `limit`.
+    std::optional<int> waitForExit(std::chrono::milliseconds limit = generousLimit);
+
+    // Everything it has written so far.
+    std::string output() const;
+    std::string errors() const;
+
+    // The processes below this one whose program has `name`, oldest first.
+    std::vector<pid_t> descendants(const std::string& name) const;
+
+private:
+    std::filesystem::path folder_; // of the two files that take the output
+    pid_t pid_ = -1;
+    int handle_ = -1;
+    std::optional<int> status_;
+};
+
+} // namespace desktop
