@@ -31,10 +31,12 @@ bool measure(const Contender& contender, Result& result)
     const auto process = contender.start();
 
     std::vector<desktop::DesktopWindow> windows;
-    const bool hasWindow = desktop::eventually([&] {
-        windows = desktop::Desktop::windows();
-        return !windows.empty();
-    });
+    const bool hasWindow = desktop::eventually(
+        [&] {
+            windows = desktop::Desktop::windows();
+            return !windows.empty();
+        },
+        desktop::generousLimit, desktop::shortPause);
     if (!hasWindow)
         return false;
     const auto windowSeen = desktop::Clock::now();

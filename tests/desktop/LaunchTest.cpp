@@ -4,8 +4,9 @@
 #include "harness/SavedSettings.h"
 
 #include <cmath>
-#include <csignal>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace desktop {
 
@@ -15,6 +16,26 @@ const Process::Environment withoutDisplay = {
     {"DISPLAY", ""},
     {"DBUS_SESSION_BUS_ADDRESS", ""},
 };
+
+// Whether the engine has brought the page, which it does a while after showing it, to its cache on
+// the disk. A record there begins with the address, as it stands.
+bool isOnDisk(const std::string& address)
+{
+    std::error_code error;
+    const std::filesystem::path cache = std::getenv("XDG_CACHE_HOME");
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(cache, error)) {
+        if (!entry.is_regular_file(error))
+            continue;
+        std::ostringstream text;
+        text << std::ifstream(entry.path()).rdbuf();
+        const auto content = text.str();
+        const auto found = content.find(address);
+        // Addresses further down begin with the same text.
+        if (found != std::string::npos && content[found + address.size()] != '/')
+            return true;
+    }
+    return false;
+}
 
 } // namespace
 
@@ -97,6 +118,7 @@ TEST(Launch, theSecondOneAsksWhetherThePageHasChanged)
     {
         AppProcess app(service);
         ASSERT_TRUE(app.waitForPage());
+        ASSERT_TRUE(eventually([&] { return isOnDisk(service.origin() + "/online"); }));
     }
     service.forgetRequests();
     AppProcess app(service);

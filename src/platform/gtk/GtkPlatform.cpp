@@ -11,6 +11,7 @@
 #include "platform/gtk/webkit/GtkWebView.h"
 #include "platform/gtk/webkit/WebEngine.h"
 
+#include <future>
 #include <gio/gio.h>
 #include <glibmm/init.h>
 
@@ -114,8 +115,12 @@ WebEngine& GtkPlatform::webEngine()
 
 std::optional<std::string> GtkPlatform::prepare()
 {
-    webEngine().prepare(expectedHost_);
-    if (const auto missing = webEngine().missingSandboxHelper())
+    // The check waits for a process, which the engine's own start need not wait for.
+    auto& engine = webEngine();
+    auto check =
+        std::async(std::launch::async, [&engine] { return engine.missingSandboxHelper(); });
+    engine.prepare(expectedHost_);
+    if (const auto missing = check.get())
         return "web pages cannot be shown without their sandbox: " + *missing;
     return std::nullopt;
 }

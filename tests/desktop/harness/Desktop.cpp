@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <stdexcept>
-#include <X11/Xatom.h>
+#include <X11/extensions/Xdamage.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -119,6 +119,31 @@ void DesktopWindow::close() const
     XSendEvent(display(), DefaultRootWindow(display()), False,
         SubstructureNotifyMask | SubstructureRedirectMask, &event);
     XFlush(display());
+}
+
+DrawingWatch::DrawingWatch(const DesktopWindow& window)
+{
+    int firstEvent = 0, firstError = 0;
+    XDamageQueryExtension(display(), &firstEvent, &firstError);
+    damage_ = XDamageCreate(display(), window.id(), XDamageReportNonEmpty);
+}
+
+DrawingWatch::~DrawingWatch()
+{
+    XDamageDestroy(display(), damage_);
+}
+
+bool DrawingWatch::hasDrawn()
+{
+    bool hasDrawn = false;
+    while (XPending(display())) {
+        XEvent event;
+        XNextEvent(display(), &event);
+        hasDrawn = true; // No other kind of event is asked for.
+    }
+    if (hasDrawn)
+        XDamageSubtract(display(), damage_, None, None);
+    return hasDrawn;
 }
 
 std::vector<DesktopWindow> Desktop::windows()

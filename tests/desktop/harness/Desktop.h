@@ -37,6 +37,22 @@ private:
     unsigned long id_;
 };
 
+// Tells when a window is drawn on, at next to no cost for it and for the machine.
+class DrawingWatch {
+public:
+    explicit DrawingWatch(const DesktopWindow& window);
+    ~DrawingWatch();
+
+    DrawingWatch(const DrawingWatch&) = delete;
+    DrawingWatch& operator=(const DrawingWatch&) = delete;
+
+    // Whether anything was drawn since the last call, or since the watch began.
+    bool hasDrawn();
+
+private:
+    unsigned long damage_;
+};
+
 // The X desktop that the test runs on.
 class Desktop {
 public:

@@ -4,13 +4,14 @@
 
 namespace desktop {
 
-bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds limit)
+bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds limit,
+    std::chrono::milliseconds pause)
 {
     const auto end = std::chrono::steady_clock::now() + limit;
     while (!condition()) {
         if (std::chrono::steady_clock::now() > end)
             return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        std::this_thread::sleep_for(pause);
     }
     return true;
 }

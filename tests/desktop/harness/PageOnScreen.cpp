@@ -17,29 +17,30 @@ constexpr double mostUniform = 0.95;
 std::optional<PageOnScreen> pageOnScreen(
     const DesktopWindow& window, std::chrono::milliseconds limit)
 {
+    DrawingWatch watch(window);
+    std::optional<Picture> latest;
     std::optional<PageOnScreen> page;
+    const auto look = [&] {
+        const auto now = Clock::now();
+        auto picture = window.picture();
+        if (!picture || picture == latest)
+            return;
+        latest = std::move(picture);
+        if (latest->uniformity() > mostUniform)
+            page.reset();
+        else
+            page = {.firstSeen = page ? page->firstSeen : now, .lastChange = now, .picture = {}};
+    };
     const bool isComplete = eventually(
         [&] {
-            auto picture = window.picture();
-            const auto now = Clock::now();
-            if (!picture)
-                return false;
-            if (page && page->picture == *picture)
-                return now - page->lastChange >= quietTime;
-            if (picture->uniformity() > mostUniform) {
-                page.reset();
-                return false;
-            }
-            page = PageOnScreen{
-                .firstSeen = page ? page->firstSeen : now,
-                .lastChange = now,
-                .picture = std::move(*picture),
-            };
-            return false;
+            if (watch.hasDrawn() || !latest)
+                look();
+            return page && Clock::now() - page->lastChange >= quietTime;
         },
-        limit);
+        limit, shortPause);
     if (!isComplete)
         return {};
+    page->picture = std::move(*latest);
     return page;
 }
 

@@ -8,6 +8,9 @@ namespace desktop {
 
 using Clock = std::chrono::steady_clock;
 
+// Between two looks where the time is measured.
+constexpr auto shortPause = std::chrono::milliseconds(2);
+
 // A page that is complete on screen.
 struct PageOnScreen {
     Clock::time_point firstSeen; // there was something else to see than one colour and a faint icon

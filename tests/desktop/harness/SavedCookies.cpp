@@ -8,7 +8,8 @@ namespace desktop {
 
 void SavedCookies::signIn(const std::string& firstname, const std::string& lastname)
 {
-    const auto folder = std::filesystem::path(std::getenv("XDG_DATA_HOME")) / "velmaro-online";
+    const auto folder =
+        std::filesystem::path(std::getenv("XDG_DATA_HOME")) / "velmaro-online" / "web";
     std::filesystem::create_directories(folder);
     SoupCookieJar* jar = soup_cookie_jar_db_new((folder / "cookies.sqlite").c_str(), FALSE);
     SoupCookie* cookie = soup_cookie_new("velmaro_session", (firstname + '.' + lastname).c_str(),

@@ -14,7 +14,8 @@ constexpr auto page = R"js(
     var ticks = [];
     function setInterval(action, milliseconds) { ticks.push([action, milliseconds]); }
     function tick() { ticks.forEach(([action]) => action()); }
-    window.webkit = { messageHandlers: { authBridge: { postMessage(body) { posts.push(body); } } } };
+    const authBridge = { postMessage(body) { posts.push(body); } };
+    window.webkit = { messageHandlers: { authBridge } };
 )js";
 
 Value names(const char* first, const char* last)

@@ -110,7 +110,7 @@ void Application::launchOnce()
         return;
     isLaunched_ = true;
     program_.hold(); // windows alone do not decide how long the program lives
-    onLostDisplay([this] { finish(); });
+    lostDisplay_ = std::make_unique<LostDisplay>([this] { finish(); });
     platform_.webEngine().signalFrontPageChanged().connect([this] { openURLQueue_.update(); });
 
     delegate_->applicationWillFinishLaunching(*this);

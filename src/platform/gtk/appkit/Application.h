@@ -9,6 +9,7 @@
 namespace gtk {
 
 class GtkPlatform;
+class LostDisplay;
 class MainWindow;
 
 // The running program on the desktop.
@@ -44,6 +45,7 @@ private:
     platform::NSApplicationDelegate* delegate_ = nullptr;
     const ui::Scene* scene_ = nullptr;
 
+    std::unique_ptr<LostDisplay> lostDisplay_;
     OpenURLQueue openURLQueue_;
     std::vector<std::shared_ptr<MainWindow>> windows_;
     std::vector<std::shared_ptr<MainWindow>> closedWindows_; // whose models may still have to save

@@ -1,34 +1,40 @@
 #include "platform/gtk/appkit/LostDisplay.h"
 
+#include <cstdlib>
 #include <gdk/x11/gdkx.h>
 #include <unistd.h>
+#include <utility>
 
 namespace gtk {
 
 namespace {
 
 // Xlib's handler has no argument to find these by.
-std::function<void()>* lastWords = nullptr;
+std::function<void()>* currentLastWords = nullptr;
 
 int connectionLost(Display* display)
 {
     if (auto* server = XOpenDisplay(DisplayString(display)))
         XCloseDisplay(server);
-    else if (auto* words = std::exchange(lastWords, nullptr))
-        (*words)();
+    else if (auto* lastWords = std::exchange(currentLastWords, nullptr))
+        (*lastWords)();
     _exit(EXIT_FAILURE); // Xlib cannot go on
 }
 
 } // namespace
 
-void onLostDisplay(std::function<void()> words)
+LostDisplay::LostDisplay(std::function<void()> lastWords)
+    : lastWords_(std::move(lastWords))
 {
     if (!GDK_IS_X11_DISPLAY(gdk_display_get_default()))
         return;
-    static std::function<void()> storage;
-    storage = std::move(words);
-    lastWords = &storage;
+    currentLastWords = &lastWords_;
     XSetIOErrorHandler(connectionLost);
+}
+
+LostDisplay::~LostDisplay()
+{
+    currentLastWords = nullptr;
 }
 
 } // namespace gtk

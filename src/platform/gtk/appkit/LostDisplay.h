@@ -5,11 +5,22 @@
 namespace gtk {
 
 // An X server that ends takes its programs with it, without a word: on desktops that start straight
-// from it, this is how a session ends. From then on `lastWords` is called once before the program
-// goes, in the middle of whatever it was doing, and must not touch anything on the display. A
-// window that was killed says nothing: its server is still there. On Wayland this does nothing.
+// from it, this is how a session ends. As long as this lives, `lastWords` is called then, once,
+// before the program goes; in the middle of whatever it was doing, so it must not touch anything on
+// the display. A window that was killed says nothing: its server is still there. On Wayland nothing
+// of this happens.
 //
-// To be called once, when the toolkit has started.
-void onLostDisplay(std::function<void()> lastWords);
+// One at a time, made when the toolkit has started.
+class LostDisplay {
+public:
+    explicit LostDisplay(std::function<void()> lastWords);
+    ~LostDisplay();
+
+    LostDisplay(const LostDisplay&) = delete;
+    LostDisplay& operator=(const LostDisplay&) = delete;
+
+private:
+    std::function<void()> lastWords_;
+};
 
 } // namespace gtk

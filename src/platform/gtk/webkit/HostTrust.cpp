@@ -11,10 +11,18 @@ std::string hostOf(const char* address)
     return host ? host : "";
 }
 
+// The engine writes hosts in lower case.
+HostCertificate forEngine(HostCertificate certificate)
+{
+    g_autofree char* host = g_ascii_strdown(certificate.host.c_str(), -1);
+    certificate.host = host;
+    return certificate;
+}
+
 } // namespace
 
 HostTrust::HostTrust(const std::optional<HostCertificate>& certificate)
-    : trusted_(certificate.value_or(HostCertificate()))
+    : trusted_(forEngine(certificate.value_or(HostCertificate())))
 {
     if (!certificate)
         return;

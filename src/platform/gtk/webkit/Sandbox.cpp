@@ -33,12 +33,12 @@ std::optional<std::string> sandboxProblem()
     const bool isInsidePackage = g_file_test("/.flatpak-info", G_FILE_TEST_EXISTS);
     if (isInsidePackage || g_getenv("WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS"))
         return std::nullopt;
-    for (const auto* helper : {bubblewrap, busProxy}) {
-        if (!isProgram(helper))
-            return std::string(helper) + " is missing";
-    }
+    if (!isProgram(bubblewrap))
+        return "/usr/bin/bwrap is missing";
+    if (!isProgram(busProxy))
+        return "/usr/bin/xdg-dbus-proxy is missing";
     if (!canMakeSandbox())
-        return std::string(bubblewrap) + " is not allowed to make a sandbox";
+        return "/usr/bin/bwrap is not allowed to make one";
     return std::nullopt;
 }
 
