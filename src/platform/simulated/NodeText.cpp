@@ -16,7 +16,7 @@ template <class Enum> constexpr std::size_t indexOf(Enum value)
 constexpr std::array alignmentNames = {"center", "top", "leading", "bottom", "trailing",
     "topLeading", "topTrailing", "bottomLeading", "bottomTrailing"};
 constexpr std::array roleNames = {"fixed", "accent", "label", "secondaryLabel", "windowBackground",
-    "underPageBackground", "separator"};
+    "underPageBackground", "textBackground", "material", "separator"};
 constexpr std::array weightNames = {"regular", "medium", "semibold", "bold"};
 constexpr std::array edgeNames = {"top", "leading", "bottom", "trailing"};
 
@@ -72,6 +72,14 @@ std::string groupText(const ui::GroupNode& node)
         line.add("movesFrom", edgeNames[indexOf(*node.transition.movesFrom)]);
     if (node.transition.duration > 0)
         line.add("duration", node.transition.duration);
+    if (!node.help.empty())
+        line.add("help").add(("\"" + node.help + "\"").c_str());
+    if (!node.accessibility.label.empty())
+        line.add("named").add(("\"" + node.accessibility.label + "\"").c_str());
+    if (node.accessibility.isSelected)
+        line.add("selected");
+    if (node.isScrolledToVisible)
+        line.add("scrolledToVisible");
     if (node.onOpenURL)
         line.add("opensURLs");
     return line.text();
@@ -114,10 +122,37 @@ std::string layersText(const ui::LayersNode& node)
 std::string textText(const ui::TextNode& node)
 {
     return Line("text \"" + node.text + "\"")
-        .add("size", node.font.size)
-        .add(weightNames[indexOf(node.font.weight)])
-        .addColor(node.color)
+        .add("size", node.options.font.size)
+        .add(weightNames[indexOf(node.options.font.weight)])
+        .addColor(node.options.color)
         .text();
+}
+
+std::string symbolText(const ui::SymbolNode& node)
+{
+    return Line("symbol " + node.name)
+        .add("size", node.options.font.size)
+        .add(weightNames[indexOf(node.options.font.weight)])
+        .addColor(node.options.color)
+        .text();
+}
+
+std::string shapeText(const ui::ShapeOptions& options)
+{
+    return Line("roundedRectangle")
+        .add("cornerRadius", options.cornerRadius)
+        .addColor(options.fill)
+        .text();
+}
+
+std::string buttonText(const ui::ButtonOptions& options)
+{
+    Line line("button \"" + options.help + "\"");
+    if (!options.isEnabled)
+        line.add("disabled");
+    if (options.isTinted)
+        line.add("tinted");
+    return line.text();
 }
 
 } // namespace
@@ -138,10 +173,12 @@ std::string nodeText(const ui::Node& node)
     case ui::Kind::padding:
         return paddingText(static_cast<const ui::PaddingNode&>(node).options);
     case ui::Kind::horizontalStack:
-        return Line("row").add("spacing", static_cast<const ui::StackNode&>(node).spacing).text();
+        return Line("row")
+            .add("spacing", static_cast<const ui::StackNode&>(node).options.spacing)
+            .text();
     case ui::Kind::verticalStack:
         return Line("column")
-            .add("spacing", static_cast<const ui::StackNode&>(node).spacing)
+            .add("spacing", static_cast<const ui::StackNode&>(node).options.spacing)
             .text();
     case ui::Kind::layers:
         return layersText(static_cast<const ui::LayersNode&>(node));
@@ -149,6 +186,28 @@ std::string nodeText(const ui::Node& node)
         return Line("fill").addColor(static_cast<const ui::FillNode&>(node).color).text();
     case ui::Kind::text:
         return textText(static_cast<const ui::TextNode&>(node));
+    case ui::Kind::symbol:
+        return symbolText(static_cast<const ui::SymbolNode&>(node));
+    case ui::Kind::spinner:
+        return "spinner";
+    case ui::Kind::spacer:
+        return Line("spacer")
+            .add("minLength", static_cast<const ui::SpacerNode&>(node).minLength)
+            .text();
+    case ui::Kind::divider:
+        return "divider";
+    case ui::Kind::roundedRectangle:
+        return shapeText(static_cast<const ui::RoundedRectangleNode&>(node).options);
+    case ui::Kind::button:
+        return buttonText(static_cast<const ui::ButtonNode&>(node).options);
+    case ui::Kind::textField:
+        return "textField \"" + static_cast<const ui::TextFieldNode&>(node).text.get() + "\"";
+    case ui::Kind::scrollArea:
+        return "scrollArea";
+    case ui::Kind::sheet:
+        return "sheet";
+    case ui::Kind::toolbar:
+        return "toolbar";
     case ui::Kind::applicationIcon:
         return "applicationIcon";
     case ui::Kind::progressBar:

@@ -12,6 +12,8 @@ struct Color {
         secondaryLabel,
         windowBackground,
         underPageBackground,
+        textBackground,
+        material,
         separator
     };
 
@@ -44,6 +46,8 @@ struct Color {
     static const Color secondaryLabel;
     static const Color windowBackground;
     static const Color underPageBackground;
+    static const Color textBackground;
+    static const Color material; // of panels that float over a page
     static const Color separator;
 };
 
@@ -56,6 +60,8 @@ inline constexpr Color Color::label{.role = Role::label};
 inline constexpr Color Color::secondaryLabel{.role = Role::secondaryLabel};
 inline constexpr Color Color::windowBackground{.role = Role::windowBackground};
 inline constexpr Color Color::underPageBackground{.role = Role::underPageBackground};
+inline constexpr Color Color::textBackground{.role = Role::textBackground};
+inline constexpr Color Color::material{.role = Role::material};
 inline constexpr Color Color::separator{.role = Role::separator};
 
 } // namespace ui

@@ -2,7 +2,7 @@
 
 #include "platform/appkit/NSView.h"
 #include "platform/foundation/URL.h"
-#include "platform/ui/Font.h"
+#include "platform/ui/Options.h"
 #include "platform/ui/View.h"
 
 #include <string>
@@ -28,8 +28,18 @@ enum class Kind {
     layers,
     fill,
     text,
+    symbol,
     applicationIcon,
     progressBar,
+    spinner,
+    spacer,
+    divider,
+    roundedRectangle,
+    button,
+    textField,
+    scrollArea,
+    sheet,
+    toolbar,
 };
 
 // One record of a description. It is not changed any more once it is mounted.
@@ -107,6 +117,13 @@ struct GroupNode : Node {
     double opacity = 1;
     bool allowsHitTesting = true;
     Transition transition;
+    std::string help;
+    Accessibility accessibility;
+    bool isScrolledToVisible = false;
+    std::string dragPayload; // empty: cannot be dragged
+    std::function<void(bool)> onHover;
+    std::function<void()> onTapGesture;
+    std::function<bool(const std::vector<std::string>&)> onDrop;
     std::function<void(const platform::URL&)> onOpenURL;
 };
 
@@ -132,14 +149,14 @@ struct PaddingNode : Node {
 
 // Children in a row or a column.
 struct StackNode : Node {
-    StackNode(Axis axis, double spacing, std::vector<View> children)
+    StackNode(Axis axis, StackOptions options, std::vector<View> children)
         : Node(axis == Axis::horizontal ? Kind::horizontalStack : Kind::verticalStack,
             std::move(children))
-        , spacing(spacing)
+        , options(options)
     {
     }
 
-    double spacing;
+    StackOptions options;
 };
 
 // Children on top of each other, the last one in front.
@@ -168,15 +185,28 @@ struct FillNode : Node {
 };
 
 struct TextNode : Node {
-    explicit TextNode(std::string text)
+    TextNode(std::string text, TextOptions options)
         : Node(Kind::text)
         , text(std::move(text))
+        , options(options)
     {
     }
 
     std::string text;
-    Font font;
-    Color color = Color::label;
+    TextOptions options;
+};
+
+// One of the application's symbols, as large as text in its font.
+struct SymbolNode : Node {
+    SymbolNode(std::string name, SymbolOptions options)
+        : Node(Kind::symbol)
+        , name(std::move(name))
+        , options(options)
+    {
+    }
+
+    std::string name;
+    SymbolOptions options;
 };
 
 struct ApplicationIconNode : Node {
@@ -194,6 +224,95 @@ struct ProgressBarNode : Node {
     }
 
     double fraction; // 0 to 1
+};
+
+// A small turning wheel.
+struct SpinnerNode : Node {
+    SpinnerNode()
+        : Node(Kind::spinner)
+    {
+    }
+};
+
+// Room that pushes its neighbours apart.
+struct SpacerNode : Node {
+    explicit SpacerNode(double minLength)
+        : Node(Kind::spacer)
+        , minLength(minLength)
+    {
+    }
+
+    double minLength;
+};
+
+// A thin line across.
+struct DividerNode : Node {
+    DividerNode()
+        : Node(Kind::divider)
+    {
+    }
+};
+
+struct RoundedRectangleNode : Node {
+    explicit RoundedRectangleNode(ShapeOptions options)
+        : Node(Kind::roundedRectangle)
+        , options(options)
+    {
+    }
+
+    ShapeOptions options;
+};
+
+struct ButtonNode : Node {
+    ButtonNode(ButtonOptions options, View label, std::function<void()> action)
+        : Node(Kind::button, {std::move(label)})
+        , options(std::move(options))
+        , action(std::move(action))
+    {
+    }
+
+    ButtonOptions options;
+    std::function<void()> action;
+};
+
+struct TextFieldNode : Node {
+    TextFieldNode(TextFieldOptions options, Binding<std::string> text)
+        : Node(Kind::textField)
+        , options(std::move(options))
+        , text(std::move(text))
+    {
+    }
+
+    TextFieldOptions options;
+    Binding<std::string> text;
+};
+
+struct ScrollAreaNode : Node {
+    ScrollAreaNode(ScrollOptions options, View content)
+        : Node(Kind::scrollArea, {std::move(content)})
+        , options(options)
+    {
+    }
+
+    ScrollOptions options;
+};
+
+struct SheetNode : Node {
+    SheetNode(View content, std::function<void()> onDismiss)
+        : Node(Kind::sheet, {std::move(content)})
+        , onDismiss(std::move(onDismiss))
+    {
+    }
+
+    std::function<void()> onDismiss;
+};
+
+// Its two children stand in the window's bar, at its beginning and its end.
+struct ToolbarNode : Node {
+    ToolbarNode(View leading, View trailing)
+        : Node(Kind::toolbar, {std::move(leading), std::move(trailing)})
+    {
+    }
 };
 
 // The node of one component type.

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "platform/ui/Color.h"
+#include "platform/ui/Accessibility.h"
 #include "platform/ui/Layout.h"
 #include "platform/ui/Transition.h"
 
 #include <concepts>
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace platform {
 class URL;
@@ -59,6 +61,9 @@ public:
     template <Component T> View(T component);
     template <NSViewRepresentable T> View(T host);
 
+    // Makes this another view than one in the same place with another key: state is not taken over.
+    View id(std::string key) const;
+
     View frame(FrameOptions options) const;
     View padding(PaddingOptions options) const;
 
@@ -73,6 +78,34 @@ public:
     View allowsHitTesting(bool isAllowed) const;
 
     View transition(Transition transition) const;
+
+    // What the view is for, in a few words: shown as a tooltip and read out by screen readers.
+    View help(std::string text) const;
+
+    // What the view is to a screen reader.
+    View accessibility(Accessibility accessibility) const;
+
+    // The pointer has entered (true) or left (false) the view.
+    View onHover(std::function<void(bool)> action) const;
+
+    // A click anywhere on the view that nothing inside it has taken.
+    View onTapGesture(std::function<void()> action) const;
+
+    // The view can be dragged; it carries `payload`.
+    View draggable(std::string payload) const;
+
+    // Texts can be dropped on the view; the action tells whether it takes them.
+    View dropDestination(std::function<bool(const std::vector<std::string>&)> action) const;
+
+    // Scrolls the area around the view so that all of it can be seen, each time this becomes true.
+    View scrolledToVisible(bool isVisible) const;
+
+    // A modal panel inside the window, over this view, while `content` is something. It holds the
+    // keyboard focus and gives it back. Escape and whatever else dismisses it calls `onDismiss`.
+    View sheet(View content, std::function<void()> onDismiss) const;
+
+    // Puts `leading` and `trailing` into the window's bar.
+    View toolbar(View leading, View trailing) const;
 
     // Called with every address that the window is asked to open.
     View onOpenURL(std::function<void(const platform::URL&)> action) const;

@@ -8,19 +8,11 @@
 
 namespace ui {
 
-struct StackOptions {
-    double spacing = 8; // points between children
-};
-
-struct LayersOptions {
-    Alignment alignment = Alignment::center;
-};
-
 // A row, its children centred vertically.
 struct HStack : View {
     template <class... Children>
     HStack(StackOptions options, Children&&... children)
-        : View(std::make_shared<StackNode>(Axis::horizontal, options.spacing,
+        : View(std::make_shared<StackNode>(Axis::horizontal, options,
             std::vector<View>{View(std::forward<Children>(children))...}))
     {
     }
@@ -30,8 +22,8 @@ struct HStack : View {
 struct VStack : View {
     template <class... Children>
     VStack(StackOptions options, Children&&... children)
-        : View(std::make_shared<StackNode>(Axis::vertical, options.spacing,
-            std::vector<View>{View(std::forward<Children>(children))...}))
+        : View(std::make_shared<StackNode>(
+            Axis::vertical, options, std::vector<View>{View(std::forward<Children>(children))...}))
     {
     }
 };
@@ -55,14 +47,19 @@ struct Fill : View {
     }
 };
 
-// One line of text.
-struct TextOptions {
-    Font font = {};
-    Color color = Color::label;
+struct Text : View {
+    explicit Text(std::string text, TextOptions options = {})
+        : View(std::make_shared<TextNode>(std::move(text), options))
+    {
+    }
 };
 
-struct Text : View {
-    explicit Text(std::string text, TextOptions options = {});
+// One of the application's own symbols, by its name.
+struct Symbol : View {
+    explicit Symbol(std::string name, SymbolOptions options = {})
+        : View(std::make_shared<SymbolNode>(std::move(name), options))
+    {
+    }
 };
 
 // The application's own picture, scaled to fit.
@@ -77,6 +74,62 @@ struct ApplicationIcon : View {
 struct ProgressBar : View {
     explicit ProgressBar(double fraction)
         : View(std::make_shared<ProgressBarNode>(fraction))
+    {
+    }
+};
+
+// A small turning wheel, for work whose end is not known.
+struct Spinner : View {
+    Spinner()
+        : View(std::make_shared<SpinnerNode>())
+    {
+    }
+};
+
+// Room in a stack that takes what is left.
+struct Spacer : View {
+    explicit Spacer(double minLength = 0)
+        : View(std::make_shared<SpacerNode>(minLength))
+    {
+    }
+};
+
+// A thin line across all the width there is.
+struct Divider : View {
+    Divider()
+        : View(std::make_shared<DividerNode>())
+    {
+    }
+};
+
+// An area with round corners that takes all the room there is.
+struct RoundedRectangle : View {
+    explicit RoundedRectangle(ShapeOptions options)
+        : View(std::make_shared<RoundedRectangleNode>(options))
+    {
+    }
+};
+
+struct Button : View {
+    Button(ButtonOptions options, View label, std::function<void()> action)
+        : View(
+            std::make_shared<ButtonNode>(std::move(options), std::move(label), std::move(action)))
+    {
+    }
+};
+
+// One line that can be edited, without a border of its own.
+struct TextField : View {
+    TextField(TextFieldOptions options, Binding<std::string> text)
+        : View(std::make_shared<TextFieldNode>(std::move(options), std::move(text)))
+    {
+    }
+};
+
+// Shows a part of a view that is larger than the room there is.
+struct ScrollArea : View {
+    ScrollArea(ScrollOptions options, View content)
+        : View(std::make_shared<ScrollAreaNode>(options, std::move(content)))
     {
     }
 };

@@ -23,9 +23,9 @@ struct Widgets : testing::Test {
     }
 
     simulated::SimulatedPlatform platform;
-    ui::StackNode stack{ui::Axis::vertical, 4, {}};
-    ui::TextNode a{"a"};
-    ui::TextNode b{"b"};
+    ui::StackNode stack{ui::Axis::vertical, {.spacing = 4}, {}};
+    ui::TextNode a{"a", {}};
+    ui::TextNode b{"b", {}};
     SimulatedRenderer renderer;
     SimulatedWidget parent{renderer};
     SimulatedWidget first{renderer};

@@ -9,11 +9,17 @@ namespace gtk {
 
 namespace {
 
-// A container expands when something in it does.
+constexpr auto expandingChildKey = "velmaro-expanding-child";
+
+// A container expands when something in it does, or when the one child that counts does.
 void computeExpand(GtkWidget* widget, gboolean* horizontal, gboolean* vertical)
 {
+    const auto counting = GPOINTER_TO_INT(g_object_get_data(G_OBJECT(widget), expandingChildKey));
+    int number = 0;
     for (auto* child = gtk_widget_get_first_child(widget); child;
          child = gtk_widget_get_next_sibling(child)) {
+        if (counting && ++number != counting)
+            continue;
         *horizontal = *horizontal || gtk_widget_compute_expand(child, GTK_ORIENTATION_HORIZONTAL);
         *vertical = *vertical || gtk_widget_compute_expand(child, GTK_ORIENTATION_VERTICAL);
     }
@@ -46,6 +52,12 @@ Container::Container() = default;
 Container::~Container()
 {
     departures_.clear(); // while there is an area to leave
+}
+
+void Container::setExpandingChild(std::size_t index)
+{
+    auto* number = GINT_TO_POINTER(static_cast<int>(index) + 1);
+    g_object_set_data(G_OBJECT(area_.gobj()), expandingChildKey, number);
 }
 
 void Container::place(ui::Widget& child, std::size_t index)

@@ -25,6 +25,12 @@ public:
     const ui::Transition& transition() const { return transition_; }
 
 protected:
+    // Where the children stand: the widget itself, or something in it.
+    Gtk::Widget& area() { return area_; }
+
+    // Of all children, only the one at `index` says whether the widget expands.
+    void setExpandingChild(std::size_t index);
+
     void setTransition(const ui::Transition& transition) { transition_ = transition; }
 
 private:

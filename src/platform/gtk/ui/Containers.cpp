@@ -1,5 +1,9 @@
 #include "platform/gtk/ui/Containers.h"
 
+#include "platform/gtk/ui/AccessibleName.h"
+#include "platform/gtk/ui/Allocation.h"
+#include "platform/gtk/ui/Leaves.h"
+#include "platform/gtk/ui/ScrollAreaWidget.h"
 #include "platform/ui/Node.h"
 
 #include <cmath>
@@ -28,6 +32,7 @@ void setExpand(Gtk::Widget& widget, const ui::FrameOptions& options)
 } // namespace
 
 GroupWidget::GroupWidget()
+    : interaction_(native())
 {
     native().set_layout_manager(Gtk::BinLayout::create());
 }
@@ -39,10 +44,28 @@ void GroupWidget::apply(const ui::Node& node)
     native().set_opacity(group.opacity);
     native().set_can_target(group.allowsHitTesting);
     native().set_can_focus(group.allowsHitTesting);
+    native().set_tooltip_text(group.help);
+    interaction_.apply(group);
+    applyAccessibility(group);
 
+    if (group.isScrolledToVisible && !isScrolledToVisible_)
+        scrollToVisible(native());
+    isScrolledToVisible_ = group.isScrolledToVisible;
+}
+
+void GroupWidget::applyAccessibility(const ui::GroupNode& group)
+{
+    auto* accessible = GTK_ACCESSIBLE(native().gobj());
+    const auto& label = group.accessibility.label.empty() ? group.help : group.accessibility.label;
+    if (!label.empty())
+        setAccessibleName(native(), label);
+    if (group.accessibility.role == ui::Accessibility::Role::tab) {
+        gtk_accessible_update_state(accessible, GTK_ACCESSIBLE_STATE_SELECTED,
+            static_cast<gboolean>(group.accessibility.isSelected), -1);
+    }
     // What cannot be seen is not read out either.
-    gtk_accessible_update_state(GTK_ACCESSIBLE(native().gobj()), GTK_ACCESSIBLE_STATE_HIDDEN,
-        static_cast<gboolean>(group.opacity <= 0), -1);
+    gtk_accessible_update_state(
+        accessible, GTK_ACCESSIBLE_STATE_HIDDEN, static_cast<gboolean>(group.opacity <= 0), -1);
 }
 
 LayersWidget::LayersWidget()
@@ -55,6 +78,8 @@ void LayersWidget::apply(const ui::Node& node)
 {
     const auto& layers = static_cast<const ui::LayersNode&>(node);
     layout_->set(layers.alignment, layers.base);
+    if (layers.base != ui::LayersNode::allChildren)
+        setExpandingChild(layers.base);
 }
 
 FrameWidget::FrameWidget()
@@ -82,15 +107,43 @@ void PaddingWidget::apply(const ui::Node& node)
 }
 
 StackWidget::StackWidget(Gtk::Orientation orientation)
-    : layout_(Gtk::BoxLayout::create(orientation))
+    : orientation_(orientation)
+    , layout_(Gtk::BoxLayout::create(orientation))
 {
     native().set_layout_manager(layout_);
 }
 
 void StackWidget::apply(const ui::Node& node)
 {
-    const auto& stack = static_cast<const ui::StackNode&>(node);
-    layout_->set_spacing(static_cast<guint>(std::lround(stack.spacing)));
+    const auto& options = static_cast<const ui::StackNode&>(node).options;
+    layout_->set_spacing(static_cast<guint>(std::lround(options.spacing)));
+    alignment_ = options.alignment;
+    for (auto* child = native().get_first_child(); child; child = child->get_next_sibling())
+        align(*child);
+}
+
+void StackWidget::place(ui::Widget& child, std::size_t index)
+{
+    Container::place(child, index);
+    align(nativeOf(child));
+}
+
+// Across the stack: children that want all the room get it, the others stand where the stack says.
+void StackWidget::align(Gtk::Widget& child) const
+{
+    const bool isRow = orientation_ == Gtk::Orientation::HORIZONTAL;
+    const auto across = isRow ? Gtk::Orientation::VERTICAL : Gtk::Orientation::HORIZONTAL;
+    auto place = Gtk::Align::CENTER;
+    if (isExpanding(child, across))
+        place = Gtk::Align::FILL;
+    else if (alignment_ == ui::Alignment::leading || alignment_ == ui::Alignment::top)
+        place = Gtk::Align::START;
+    else if (alignment_ == ui::Alignment::trailing || alignment_ == ui::Alignment::bottom)
+        place = Gtk::Align::END;
+    isRow ? child.set_valign(place) : child.set_halign(place);
+
+    if (dynamic_cast<SpacerRoom*>(&child)) // a spacer grows along its stack only
+        isRow ? child.set_hexpand() : child.set_vexpand();
 }
 
 } // namespace gtk

@@ -2,6 +2,7 @@
 
 #include "platform/gtk/ui/Container.h"
 #include "platform/gtk/ui/FrameLayout.h"
+#include "platform/gtk/ui/Interaction.h"
 #include "platform/gtk/ui/LayersLayout.h"
 #include "platform/gtk/ui/PaddingLayout.h"
 
@@ -15,6 +16,12 @@ class GroupWidget final : public Container {
 public:
     GroupWidget();
     void apply(const ui::Node& node) override;
+
+private:
+    void applyAccessibility(const ui::GroupNode& group);
+
+    Interaction interaction_;
+    bool isScrolledToVisible_ = false;
 };
 
 class LayersWidget final : public Container {
@@ -48,8 +55,13 @@ class StackWidget final : public Container {
 public:
     explicit StackWidget(Gtk::Orientation orientation);
     void apply(const ui::Node& node) override;
+    void place(ui::Widget& child, std::size_t index) override;
 
 private:
+    void align(Gtk::Widget& child) const;
+
+    Gtk::Orientation orientation_;
+    ui::Alignment alignment_ = ui::Alignment::center;
     Glib::RefPtr<Gtk::BoxLayout> layout_;
 };
 

@@ -1,12 +1,12 @@
 #include "platform/gtk/ui/Leaves.h"
 
 #include "platform/gtk/ui/ApplicationIcon.h"
+#include "platform/gtk/ui/FontAttributes.h"
 #include "platform/gtk/ui/ThemeColor.h"
 #include "platform/ui/Node.h"
 
 #include <cmath>
 #include <gtkmm/snapshot.h>
-#include <pangomm/attrlist.h>
 
 namespace gtk {
 
@@ -18,17 +18,15 @@ void leaveParent(Gtk::Widget& widget)
         widget.unparent();
 }
 
-Pango::Weight pangoWeight(ui::Font::Weight weight)
+Pango::Alignment lineAlignment(ui::Alignment alignment)
 {
-    switch (weight) {
-    case ui::Font::Weight::medium:
-        return Pango::Weight::MEDIUM;
-    case ui::Font::Weight::semibold:
-        return Pango::Weight::SEMIBOLD;
-    case ui::Font::Weight::bold:
-        return Pango::Weight::BOLD;
+    switch (alignment) {
+    case ui::Alignment::leading:
+        return Pango::Alignment::LEFT;
+    case ui::Alignment::trailing:
+        return Pango::Alignment::RIGHT;
     default:
-        return Pango::Weight::NORMAL;
+        return Pango::Alignment::CENTER;
     }
 }
 
@@ -66,6 +64,15 @@ void FillWidget::apply(const ui::Node& node)
     area_.setColor(static_cast<const ui::FillNode&>(node).color);
 }
 
+void TextWidget::Label::setColor(const ui::Color& color)
+{
+    if (provider_)
+        get_style_context()->remove_provider(provider_);
+    provider_ = Gtk::CssProvider::create();
+    provider_->load_from_data("label { color: " + cssColor(color) + "; }");
+    get_style_context()->add_provider(provider_, GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+}
+
 TextWidget::~TextWidget()
 {
     leaveParent(label_);
@@ -74,22 +81,26 @@ TextWidget::~TextWidget()
 void TextWidget::apply(const ui::Node& node)
 {
     const auto& text = static_cast<const ui::TextNode&>(node);
-    label_.set_text(text.text);
+    if (std::string(label_.get_text()) != text.text)
+        label_.set_text(text.text);
+    if (options_ == text.options)
+        return;
+    options_ = text.options;
 
-    const auto color = themeColor(label_, text.color);
-    const auto channel = [](float value) {
-        return static_cast<guint16>(std::lround(value * 65535));
-    };
-    Pango::AttrList attributes;
-    auto size =
-        Pango::Attribute::create_attr_size_absolute(static_cast<int>(text.font.size * PANGO_SCALE));
-    auto weight = Pango::Attribute::create_attr_weight(pangoWeight(text.font.weight));
-    auto foreground = Pango::Attribute::create_attr_foreground(
-        channel(color.get_red()), channel(color.get_green()), channel(color.get_blue()));
-    attributes.insert(size);
-    attributes.insert(weight);
-    attributes.insert(foreground);
+    auto attributes = fontAttributes(options_->font);
     label_.set_attributes(attributes);
+    label_.setColor(options_->color);
+    label_.set_wrap(options_->wraps);
+    label_.set_ellipsize(options_->wraps ? Pango::EllipsizeMode::NONE : Pango::EllipsizeMode::END);
+
+    const auto alignment = lineAlignment(options_->alignment);
+    const double place = alignment == Pango::Alignment::LEFT ? 0
+        : alignment == Pango::Alignment::RIGHT               ? 1
+                                                             : 0.5;
+    label_.set_xalign(static_cast<float>(place));
+    label_.set_justify(alignment == Pango::Alignment::LEFT ? Gtk::Justification::LEFT
+            : alignment == Pango::Alignment::RIGHT         ? Gtk::Justification::RIGHT
+                                                           : Gtk::Justification::CENTER);
 }
 
 ApplicationIconWidget::ApplicationIconWidget()
@@ -121,6 +132,46 @@ ProgressBarWidget::~ProgressBarWidget()
 void ProgressBarWidget::apply(const ui::Node& node)
 {
     bar_.set_fraction(static_cast<const ui::ProgressBarNode&>(node).fraction);
+}
+
+SpinnerWidget::SpinnerWidget()
+{
+    spinner_.start();
+    spinner_.set_size_request(10, 10);
+}
+
+SpinnerWidget::~SpinnerWidget()
+{
+    leaveParent(spinner_);
+}
+
+SpacerRoom::SpacerRoom()
+    : Glib::ObjectBase("VelmaroSpacer")
+{
+    set_can_target(false);
+}
+
+SpacerWidget::~SpacerWidget()
+{
+    leaveParent(room_);
+}
+
+void SpacerWidget::apply(const ui::Node& node)
+{
+    const auto length =
+        static_cast<int>(std::lround(static_cast<const ui::SpacerNode&>(node).minLength));
+    room_.set_size_request(length, length);
+}
+
+DividerWidget::DividerWidget()
+{
+    line_.set_hexpand();
+    line_.add_css_class("velmaro-divider");
+}
+
+DividerWidget::~DividerWidget()
+{
+    leaveParent(line_);
 }
 
 } // namespace gtk

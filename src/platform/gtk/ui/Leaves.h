@@ -1,11 +1,15 @@
 #pragma once
 
 #include "platform/gtk/ui/NativeWidget.h"
-#include "platform/ui/Color.h"
+#include "platform/ui/Options.h"
 
+#include <gtkmm/cssprovider.h>
 #include <gtkmm/label.h>
 #include <gtkmm/picture.h>
 #include <gtkmm/progressbar.h>
+#include <gtkmm/separator.h>
+#include <gtkmm/spinner.h>
+#include <optional>
 
 // The widgets without children, one for each kind of node.
 
@@ -43,7 +47,17 @@ public:
     void apply(const ui::Node& node) override;
 
 private:
-    Gtk::Label label_;
+    // A label in a colour that follows the theme, or a fixed one.
+    class Label final : public Gtk::Label {
+    public:
+        void setColor(const ui::Color& color);
+
+    private:
+        Glib::RefPtr<Gtk::CssProvider> provider_;
+    };
+
+    Label label_;
+    std::optional<ui::TextOptions> options_;
 };
 
 class ApplicationIconWidget final : public NativeWidget {
@@ -68,6 +82,47 @@ public:
 
 private:
     Gtk::ProgressBar bar_;
+};
+
+class SpinnerWidget final : public NativeWidget {
+public:
+    SpinnerWidget();
+    ~SpinnerWidget() override;
+
+    Gtk::Widget& native() override { return spinner_; }
+    void apply(const ui::Node&) override { }
+
+private:
+    Gtk::Spinner spinner_;
+};
+
+// The room that a spacer takes; it grows along its stack.
+class SpacerRoom final : public Gtk::Widget {
+public:
+    SpacerRoom();
+};
+
+class SpacerWidget final : public NativeWidget {
+public:
+    ~SpacerWidget() override;
+
+    Gtk::Widget& native() override { return room_; }
+    void apply(const ui::Node& node) override;
+
+private:
+    SpacerRoom room_;
+};
+
+class DividerWidget final : public NativeWidget {
+public:
+    DividerWidget();
+    ~DividerWidget() override;
+
+    Gtk::Widget& native() override { return line_; }
+    void apply(const ui::Node&) override { }
+
+private:
+    Gtk::Separator line_;
 };
 
 } // namespace gtk

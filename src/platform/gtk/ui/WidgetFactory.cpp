@@ -1,8 +1,14 @@
 #include "platform/gtk/ui/WidgetFactory.h"
 
+#include "platform/gtk/ui/ButtonWidget.h"
 #include "platform/gtk/ui/Containers.h"
+#include "platform/gtk/ui/Drawing.h"
 #include "platform/gtk/ui/HostWidget.h"
 #include "platform/gtk/ui/Leaves.h"
+#include "platform/gtk/ui/ScrollAreaWidget.h"
+#include "platform/gtk/ui/SheetWidget.h"
+#include "platform/gtk/ui/TextFieldWidget.h"
+#include "platform/gtk/ui/ToolbarWidget.h"
 #include "platform/ui/Node.h"
 
 namespace gtk {
@@ -26,6 +32,26 @@ std::unique_ptr<ui::Widget> WidgetFactory::makeWidget(const ui::Node& node)
         return std::make_unique<FillWidget>();
     case ui::Kind::text:
         return std::make_unique<TextWidget>();
+    case ui::Kind::symbol:
+        return std::make_unique<SymbolWidget>();
+    case ui::Kind::spinner:
+        return std::make_unique<SpinnerWidget>();
+    case ui::Kind::spacer:
+        return std::make_unique<SpacerWidget>();
+    case ui::Kind::divider:
+        return std::make_unique<DividerWidget>();
+    case ui::Kind::roundedRectangle:
+        return std::make_unique<RoundedRectangleWidget>();
+    case ui::Kind::button:
+        return std::make_unique<ButtonWidget>();
+    case ui::Kind::textField:
+        return std::make_unique<TextFieldWidget>();
+    case ui::Kind::scrollArea:
+        return std::make_unique<ScrollAreaWidget>();
+    case ui::Kind::sheet:
+        return std::make_unique<SheetWidget>();
+    case ui::Kind::toolbar:
+        return std::make_unique<ToolbarWidget>(toolbar_);
     case ui::Kind::applicationIcon:
         return std::make_unique<ApplicationIconWidget>();
     case ui::Kind::progressBar:

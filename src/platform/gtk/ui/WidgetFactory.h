@@ -5,13 +5,15 @@
 namespace gtk {
 
 class FirstFrame;
+struct Toolbar;
 
 // Makes a GTK widget for every kind of node.
 class WidgetFactory final : public ui::Renderer {
 public:
-    // `firstFrame` is that of the window and must outlive the factory's widgets.
-    explicit WidgetFactory(FirstFrame& firstFrame)
+    // Both are those of the window, and must outlive the factory's widgets.
+    WidgetFactory(FirstFrame& firstFrame, Toolbar& toolbar)
         : firstFrame_(firstFrame)
+        , toolbar_(toolbar)
     {
     }
 
@@ -20,6 +22,7 @@ public:
 
 private:
     FirstFrame& firstFrame_;
+    Toolbar& toolbar_;
 };
 
 } // namespace gtk

@@ -8,7 +8,7 @@ namespace gtk {
 WindowContent::WindowContent(ui::View content)
     : root_(std::make_unique<GroupWidget>())
     , firstFrame_(root_->native())
-    , factory_(firstFrame_)
+    , factory_(firstFrame_, toolbar_)
     , mount_(std::move(content), factory_, *root_)
 {
     installTheme(root_->native().get_display());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/gtk/ui/FirstFrame.h"
+#include "platform/gtk/ui/ToolbarWidget.h"
 #include "platform/gtk/ui/WidgetFactory.h"
 #include "platform/ui/Mount.h"
 
@@ -24,12 +25,16 @@ public:
     // Fills the window; made with the content.
     Gtk::Widget& widget();
 
+    // To be packed into the window's bar.
+    Toolbar& toolbar() { return toolbar_; }
+
     // Hands `url` to the views that open addresses.
     void openURL(const platform::URL& url);
 
 private:
     std::unique_ptr<GroupWidget> root_;
     FirstFrame firstFrame_;
+    Toolbar toolbar_;
     WidgetFactory factory_;
     ui::Mount mount_;
 };

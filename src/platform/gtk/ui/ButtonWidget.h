@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/gtk/ui/Container.h"
+
+#include <functional>
+#include <gtkmm/button.h>
+#include <gtkmm/shortcutcontroller.h>
+#include <optional>
+
+namespace ui {
+enum class KeyboardShortcut;
+}
+
+namespace gtk {
+
+class ButtonWidget final : public Container {
+public:
+    ButtonWidget();
+    ~ButtonWidget() override;
+
+    Gtk::Widget& native() override { return button_; }
+    void apply(const ui::Node& node) override;
+
+private:
+    void setShortcut(std::optional<ui::KeyboardShortcut> shortcut);
+
+    Gtk::Button button_;
+    std::function<void()> action_;
+    std::optional<ui::KeyboardShortcut> shortcut_;
+    Glib::RefPtr<Gtk::ShortcutController> shortcuts_;
+};
+
+} // namespace gtk

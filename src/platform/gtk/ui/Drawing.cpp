@@ -1,0 +1,138 @@
+#include "platform/gtk/ui/Drawing.h"
+
+#include "platform/gtk/ui/SymbolImage.h"
+#include "platform/gtk/ui/ThemeColor.h"
+#include "platform/ui/Node.h"
+
+#include <cairomm/context.h>
+#include <cmath>
+#include <gdkmm/general.h>
+#include <gtkmm/snapshot.h>
+
+namespace gtk {
+
+namespace {
+
+// A symbol is about as high as a capital letter and its overshoot.
+constexpr double symbolPerFontSize = 1.25;
+
+constexpr double strokePerWeight(ui::Font::Weight weight)
+{
+    return weight == ui::Font::Weight::regular ? 0.96 : 1;
+}
+
+} // namespace
+
+SymbolWidget::Area::Area()
+    : Glib::ObjectBase("VelmaroSymbol")
+{
+    set_can_target(false);
+}
+
+void SymbolWidget::Area::set(const std::string& name, const ui::SymbolOptions& options)
+{
+    if (name_ == name && options_ == options)
+        return;
+    const bool isResized = !(options_.font == options.font);
+    name_ = name;
+    options_ = options;
+    if (isResized)
+        queue_resize();
+    queue_draw();
+}
+
+int SymbolWidget::Area::extent() const
+{
+    return static_cast<int>(std::lround(
+        options_.font.size * symbolPerFontSize * strokePerWeight(options_.font.weight)));
+}
+
+void SymbolWidget::Area::measure_vfunc(Gtk::Orientation, int, int& minimum, int& natural,
+    int& minimumBaseline, int& naturalBaseline) const
+{
+    minimum = natural = extent();
+    minimumBaseline = naturalBaseline = -1;
+}
+
+void SymbolWidget::Area::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
+{
+    const int scale = get_scale_factor();
+    const auto mask = symbolMask(name_, extent() * scale);
+    if (!mask)
+        return;
+    const double x = std::floor((get_width() - extent()) / 2.0);
+    const double y = std::floor((get_height() - extent()) / 2.0);
+    const auto context = snapshot->append_cairo(Gdk::Rectangle(0, 0, get_width(), get_height()));
+    context->translate(x, y);
+    context->scale(1.0 / scale, 1.0 / scale);
+    Gdk::Cairo::set_source_rgba(context, themeColor(*this, options_.color));
+    context->mask(mask, 0, 0);
+}
+
+SymbolWidget::~SymbolWidget()
+{
+    if (area_.get_parent())
+        area_.unparent();
+}
+
+void SymbolWidget::apply(const ui::Node& node)
+{
+    const auto& symbol = static_cast<const ui::SymbolNode&>(node);
+    area_.set(symbol.name, symbol.options);
+}
+
+RoundedRectangleWidget::Area::Area()
+    : Glib::ObjectBase("VelmaroRoundedRectangle")
+{
+    set_expand();
+    set_can_target(false);
+}
+
+void RoundedRectangleWidget::Area::set(const ui::ShapeOptions& options)
+{
+    if (options_ == options)
+        return;
+    options_ = options;
+    queue_draw();
+}
+
+void RoundedRectangleWidget::Area::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
+{
+    graphene_rect_t bounds;
+    graphene_rect_init(
+        &bounds, 0, 0, static_cast<float>(get_width()), static_cast<float>(get_height()));
+    GskRoundedRect outline;
+    gsk_rounded_rect_init_from_rect(&outline, &bounds, static_cast<float>(options_.cornerRadius));
+
+    const auto shadow = themeColor(*this, options_.shadow.color);
+    if (shadow.get_alpha() > 0) {
+        gtk_snapshot_append_outset_shadow(snapshot->gobj(), &outline, shadow.gobj(), 0,
+            static_cast<float>(options_.shadow.y), 0, static_cast<float>(options_.shadow.radius));
+    }
+
+    const auto fill = themeColor(*this, options_.fill);
+    gtk_snapshot_push_rounded_clip(snapshot->gobj(), &outline);
+    gtk_snapshot_append_color(snapshot->gobj(), fill.gobj(), &bounds);
+    gtk_snapshot_pop(snapshot->gobj());
+
+    const auto stroke = themeColor(*this, options_.stroke);
+    if (options_.lineWidth > 0 && stroke.get_alpha() > 0) {
+        const auto width = static_cast<float>(options_.lineWidth);
+        const float widths[] = {width, width, width, width};
+        const GdkRGBA colors[] = {*stroke.gobj(), *stroke.gobj(), *stroke.gobj(), *stroke.gobj()};
+        gtk_snapshot_append_border(snapshot->gobj(), &outline, widths, colors);
+    }
+}
+
+RoundedRectangleWidget::~RoundedRectangleWidget()
+{
+    if (area_.get_parent())
+        area_.unparent();
+}
+
+void RoundedRectangleWidget::apply(const ui::Node& node)
+{
+    area_.set(static_cast<const ui::RoundedRectangleNode&>(node).options);
+}
+
+} // namespace gtk

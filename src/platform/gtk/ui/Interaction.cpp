@@ -1,0 +1,87 @@
+#include "platform/gtk/ui/Interaction.h"
+
+#include "platform/ui/Node.h"
+
+#include <gdkmm/contentprovider.h>
+#include <glibmm/value.h>
+#include <gtkmm/dragsource.h>
+#include <gtkmm/droptarget.h>
+#include <gtkmm/eventcontrollermotion.h>
+#include <gtkmm/gestureclick.h>
+#include <gtkmm/widgetpaintable.h>
+#include <utility>
+
+namespace gtk {
+
+void Interaction::apply(const ui::GroupNode& group)
+{
+    onHover_ = group.onHover;
+    onTap_ = group.onTapGesture;
+    onDrop_ = group.onDrop;
+    dragPayload_ = group.dragPayload;
+
+    if (onHover_ && !std::exchange(hasHover_, true))
+        addHover();
+    if (onTap_ && !std::exchange(hasTap_, true))
+        addTap();
+    if (!dragPayload_.empty() && !std::exchange(hasDragSource_, true))
+        addDragSource();
+    if (onDrop_ && !std::exchange(hasDropTarget_, true))
+        addDropTarget();
+}
+
+void Interaction::addHover()
+{
+    const auto motion = Gtk::EventControllerMotion::create();
+    const auto report = [this](bool isInside) {
+        if (onHover_)
+            onHover_(isInside);
+    };
+    motion->signal_enter().connect([report](double, double) { report(true); });
+    motion->signal_leave().connect([report] { report(false); });
+    widget_.add_controller(motion);
+}
+
+void Interaction::addTap()
+{
+    const auto click = Gtk::GestureClick::create();
+    click->set_button(GDK_BUTTON_PRIMARY);
+    click->signal_released().connect([this](int, double x, double y) {
+        const auto tap = onTap_; // which may take the widget away
+        if (tap && widget_.contains(x, y))
+            tap();
+    });
+    widget_.add_controller(click);
+}
+
+void Interaction::addDragSource()
+{
+    const auto source = Gtk::DragSource::create();
+    source->set_actions(Gdk::DragAction::MOVE);
+    source->signal_prepare().connect(
+        [this, source = source.get()](double x, double y) {
+            source->set_icon(
+                Gtk::WidgetPaintable::create(widget_), static_cast<int>(x), static_cast<int>(y));
+            Glib::Value<Glib::ustring> value;
+            value.init(Glib::Value<Glib::ustring>::value_type());
+            value.set(dragPayload_);
+            return Gdk::ContentProvider::create(value);
+        },
+        false);
+    widget_.add_controller(source);
+}
+
+void Interaction::addDropTarget()
+{
+    const auto target = Gtk::DropTarget::create(G_TYPE_STRING, Gdk::DragAction::MOVE);
+    target->signal_drop().connect(
+        [this](const Glib::ValueBase& value, double, double) {
+            const auto drop = onDrop_; // which may take the widget away
+            const auto* text = g_value_get_string(value.gobj());
+            return drop && text && drop({text});
+        },
+        false);
+    widget_.add_controller(target);
+}
+
+} // namespace gtk

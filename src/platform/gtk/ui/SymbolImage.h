@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cairomm/surface.h>
+#include <string>
+
+namespace gtk {
+
+// The application's symbol of that name as a mask of `pixels` by `pixels`: opaque where it is to be
+// painted. Drawn once for each size and kept. Null when there is no such symbol.
+Cairo::RefPtr<Cairo::ImageSurface> symbolMask(const std::string& name, int pixels);
+
+} // namespace gtk

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "platform/ui/Binding.h"
+#include "platform/ui/Color.h"
+#include "platform/ui/Font.h"
+#include "platform/ui/Layout.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+// What can be chosen of each kind of view. Lengths are points.
+
+namespace ui {
+
+struct StackOptions {
+    double spacing = 8; // between children
+    Alignment alignment = Alignment::center; // of the children across the stack
+};
+
+struct LayersOptions {
+    Alignment alignment = Alignment::center;
+};
+
+struct TextOptions {
+    Font font = {};
+    Color color = Color::label;
+    bool wraps = false; // onto as many lines as needed; else one line, cut at its end
+    Alignment alignment = Alignment::center; // of the lines, in the width that the text is given
+
+    bool operator==(const TextOptions&) const = default;
+};
+
+struct SymbolOptions {
+    Font font = {};
+    Color color = Color::label;
+
+    bool operator==(const SymbolOptions&) const = default;
+};
+
+struct Shadow {
+    Color color = Color::clear;
+    double radius = 0;
+    double y = 0; // downwards
+
+    bool operator==(const Shadow&) const = default;
+};
+
+struct ShapeOptions {
+    double cornerRadius = 0;
+    Color fill = Color::clear;
+    Color stroke = Color::clear; // drawn inside the shape
+    double lineWidth = 0;
+    Shadow shadow = {};
+
+    bool operator==(const ShapeOptions&) const = default;
+};
+
+enum class ButtonStyle {
+    plain, // its label and nothing else
+    borderless,
+    bordered,
+    borderedProminent, // filled with the accent colour
+};
+
+// Keys that mean the same in every window.
+enum class KeyboardShortcut {
+    cancelAction, // Escape
+    defaultAction, // Return
+};
+
+struct ButtonOptions {
+    ButtonStyle style = ButtonStyle::bordered;
+    std::string help = {}; // tooltip and accessible name
+    bool isEnabled = true;
+    bool isTinted = false; // with the accent colour, as a sign of being on
+    std::optional<KeyboardShortcut> shortcut = {};
+};
+
+struct TextFieldOptions {
+    std::string placeholder = {}; // also the accessible name
+    Font font = {};
+    bool focusesWhenShown = false; // takes the keyboard when it appears
+    std::optional<Binding<bool>> isFocused =
+        {}; // follows the focus; setting it true moves the focus here
+    std::function<void()> onSubmit = {}; // Return
+};
+
+struct ScrollOptions {
+    Axis axis = Axis::vertical;
+    bool showsIndicators = true;
+
+    bool operator==(const ScrollOptions&) const = default;
+};
+
+} // namespace ui
