@@ -21,6 +21,7 @@ page to show in it, such as velmaro://page/drives.
 
 VELMARO_SERVICE_ORIGIN       https origin of the web service
 VELMARO_SERVICE_CERTIFICATE  PEM file with a certificate to trust for that host
+VELMARO_GEOCODER             address of the Photon service that finds places
 )";
 
 int fail(const std::string& line)
@@ -50,9 +51,11 @@ int main(int argumentCount, char** arguments)
     std::setlocale(LC_ALL, "");
     std::setlocale(LC_NUMERIC, "C");
 
+    const char* geocoder = std::getenv("VELMARO_GEOCODER");
     gtk::GtkPlatform platform({
         .identifier = "example.velmaro.Online",
         .address = argument.empty() ? std::nullopt : std::optional(argument),
+        .geocoder = geocoder ? geocoder : VELMARO_GEOCODER,
     });
 
     auto& service = velmaro::Service::current();

@@ -9,12 +9,18 @@
 namespace platform {
 
 class Bundle;
+class CLLocationManager;
 class DispatchQueue;
+class MKLocalSearch;
+class MKLocalSearchCompleter;
 class NSApplication;
 class NSScreen;
+class NSTextField;
 class NSView;
+class URLCache;
 class UserDefaults;
 class WKWebView;
+struct MKLocalSearchRequest;
 struct WKWebViewConfiguration;
 
 // Everything the application asks of the desktop it runs on. One platform is current at a time: the
@@ -35,6 +41,7 @@ public:
     virtual UserDefaults& userDefaults() = 0;
     virtual Bundle& mainBundle() = 0;
     virtual NSApplication& application() = 0;
+    virtual URLCache& urlCache() = 0;
 
     // The screen that holds the key window, else the first one; null on a machine without a screen.
     virtual NSScreen* mainScreen() = 0;
@@ -42,8 +49,19 @@ public:
     // A plain view with nothing in it.
     virtual std::shared_ptr<NSView> makeView() = 0;
 
+    // An empty field that the user can type into.
+    virtual std::shared_ptr<NSTextField> makeTextField() = 0;
+
     // A web view that is configured and empty. It must be placed in a window to be seen.
     virtual std::shared_ptr<WKWebView> makeWebView(const WKWebViewConfiguration&) = 0;
+
+    // One way to the location service, for its owner alone.
+    virtual std::shared_ptr<CLLocationManager> makeLocationManager() = 0;
+
+    virtual std::shared_ptr<MKLocalSearchCompleter> makeLocalSearchCompleter() = 0;
+
+    // A search that has yet to be started.
+    virtual std::shared_ptr<MKLocalSearch> makeLocalSearch(const MKLocalSearchRequest&) = 0;
 
     // Writes one line to the system log.
     virtual void log(const std::string& line) = 0;

@@ -1,24 +1,52 @@
 #include "tabs/ActiveTabShell.h"
 
 #include "app/WindowSizer.h"
+#include "location/LocationPickerView.h"
 #include "platform/ui/Views.h"
+#include "tabs/TabBar.h"
+#include "tabs/WindowToolbar.h"
 #include "web/TabContent.h"
 
 namespace velmaro {
 
-using ui::ForEach;
 using ui::View;
+using ui::VStack;
 using ui::ZStack;
 
-View ActiveTabShell::body() const
+namespace {
+
+using Tab = std::shared_ptr<WebModel>;
+
+// Every open tab keeps its page; only the active one is seen and clicked.
+View layers(const TabbedAppModel& app, const Tab& active)
 {
-    const auto tabId = [](const auto& tab) { return tab->id.string(); };
-    const auto layer = [this](const auto& tab) {
+    const auto tabId = [](const Tab& tab) { return tab->id.string(); };
+    const auto layer = [&](const Tab& tab) {
         const bool isActive = tab == active;
         return View(TabContent{.model = tab}).opacity(isActive ? 1 : 0).allowsHitTesting(isActive);
     };
+    return ZStack{{}, ui::ForEach(app.tabs(), tabId, layer)};
+}
 
-    return ZStack{{}, ForEach(app->tabs(), tabId, layer)}.background(WindowSizer{});
+} // namespace
+
+View ActiveTabShell::body() const
+{
+    const auto closePicker = [close = pickerTarget.setter()] { close(std::nullopt); };
+    const auto picker = [&](StationKind kind) {
+        const auto handOff = [closePicker, tab = active, kind](const PickedLocation& location) {
+            closePicker();
+            tab->handOffLocation(kind, location);
+        };
+        return View(LocationPickerView{.kind = kind, .onPick = handOff, .onCancel = closePicker})
+            .id(std::string(rawValue(kind)));
+    };
+    const auto& target = pickerTarget();
+
+    return VStack{{.spacing = 0}, TabBar{app}, layers(*app, active)}
+        .background(WindowSizer{})
+        .sheet(target ? picker(*target) : View(), closePicker)
+        .toolbar(NavigationToolbar{active}, StationToolbar{active, pickerTarget.binding()});
 }
 
 } // namespace velmaro

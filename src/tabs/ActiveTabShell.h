@@ -1,18 +1,24 @@
 #pragma once
 
+#include "location/StationKind.h"
+#include "platform/ui/State.h"
 #include "platform/ui/View.h"
 #include "tabs/TabbedAppModel.h"
 
 #include <memory>
+#include <optional>
+#include <tuple>
 
 namespace velmaro {
 
-// The tabs' contents on top of each other. Every open tab keeps its page; only the active one is
-// seen and clicked.
+// What fills the main window: the tab bar above the tabs' contents, the toolbar, and the location
+// picker when one of the station finders is open.
 struct ActiveTabShell {
     std::shared_ptr<TabbedAppModel> app;
     std::shared_ptr<WebModel> active;
+    ui::State<std::optional<StationKind>> pickerTarget = std::optional<StationKind>();
 
+    auto state() { return std::tie(pickerTarget); }
     ui::View body() const;
 };
 

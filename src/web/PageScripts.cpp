@@ -13,7 +13,16 @@ std::string withoutApostrophes(std::string_view text)
     return result;
 }
 
-// Fit to stand between two apostrophes.
+std::string showRouteAndCallWith(
+    std::string_view route, std::string_view function, const std::string& argumentLiteral)
+{
+    const auto name = withoutApostrophes(function);
+    return "(function(){\n  " + showRoute(route) + "\n  if (typeof " + name
+        + " === 'function') { try { " + name + "(" + argumentLiteral + "); } catch(_){} }\n})();";
+}
+
+} // namespace
+
 std::string escapedArgument(std::string_view text)
 {
     std::string result;
@@ -24,16 +33,6 @@ std::string escapedArgument(std::string_view text)
     }
     return result;
 }
-
-std::string showRouteAndCallWith(
-    std::string_view route, std::string_view function, const std::string& argumentLiteral)
-{
-    const auto name = withoutApostrophes(function);
-    return "(function(){\n  " + showRoute(route) + "\n  if (typeof " + name
-        + " === 'function') { try { " + name + "(" + argumentLiteral + "); } catch(_){} }\n})();";
-}
-
-} // namespace
 
 std::string showRoute(std::string_view route)
 {
@@ -65,6 +64,11 @@ std::string reloadKeepingRoute()
   } catch (_) {}
   window.location.reload();
 })();)js";
+}
+
+std::string clearSelection()
+{
+    return "window.getSelection && window.getSelection().removeAllRanges();";
 }
 
 } // namespace velmaro::PageScripts

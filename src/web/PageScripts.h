@@ -9,6 +9,9 @@ namespace velmaro {
 // not escaped otherwise; arguments have backslashes doubled and apostrophes escaped.
 namespace PageScripts {
 
+// `text` as it can stand between two apostrophes in a script.
+std::string escapedArgument(std::string_view text);
+
 // Shows `route` through the page's own `showPage`, else by loading its address.
 std::string showRoute(std::string_view route);
 
@@ -19,6 +22,9 @@ std::string showRouteAndCall(
 
 // Reloads the page so that it comes back on the page that it shows now.
 std::string reloadKeepingRoute();
+
+// Selects nothing in the page any more.
+std::string clearSelection();
 
 } // namespace PageScripts
 

@@ -1,6 +1,7 @@
 #include "web/TabContent.h"
 
 #include "platform/ui/Views.h"
+#include "web/FindBar.h"
 #include "web/TabLoadingSplash.h"
 #include "web/WebView.h"
 
@@ -13,7 +14,7 @@ using ui::ZStack;
 
 namespace {
 
-// The three pieces read different fields, so that a load's progress redraws nothing but its line.
+// The pieces read different fields, so that a load's progress redraws nothing but its line.
 
 struct Splash {
     std::shared_ptr<WebModel> model;
@@ -42,12 +43,28 @@ struct ProgressLine {
     }
 };
 
+struct FindBarPlace {
+    std::shared_ptr<WebModel> model;
+
+    bool operator==(const FindBarPlace&) const = default;
+
+    View body() const
+    {
+        if (!model->findBarVisible())
+            return {};
+        return View(FindBar{model})
+            .padding({.top = 8, .trailing = 12})
+            .transition({.fades = true, .movesFrom = ui::Edge::top, .duration = 0.18});
+    }
+};
+
 } // namespace
 
 View TabContent::body() const
 {
-    return ZStack{{}, WebView{.model = model}, Splash{model}}.overlay(
-        ProgressLine{model}, Alignment::top);
+    return ZStack{{}, WebView{.model = model}, Splash{model}}
+        .overlay(ProgressLine{model}, Alignment::top)
+        .overlay(FindBarPlace{model}, Alignment::topTrailing);
 }
 
 } // namespace velmaro

@@ -1,12 +1,15 @@
 #include "web/WebModel.h"
 
 #include "app/DeepLink.h"
+#include "location/LocationScripts.h"
+#include "platform/foundation/DispatchQueue.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/webkit/WKWebView.h"
 #include "web/PageScripts.h"
 
 namespace velmaro {
 
+using platform::DispatchQueue;
 using platform::UserDefaults;
 
 namespace {
@@ -67,6 +70,36 @@ void WebModel::goForward()
 {
     if (const auto view = webView.lock())
         view->goForward();
+}
+
+void WebModel::find(bool backwards)
+{
+    const auto view = webView.lock();
+    if (!view)
+        return;
+    if (findQuery().empty()) {
+        findLastResult = std::nullopt;
+        return;
+    }
+    view->find(findQuery(), {.backwards = backwards, .caseSensitive = false, .wraps = true},
+        [weakSelf = weak_from_this()](const platform::WKFindResult& result) {
+            DispatchQueue::main().async([weakSelf, result] {
+                if (const auto self = weakSelf.lock())
+                    self->findLastResult = result.matchFound;
+            });
+        });
+}
+
+void WebModel::closeFind()
+{
+    findBarVisible = false;
+    findLastResult = std::nullopt;
+    evaluate(PageScripts::clearSelection());
+}
+
+void WebModel::handOffLocation(StationKind kind, const PickedLocation& location)
+{
+    evaluate(LocationScripts::handOffLocation(kind, location));
 }
 
 void WebModel::handleDeepLink(const platform::URL& url)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "location/PickedLocation.h"
+#include "location/StationKind.h"
 #include "platform/foundation/UUID.h"
 #include "platform/ui/Published.h"
 #include "web/UserIdentity.h"
@@ -17,7 +19,7 @@ namespace velmaro {
 
 // The state of the page shown in one tab, and the operations that steer it. The model never owns
 // the web view: while there is none, every page operation does nothing. Main thread only.
-class WebModel {
+class WebModel : public std::enable_shared_from_this<WebModel> {
 public:
     static constexpr auto userDefaultsKey = "vl.user.identity";
 
@@ -41,6 +43,12 @@ public:
     // The route that the page last reported.
     ui::Published<std::string> currentRoute;
 
+    // Find in page. The query is kept as typed, also while the bar is closed; the result is absent
+    // until a search of it has completed.
+    ui::Published<bool> findBarVisible = false;
+    ui::Published<std::string> findQuery;
+    ui::Published<std::optional<bool>> findLastResult;
+
     const std::optional<std::string> initialRoute;
 
     // Set by the web view's host.
@@ -61,6 +69,16 @@ public:
 
     void goBack();
     void goForward();
+
+    // Goes on to the next match of the query, or the previous one. The outcome arrives in
+    // `findLastResult`.
+    void find(bool backwards);
+
+    // Hides the find bar and clears the selection that the search has left in the page.
+    void closeFind();
+
+    // Hands a picked place to the page and shows the kind's page around it.
+    void handOffLocation(StationKind kind, const PickedLocation& location);
 
     // Opens an address with the application's own scheme; others are ignored.
     void handleDeepLink(const platform::URL& url);

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/DispatchQueue.h"
+#include "platform/foundation/URLCache.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/Platform.h"
 
@@ -15,6 +16,11 @@ Bundle& Bundle::main()
 DispatchQueue& DispatchQueue::main()
 {
     return Platform::current().mainQueue();
+}
+
+URLCache& URLCache::shared()
+{
+    return Platform::current().urlCache();
 }
 
 UserDefaults& UserDefaults::standard()

@@ -4,10 +4,15 @@
 #include "platform/gtk/appkit/PlainView.h"
 #include "platform/gtk/appkit/RendererPolicy.h"
 #include "platform/gtk/appkit/Screen.h"
+#include "platform/gtk/appkit/TextField.h"
+#include "platform/gtk/corelocation/LocationQuestion.h"
+#include "platform/gtk/corelocation/LocationServices.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
 #include "platform/gtk/foundation/ProgramBundle.h"
 #include "platform/gtk/foundation/SettingsFile.h"
 #include "platform/gtk/foundation/StandardPaths.h"
+#include "platform/gtk/mapkit/PlaceSearch.h"
+#include "platform/gtk/mapkit/SearchCompleter.h"
 #include "platform/gtk/webkit/GtkWebView.h"
 #include "platform/gtk/webkit/WebEngine.h"
 
@@ -21,6 +26,8 @@ namespace {
 
 constexpr auto programName = "velmaro-online";
 constexpr auto settingsName = "settings.json";
+constexpr auto permissionsName = "permissions.json"; // what the user lets this program do
+constexpr auto responsesName = "responses";
 
 StandardPaths standardPaths()
 {
@@ -30,17 +37,18 @@ StandardPaths standardPaths()
 } // namespace
 
 GtkPlatform::GtkPlatform(Options options)
-    : mainQueue_(std::make_unique<MainLoopQueue>())
+    : options_(std::move(options))
+    , mainQueue_(std::make_unique<MainLoopQueue>())
     , settings_(std::make_unique<SettingsFile>(
           standardPaths().config / settingsName, *mainQueue_, platform::NSLog))
     , bundle_(std::make_unique<ProgramBundle>())
 {
     chooseRenderer();
     // Desktops find the program's windows, and its desktop entry from them, by this name.
-    g_set_prgname(options.identifier.c_str());
+    g_set_prgname(options_.identifier.c_str());
     // Texts for people follow the user's language; numbers in scripts and files must not.
     Glib::set_init_to_users_preferred_locale(false);
-    application_ = std::make_unique<Application>(*this, options.identifier, options.address);
+    application_ = std::make_unique<Application>(*this, options_.identifier, options_.address);
 }
 
 GtkPlatform::~GtkPlatform()
@@ -82,6 +90,13 @@ platform::NSApplication& GtkPlatform::application()
     return *application_;
 }
 
+platform::URLCache& GtkPlatform::urlCache()
+{
+    if (!responseCache_)
+        responseCache_ = std::make_unique<ResponseCache>(standardPaths().cache / responsesName);
+    return *responseCache_;
+}
+
 platform::NSScreen* GtkPlatform::mainScreen()
 {
     const auto keyWindow = application_->keyWindow();
@@ -94,10 +109,41 @@ std::shared_ptr<platform::NSView> GtkPlatform::makeView()
     return std::make_shared<PlainView>();
 }
 
+std::shared_ptr<platform::NSTextField> GtkPlatform::makeTextField()
+{
+    return std::make_shared<TextField>();
+}
+
 std::shared_ptr<platform::WKWebView> GtkPlatform::makeWebView(
     const platform::WKWebViewConfiguration& configuration)
 {
     return std::make_shared<GtkWebView>(webEngine(), configuration);
+}
+
+std::shared_ptr<platform::CLLocationManager> GtkPlatform::makeLocationManager()
+{
+    return locationServices().makeManager();
+}
+
+std::shared_ptr<platform::MKLocalSearchCompleter> GtkPlatform::makeLocalSearchCompleter()
+{
+    if (!geocodingService_) {
+        urlCache();
+        geocodingService_ = std::make_shared<GeocodingService>(
+            GeocodingService::Options{
+                .address = options_.geocoder,
+                .userAgent = "VelmaroOnline/" VELMARO_VERSION,
+                .certificate = certificate_,
+            },
+            *responseCache_);
+    }
+    return std::make_shared<SearchCompleter>(geocodingService_);
+}
+
+std::shared_ptr<platform::MKLocalSearch> GtkPlatform::makeLocalSearch(
+    const platform::MKLocalSearchRequest& request)
+{
+    return std::make_shared<PlaceSearch>(request, *mainQueue_);
 }
 
 void GtkPlatform::log(const std::string& line)
@@ -128,6 +174,20 @@ std::optional<std::string> GtkPlatform::prepare()
 void GtkPlatform::saveSettings()
 {
     settings_->flush();
+    if (permissions_)
+        permissions_->flush();
+}
+
+LocationServices& GtkPlatform::locationServices()
+{
+    if (!locationServices_) {
+        permissions_ = std::make_unique<SettingsFile>(
+            standardPaths().config / permissionsName, *mainQueue_, platform::NSLog);
+        locationServices_ = std::make_unique<LocationServices>(
+            LocationServices::Options{.identifier = options_.identifier}, *mainQueue_,
+            *permissions_, askForLocation);
+    }
+    return *locationServices_;
 }
 
 } // namespace gtk

@@ -8,8 +8,11 @@
 namespace gtk {
 
 class Application;
+class GeocodingService;
+class LocationServices;
 class MainLoopQueue;
 class ProgramBundle;
+class ResponseCache;
 class SettingsFile;
 class WebEngine;
 
@@ -21,6 +24,7 @@ public:
     struct Options {
         std::string identifier; // of the application, in reverse domain order
         std::optional<std::string> address; // to be opened
+        std::string geocoder; // address of the service that finds places
     };
 
     explicit GtkPlatform(Options options);
@@ -38,10 +42,16 @@ public:
     platform::UserDefaults& userDefaults() override;
     platform::Bundle& mainBundle() override;
     platform::NSApplication& application() override;
+    platform::URLCache& urlCache() override;
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
+    std::shared_ptr<platform::NSTextField> makeTextField() override;
     std::shared_ptr<platform::WKWebView> makeWebView(
         const platform::WKWebViewConfiguration& configuration) override;
+    std::shared_ptr<platform::CLLocationManager> makeLocationManager() override;
+    std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
+    std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
+        const platform::MKLocalSearchRequest& request) override;
     void log(const std::string& line) override;
 
     // What all web views share; made on first use.
@@ -55,6 +65,10 @@ public:
     void saveSettings();
 
 private:
+    LocationServices& locationServices();
+
+    const Options options_;
+
     // In the order in which they need each other.
     std::unique_ptr<MainLoopQueue> mainQueue_;
     std::unique_ptr<SettingsFile> settings_;
@@ -62,6 +76,10 @@ private:
     std::optional<HostCertificate> certificate_;
     std::string expectedHost_;
     std::unique_ptr<WebEngine> webEngine_;
+    std::unique_ptr<SettingsFile> permissions_; // with the location services, on first use
+    std::unique_ptr<LocationServices> locationServices_;
+    std::unique_ptr<ResponseCache> responseCache_; // made on first use, like the service below
+    std::shared_ptr<GeocodingService> geocodingService_;
     std::unique_ptr<Application> application_;
 };
 

@@ -48,12 +48,40 @@ std::shared_ptr<platform::NSView> SimulatedPlatform::makeView()
     return std::make_shared<SimulatedView>();
 }
 
+std::shared_ptr<platform::NSTextField> SimulatedPlatform::makeTextField()
+{
+    auto field = std::make_shared<SimulatedTextField>();
+    textFields_.push_back(field);
+    return field;
+}
+
 std::shared_ptr<platform::WKWebView> SimulatedPlatform::makeWebView(
     const platform::WKWebViewConfiguration& configuration)
 {
     auto webView = std::make_shared<SimulatedWebView>(configuration);
     webViews_.push_back(webView);
     return webView;
+}
+
+std::shared_ptr<platform::CLLocationManager> SimulatedPlatform::makeLocationManager()
+{
+    auto manager = std::make_shared<SimulatedLocationManager>();
+    locationManagers_.push_back(manager);
+    return manager;
+}
+
+std::shared_ptr<platform::MKLocalSearchCompleter> SimulatedPlatform::makeLocalSearchCompleter()
+{
+    auto completer = std::make_shared<SimulatedLocalSearchCompleter>();
+    searchCompleters_.push_back(completer);
+    return completer;
+}
+
+std::shared_ptr<platform::MKLocalSearch> SimulatedPlatform::makeLocalSearch(
+    const platform::MKLocalSearchRequest& request)
+{
+    localSearches_.push_back(std::make_shared<SimulatedLocalSearch>(request));
+    return localSearches_.back();
 }
 
 SimulatedScreen& SimulatedPlatform::addScreen(const NSRect& visibleFrame)

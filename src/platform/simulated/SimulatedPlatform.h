@@ -1,10 +1,15 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/simulated/corelocation/SimulatedLocationManager.h"
+#include "platform/simulated/mapkit/SimulatedLocalSearch.h"
+#include "platform/simulated/mapkit/SimulatedLocalSearchCompleter.h"
 #include "platform/simulated/SimulatedApplication.h"
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedQueue.h"
 #include "platform/simulated/SimulatedScreen.h"
+#include "platform/simulated/SimulatedTextField.h"
+#include "platform/simulated/SimulatedURLCache.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedWebView.h"
 
@@ -24,10 +29,16 @@ public:
     SimulatedUserDefaults& userDefaults() override { return userDefaults_; }
     SimulatedBundle& mainBundle() override { return bundle_; }
     SimulatedApplication& application() override { return application_; }
+    SimulatedURLCache& urlCache() override { return urlCache_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
+    std::shared_ptr<platform::NSTextField> makeTextField() override;
     std::shared_ptr<platform::WKWebView> makeWebView(
         const platform::WKWebViewConfiguration& configuration) override;
+    std::shared_ptr<platform::CLLocationManager> makeLocationManager() override;
+    std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
+    std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
+        const platform::MKLocalSearchRequest& request) override;
     void log(const std::string& line) override { logLines.push_back(line); }
 
     // Plugs in one more screen; the first is the main one.
@@ -40,14 +51,36 @@ public:
     // The web views made so far, in order, also those that have gone since.
     const std::vector<std::weak_ptr<SimulatedWebView>>& webViews() const { return webViews_; }
 
+    // The text fields made so far, likewise.
+    const std::vector<std::weak_ptr<SimulatedTextField>>& textFields() const { return textFields_; }
+
+    // Those made so far, in order; managers and completers also when they have gone since.
+    const std::vector<std::weak_ptr<SimulatedLocationManager>>& locationManagers() const
+    {
+        return locationManagers_;
+    }
+    const std::vector<std::weak_ptr<SimulatedLocalSearchCompleter>>& searchCompleters() const
+    {
+        return searchCompleters_;
+    }
+    const std::vector<std::shared_ptr<SimulatedLocalSearch>>& localSearches() const
+    {
+        return localSearches_;
+    }
+
     std::vector<std::string> logLines;
 
 private:
     SimulatedQueue queue_;
     SimulatedUserDefaults userDefaults_;
+    SimulatedURLCache urlCache_;
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;
+    std::vector<std::weak_ptr<SimulatedTextField>> textFields_;
+    std::vector<std::weak_ptr<SimulatedLocationManager>> locationManagers_;
+    std::vector<std::weak_ptr<SimulatedLocalSearchCompleter>> searchCompleters_;
+    std::vector<std::shared_ptr<SimulatedLocalSearch>> localSearches_;
     SimulatedApplication application_;
 };
 

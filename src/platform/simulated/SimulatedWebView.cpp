@@ -11,6 +11,25 @@ SimulatedWebView::SimulatedWebView(platform::WKWebViewConfiguration configuratio
 {
 }
 
+void SimulatedWebView::find(const std::string& text,
+    const platform::WKFindConfiguration& configuration,
+    std::function<void(const platform::WKFindResult&)> completion)
+{
+    searches.push_back({text, configuration});
+    pendingSearches_.push_back(std::move(completion));
+}
+
+void SimulatedWebView::simulateFindResult(bool matchFound)
+{
+    if (pendingSearches_.empty()) {
+        fail("nobody has searched the page");
+        return;
+    }
+    const auto completion = std::move(pendingSearches_.front());
+    pendingSearches_.pop_front();
+    completion({.matchFound = matchFound});
+}
+
 void SimulatedWebView::goBack()
 {
     if (canGoBack_)

@@ -4,6 +4,7 @@
 #include "platform/webkit/WKWebView.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
+#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,6 +15,11 @@ namespace simulated {
 // page shows.
 class SimulatedWebView final : public platform::WKWebView, public SimulatedPlace {
 public:
+    struct Search {
+        std::string text;
+        platform::WKFindConfiguration configuration;
+    };
+
     // Absent: never set.
     struct Settings {
         std::optional<std::string> customUserAgent;
@@ -29,6 +35,8 @@ public:
 
     void load(const platform::URLRequest& request) override { loads.push_back(request); }
     void evaluateJavaScript(const std::string& script) override { scripts.push_back(script); }
+    void find(const std::string& text, const platform::WKFindConfiguration& configuration,
+        std::function<void(const platform::WKFindResult&)> completion) override;
     void goBack() override;
     void goForward() override;
 
@@ -54,6 +62,9 @@ public:
     // The page posts `body` to the handler registered under `name`; fails the test when nobody is.
     void simulateMessage(const std::string& name, platform::Value body);
 
+    // The oldest search that waits for an answer gets one; fails the test when none does.
+    void simulateFindResult(bool matchFound);
+
     // How many observations are running.
     std::size_t observationCount() const;
 
@@ -61,6 +72,7 @@ public:
     Settings settings;
     std::vector<platform::URLRequest> loads;
     std::vector<std::string> scripts;
+    std::vector<Search> searches;
     int stepsBack = 0;
     int stepsForward = 0;
 
@@ -73,6 +85,7 @@ private:
     void notify(Property property);
 
     std::vector<std::weak_ptr<Observer>> observers_;
+    std::deque<std::function<void(const platform::WKFindResult&)>> pendingSearches_;
     bool canGoBack_ = false;
     bool canGoForward_ = false;
     bool isLoading_ = false;

@@ -2,6 +2,7 @@
 
 #include "platform/appkit/NSView.h"
 #include "platform/webkit/URLRequest.h"
+#include "platform/webkit/WKFindConfiguration.h"
 
 #include <functional>
 #include <memory>
@@ -25,6 +26,11 @@ public:
 
     // Runs `script` in the main frame's page. Neither its result nor an error comes back.
     virtual void evaluateJavaScript(const std::string& script) = 0;
+
+    // Selects the next match of `text` in the direction of the configuration, and scrolls to it.
+    // Each call is answered once, in the order of the calls, unless the view goes away before.
+    virtual void find(const std::string& text, const WKFindConfiguration& configuration,
+        std::function<void(const WKFindResult&)> completion) = 0;
 
     // One step in the list of pages; nothing when there is none.
     virtual void goBack() = 0;

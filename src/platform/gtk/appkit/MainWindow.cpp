@@ -53,8 +53,12 @@ MainWindow::MainWindow(const ui::Scene& scene)
 {
     g_object_set_data(G_OBJECT(window_->gobj()), windowKey, this);
     window_->set_title(scene.title);
-    if (scene.toolbarStyle == ui::WindowToolbarStyle::unified)
-        window_->set_titlebar(*Gtk::make_managed<Gtk::HeaderBar>());
+    if (scene.toolbarStyle == ui::WindowToolbarStyle::unified) {
+        auto& bar = *Gtk::make_managed<Gtk::HeaderBar>();
+        bar.pack_start(content_.toolbar().leading);
+        bar.pack_end(content_.toolbar().trailing);
+        window_->set_titlebar(bar);
+    }
     window_->set_child(content_.widget());
 
     window_->signal_realize().connect(sigc::mem_fun(*this, &MainWindow::watchSurface));

@@ -47,6 +47,7 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
               },
               [this] { frontPage_->readinessChanged(this, keeper_.isReady()); },
           })
+    , search_(view_.get())
 {
     gtk_overlay_set_child(area_.gobj(), GTK_WIDGET(view_.get()));
     teachManners(view_.get());
@@ -105,6 +106,8 @@ void GtkWebView::setShown(bool isShown)
     else
         frontPage_->hidden(this);
     keeper_.setShown(isShown);
+    if (isShown)
+        gtk_widget_grab_focus(GTK_WIDGET(view_.get())); // who comes to a tab wants its page
 }
 
 void GtkWebView::evaluateJavaScript(const std::string& script)

@@ -2,6 +2,7 @@
 
 #include "platform/gtk/ui/NativeView.h"
 #include "platform/gtk/webkit/PageKeeper.h"
+#include "platform/gtk/webkit/PageSearch.h"
 #include "platform/gtk/webkit/PropertyObservers.h"
 #include "platform/gtk/webkit/UserContent.h"
 #include "platform/webkit/WKWebView.h"
@@ -27,6 +28,11 @@ public:
 
     void load(const platform::URLRequest& request) override { keeper_.load(request); }
     void evaluateJavaScript(const std::string& script) override;
+    void find(const std::string& text, const platform::WKFindConfiguration& configuration,
+        std::function<void(const platform::WKFindResult&)> completion) override
+    {
+        search_.find(text, configuration, std::move(completion));
+    }
     void goBack() override;
     void goForward() override;
 
@@ -54,6 +60,7 @@ private:
     const ObjectPointer<WebKitWebView> view_;
     Gtk::Overlay area_;
     PageKeeper keeper_;
+    PageSearch search_;
     PropertyObservers observers_;
     SignalHandlers signals_;
 };

@@ -40,8 +40,7 @@ void HostTrust::apply(WebKitNetworkSession* session) const
             session, certificate_.get(), trusted_.host.c_str());
 }
 
-bool HostTrust::accept(
-    WebKitNetworkSession* session, GTlsCertificate* refused, const char* address) const
+bool HostTrust::vouchesFor(GTlsCertificate* refused, const char* address) const
 {
     if (!certificate_ || hostOf(address) != trusted_.host)
         return false;
@@ -55,7 +54,13 @@ bool HostTrust::accept(
     const auto flaws = g_tls_database_verify_chain(authorities.get(), refused,
         G_TLS_DATABASE_PURPOSE_AUTHENTICATE_SERVER, identity.get(), nullptr,
         G_TLS_DATABASE_VERIFY_NONE, nullptr, nullptr);
-    if (flaws != G_TLS_CERTIFICATE_NO_FLAGS)
+    return flaws == G_TLS_CERTIFICATE_NO_FLAGS;
+}
+
+bool HostTrust::accept(
+    WebKitNetworkSession* session, GTlsCertificate* refused, const char* address) const
+{
+    if (!vouchesFor(refused, address))
         return false;
     webkit_network_session_allow_tls_certificate_for_host(session, refused, trusted_.host.c_str());
     return true;

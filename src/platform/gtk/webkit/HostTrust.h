@@ -16,6 +16,10 @@ public:
 
     void apply(WebKitNetworkSession* session) const;
 
+    // Whether a certificate that was refused at `address` was issued by the user's, and for that
+    // host.
+    bool vouchesFor(GTlsCertificate* refused, const char* address) const;
+
     // Whether a certificate that the session has refused for the page at `address` was issued by
     // the user's. The session accepts it from then on.
     bool accept(WebKitNetworkSession* session, GTlsCertificate* refused, const char* address) const;

@@ -1,0 +1,76 @@
+#include "location/StationKind.h"
+
+namespace velmaro {
+
+namespace {
+
+struct Row {
+    StationKind kind;
+    std::string_view rawValue;
+    StationKindAppearance appearance;
+};
+
+// In the order of the enumerators.
+constexpr Row rows[] = {
+    {
+        .kind = StationKind::gas,
+        .rawValue = "gas",
+        .appearance =
+            {
+                .icon = "fuelpump.fill",
+                .title = "Find Gas Stations",
+                .explanation =
+                    "Search for an address or use your location to find nearby gas stations.",
+            },
+    },
+    {
+        .kind = StationKind::evstations,
+        .rawValue = "evstations",
+        .appearance =
+            {
+                .icon = "bolt.car.fill",
+                .title = "Find Charging Stations",
+                .explanation =
+                    "Search for an address or use your location to find nearby charging stations.",
+            },
+    },
+    {
+        .kind = StationKind::traffic,
+        .rawValue = "traffic",
+        .appearance =
+            {
+                .icon = "exclamationmark.triangle.fill",
+                .title = "Traffic Alerts",
+                .explanation =
+                    "Search for an address or use your location to see traffic alerts in the area.",
+            },
+    },
+};
+
+const Row& rowOf(StationKind kind)
+{
+    return rows[static_cast<std::size_t>(kind)];
+}
+
+} // namespace
+
+std::string_view rawValue(StationKind kind)
+{
+    return rowOf(kind).rawValue;
+}
+
+std::optional<StationKind> stationKind(std::string_view rawValue)
+{
+    for (const auto& row : rows) {
+        if (row.rawValue == rawValue)
+            return row.kind;
+    }
+    return std::nullopt;
+}
+
+const StationKindAppearance& appearance(StationKind kind)
+{
+    return rowOf(kind).appearance;
+}
+
+} // namespace velmaro

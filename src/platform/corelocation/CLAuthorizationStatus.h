@@ -1,0 +1,14 @@
+#pragma once
+
+namespace platform {
+
+// Whether the application may know where the user is. A platform may report further values.
+enum class CLAuthorizationStatus {
+    notDetermined = 0, // nobody has asked the user yet
+    restricted = 1, // out of the user's hands
+    denied = 2,
+    authorizedAlways = 3,
+    authorizedWhenInUse = 4,
+};
+
+} // namespace platform

@@ -1,0 +1,39 @@
+#include "platform/gtk/corelocation/LocationServices.h"
+
+#include "platform/gtk/corelocation/GeoClueSource.h"
+#include "platform/gtk/corelocation/LocationManager.h"
+#include "platform/gtk/corelocation/PortalSource.h"
+
+#include <filesystem>
+
+namespace gtk {
+
+bool LocationServices::isInsideSandbox()
+{
+    std::error_code error; // means no
+    return std::filesystem::exists("/.flatpak-info", error);
+}
+
+LocationServices::LocationServices(Options options, platform::DispatchQueue& queue,
+    platform::UserDefaults& store, LocationPermission::Prompt prompt)
+    : options_(std::move(options))
+    , permission_(queue, store, std::move(prompt))
+{
+}
+
+std::shared_ptr<platform::CLLocationManager> LocationServices::makeManager()
+{
+    const auto patience = options_.patience;
+    if (options_.isSandboxed) {
+        return std::make_shared<LocationManager>(
+            nullptr, [patience] { return std::make_unique<PortalSource>(patience); }, patience);
+    }
+    return std::make_shared<LocationManager>(
+        &permission_,
+        [patience, identifier = options_.identifier] {
+            return std::make_unique<GeoClueSource>(identifier, patience);
+        },
+        patience);
+}
+
+} // namespace gtk

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/gtk/corelocation/BusConversation.h"
+#include "platform/gtk/corelocation/LocationPatience.h"
+#include "platform/gtk/corelocation/LocationSource.h"
+
+namespace gtk {
+
+// Asks the desktop's portal, the way out of a sandbox. The portal asks the user itself, and
+// remembers what they said.
+class PortalSource final : public LocationSource {
+public:
+    explicit PortalSource(const LocationPatience& patience);
+    ~PortalSource() override;
+
+    void start(double accuracy, Handlers handlers) override;
+
+private:
+    void createSession();
+    void startSession();
+    void fail(const std::string& reason);
+
+    const LocationPatience patience_;
+    const std::string token_; // names our objects at the portal
+    double accuracy_ = 0; // metres
+    Handlers handlers_;
+    std::string session_; // path; empty until there is one
+    BusConversation conversation_;
+};
+
+} // namespace gtk

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/gtk/mapkit/HttpExchange.h"
+#include "platform/gtk/mapkit/ResponseCache.h"
+#include "platform/gtk/webkit/HostTrust.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace gtk {
+
+// A Photon service on the network: it finds places by what they are called. The connection is made
+// at the first question.
+class GeocodingService {
+public:
+    struct Options {
+        std::string address; // such as "https://photon.example"; "/api" follows
+        std::string userAgent; // who asks
+        std::optional<HostCertificate> certificate = std::nullopt;
+        unsigned secondsToWait = 10; // while nothing at all comes from the service
+    };
+
+    using Answer = HttpExchange::Answer;
+    using Handler = std::function<void(const Answer&)>;
+
+    // A question that waits for its answer. Dropping it takes the question back.
+    using Question = std::shared_ptr<void>;
+
+    // `cache` must outlive this.
+    GeocodingService(Options options, ResponseCache& cache);
+    ~GeocodingService();
+
+    // Asks for at most `limit` places, best first. `handler` is called once, later; not when the
+    // question was taken back.
+    [[nodiscard]] Question search(const std::string& text, int limit, Handler handler);
+
+private:
+    SoupSession* session();
+
+    const Options options_;
+    const HostTrust trust_;
+    ResponseCache& cache_;
+    ObjectPointer<SoupSession> session_; // null until the first question
+};
+
+} // namespace gtk

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace platform {
+
+// How a page is searched.
+struct WKFindConfiguration {
+    bool backwards = false;
+    bool caseSensitive = false;
+    bool wraps = true; // goes on at the other end of the page
+};
+
+struct WKFindResult {
+    bool matchFound = false;
+};
+
+} // namespace platform

@@ -1,0 +1,81 @@
+#include "tabs/TabBar.h"
+
+#include "platform/ui/Views.h"
+#include "tabs/TabBarItem.h"
+
+namespace velmaro {
+
+using platform::UUID;
+using ui::Alignment;
+using ui::Button;
+using ui::Color;
+using ui::Fill;
+using ui::Font;
+using ui::HStack;
+using ui::ScrollArea;
+using ui::View;
+
+namespace {
+
+using Tab = std::shared_ptr<WebModel>;
+using App = std::shared_ptr<TabbedAppModel>;
+
+// Nothing else than the id of a tab is taken. The dragged tab lands in front of the one it is
+// dropped on.
+bool moveDroppedTab(TabbedAppModel& app, const std::vector<std::string>& texts, const UUID& target)
+{
+    const auto dragged = texts.empty() ? std::nullopt : UUID::fromString(texts.front());
+    if (!dragged)
+        return false;
+    app.moveTab(*dragged, target);
+    return true;
+}
+
+View tabBarItem(const App& app, const Tab& tab, int index)
+{
+    const bool isActive = index == app->activeIndex();
+    return View(TabBarItem{
+                    .tab = tab,
+                    .isActive = isActive,
+                    .canClose = app->tabs().size() >= 2,
+                    .onSelect = [app, index] { app->activeIndex = index; },
+                    .onClose = [app, index] { app->closeTab(index); },
+                })
+        .draggable(tab->id.string())
+        .dropDestination([app, target = tab->id](
+                             const auto& texts) { return moveDroppedTab(*app, texts, target); })
+        .scrolledToVisible(isActive);
+}
+
+View newTabButton(const App& app)
+{
+    return Button({.style = ui::ButtonStyle::plain, .help = "New Tab"},
+        ui::Symbol("plus",
+            {.font = {.size = 11, .weight = Font::Weight::semibold},
+                .color = Color::secondaryLabel})
+            .frame({.width = 28, .height = 24}),
+        [app] { app->newTab(); });
+}
+
+} // namespace
+
+View TabBar::body() const
+{
+    const auto tabId = [](const Tab& tab) { return tab->id.string(); };
+    const auto item = [this, index = 0](
+                          const Tab& tab) mutable { return tabBarItem(app, tab, index++); };
+
+    return ScrollArea({.axis = ui::Axis::horizontal, .showsIndicators = false},
+        HStack{
+            {.spacing = 4},
+            ui::ForEach(app->tabs(), tabId, item),
+            newTabButton(app),
+        }
+            .padding({.horizontal = 10, .vertical = 6})
+            .accessibility({.role = ui::Accessibility::Role::tabList, .label = "Tabs"}))
+        .frame({.height = 50, .maxWidth = ui::infinity})
+        .background(Fill(Color::underPageBackground))
+        .overlay(ui::Divider(), Alignment::bottom);
+}
+
+} // namespace velmaro

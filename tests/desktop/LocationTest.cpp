@@ -1,0 +1,314 @@
+// Where the computer is, from the services of the desktop.
+
+#include "harness/Eventually.h"
+#include "harness/FakeGeoClue.h"
+#include "harness/FakeLocationPortal.h"
+#include "platform/corelocation/CLLocationManagerDelegate.h"
+#include "platform/gtk/corelocation/LocationServices.h"
+#include "platform/gtk/corelocation/ServiceLocation.h"
+#include "platform/gtk/foundation/MainLoopQueue.h"
+#include "platform/gtk/foundation/SettingsFile.h"
+
+#include <algorithm>
+#include <cmath>
+#include <giomm/init.h>
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+using gtk::LocationServices;
+using platform::CLAuthorizationStatus;
+using platform::CLLocation;
+using Manner = FakeGeoClue::Manner;
+using Places = std::vector<FakeGeoClue::Place>;
+
+constexpr auto noService = "This computer has no location service.";
+constexpr auto noAnswer = "The location service does not answer.";
+
+// Turns the main loop until the condition holds.
+bool eventuallyInLoop(const std::function<bool()>& condition)
+{
+    return eventually([&] {
+        while (g_main_context_iteration(nullptr, FALSE)) { }
+        return condition();
+    });
+}
+
+// Notes what a manager tells.
+struct Listener final : platform::CLLocationManagerDelegate {
+    void locationManagerDidChangeAuthorization(platform::CLLocationManager& manager) override
+    {
+        statuses.push_back(manager.authorizationStatus());
+    }
+    void locationManagerDidUpdateLocations(
+        platform::CLLocationManager&, const std::vector<CLLocation>& delivered) override
+    {
+        ++answers;
+        locations = delivered;
+    }
+    void locationManagerDidFailWithError(
+        platform::CLLocationManager&, const platform::NSError& error) override
+    {
+        ++answers;
+        failure = error.localizedDescription;
+    }
+
+    std::vector<CLAuthorizationStatus> statuses;
+    std::vector<CLLocation> locations;
+    std::string failure;
+    int answers = 0;
+};
+
+std::vector<double> latitudes(const std::vector<CLLocation>& locations)
+{
+    std::vector<double> result;
+    for (const auto& location : locations)
+        result.push_back(location.coordinate.latitude);
+    return result;
+}
+
+bool contains(const std::vector<std::string>& calls, const std::string& call)
+{
+    return std::ranges::find(calls, call) != calls.end();
+}
+
+} // namespace
+
+class LocationTest : public testing::Test {
+protected:
+    // A computer with patience for a test, and a user who is asked `questions` times.
+    LocationTest()
+    {
+        Gio::init();
+        settings.removeObject(gtk::LocationPermission::key); // of an earlier test in this home
+        options.patience.answer = 0.3;
+        options.patience.consent = 0.6;
+        options.patience.firstLocation = 0.3;
+        options.patience.betterLocation = 0.3;
+    }
+
+    std::unique_ptr<LocationServices> makeServices()
+    {
+        return std::make_unique<LocationServices>(options, queue, settings, [this](auto answer) {
+            ++questions;
+            this->answer = answer;
+        });
+    }
+
+    void allow() { settings.setBoolean(gtk::LocationPermission::key, true); }
+
+    // Asks for the location once and waits for the end of it.
+    Listener request(platform::CLLocationManager& manager)
+    {
+        Listener listener;
+        manager.setDelegate(&listener);
+        manager.requestLocation();
+        EXPECT_EQ(listener.answers, 0) << "answered at once";
+        EXPECT_TRUE(eventuallyInLoop([&] { return listener.answers > 0; }));
+        manager.setDelegate(nullptr);
+        return listener;
+    }
+
+    gtk::MainLoopQueue queue;
+    const std::filesystem::path file =
+        std::filesystem::path(std::getenv("HOME")) / "permissions.json";
+    gtk::SettingsFile settings{file, queue, [](const auto& line) { ADD_FAILURE() << line; }};
+    LocationServices::Options options{.identifier = "example.velmaro.Online", .isSandboxed = false};
+    int questions = 0;
+    std::function<void(bool)> answer;
+};
+
+TEST_F(LocationTest, aRequestEndsWhateverGeoClueDoes)
+{
+    struct Case {
+        Manner manner;
+        Places places;
+        std::vector<double> latitudes;
+        std::string failure;
+    };
+    const double nowhere = std::nan("");
+    const Case cases[] = {
+        {Manner::grants, {{1, 10, 100}}, {1}, ""},
+        {Manner::grants, {{1, 10, 5000}, {2, 20, 900}, {3, -30, 60}}, {1, 2, 3}, ""},
+        {Manner::grants, {{1, 10, 60}, {2, 20, 50}}, {1}, ""}, // the first is exact enough
+        {Manner::grants, {{1, 10, 5000}}, {1}, ""}, // no better one comes
+        {Manner::grants, {{1, 10, 900}, {2, 20, 5000}, {3, 30, 0}}, {1}, ""}, // nor here
+        {Manner::grants, {{1, 10, 0}, {2, 20, 5000}}, {1, 2}, ""}, // accuracy not known
+        {Manner::grants, {{nowhere, 10, 60}, {91, 10, 60}, {1, 181, 60}, {4, 180, 60}}, {4}, ""},
+        {Manner::grants, {}, {}, gtk::ServiceLocation::notFoundText},
+        {Manner::denies, {}, {}, gtk::ServiceLocation::refusedText},
+        {Manner::fails, {}, {}, gtk::ServiceLocation::notFoundText},
+        {Manner::staysSilent, {}, {}, noAnswer},
+        {Manner::neverDecides, {}, {}, gtk::ServiceLocation::notFoundText},
+    };
+    allow();
+    const auto services = makeServices();
+    const auto manager = services->makeManager();
+    for (const auto& expected : cases) {
+        SCOPED_TRACE(&expected - cases);
+        FakeGeoClue geoClue(expected.manner, expected.places);
+        const auto heard = request(*manager);
+        EXPECT_EQ(latitudes(heard.locations), expected.latitudes);
+        EXPECT_EQ(heard.failure, expected.failure);
+        // The desktop must not go on showing that the location is in use.
+        if (expected.manner != Manner::staysSilent) {
+            EXPECT_TRUE(
+                eventuallyInLoop([&] { return contains(geoClue.calls(), "DeleteClient"); }));
+        }
+    }
+}
+
+TEST_F(LocationTest, aComputerWithoutGeoClueSaysSo)
+{
+    allow();
+    const auto services = makeServices();
+    EXPECT_EQ(request(*services->makeManager()).failure, noService);
+}
+
+TEST_F(LocationTest, geoClueLearnsWhoAsksAndHowExactly)
+{
+    struct Case {
+        double metres;
+        std::string level;
+    };
+    allow();
+    const auto services = makeServices();
+    const auto manager = services->makeManager();
+    for (const auto& [metres, level] : std::initializer_list<Case>{
+             {10, "8"}, {platform::kCLLocationAccuracyHundredMeters, "6"}, {3000, "5"}}) {
+        FakeGeoClue geoClue(Manner::grants, {{1, 10, 5}});
+        manager->setDesiredAccuracy(metres);
+        request(*manager);
+        const auto calls = geoClue.calls();
+        EXPECT_TRUE(contains(calls, "DesktopId='example.velmaro.Online'"));
+        EXPECT_TRUE(contains(calls, "RequestedAccuracyLevel=" + level));
+        EXPECT_LT(std::ranges::find(calls, "RequestedAccuracyLevel=" + level),
+            std::ranges::find(calls, "Start"));
+    }
+}
+
+TEST_F(LocationTest, aSecondRequestJoinsTheFirst)
+{
+    FakeGeoClue geoClue(Manner::neverDecides);
+    allow();
+    options.patience.consent = 60;
+    const auto services = makeServices();
+    const auto manager = services->makeManager();
+    Listener listener;
+    manager->setDelegate(&listener);
+    manager->requestLocation();
+    ASSERT_TRUE(eventuallyInLoop([&] { return contains(geoClue.calls(), "Start"); }));
+    manager->requestLocation();
+    geoClue.tell({1, 10, 50});
+    EXPECT_TRUE(eventuallyInLoop([&] { return listener.answers > 0; }));
+    EXPECT_EQ(std::ranges::count(geoClue.calls(), "CreateClient"), 1);
+}
+
+TEST_F(LocationTest, droppingTheManagerEndsTheRequest)
+{
+    FakeGeoClue geoClue(Manner::neverDecides);
+    allow();
+    const auto services = makeServices();
+    auto manager = services->makeManager();
+    Listener listener;
+    manager->setDelegate(&listener);
+    manager->requestLocation();
+    ASSERT_TRUE(eventuallyInLoop([&] { return contains(geoClue.calls(), "Start"); }));
+    manager.reset();
+    EXPECT_TRUE(eventuallyInLoop([&] { return contains(geoClue.calls(), "DeleteClient"); }));
+    EXPECT_EQ(listener.answers, 0);
+}
+
+TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)
+{
+    for (const bool isAllowed : {true, false}) {
+        const auto expected =
+            isAllowed ? CLAuthorizationStatus::authorizedAlways : CLAuthorizationStatus::denied;
+        settings.removeObject(gtk::LocationPermission::key);
+        questions = 0;
+        {
+            const auto services = makeServices();
+            const auto first = services->makeManager(), second = services->makeManager();
+            Listener firstListener, secondListener;
+            first->setDelegate(&firstListener);
+            second->setDelegate(&secondListener);
+            EXPECT_EQ(first->authorizationStatus(), CLAuthorizationStatus::notDetermined);
+
+            first->requestWhenInUseAuthorization();
+            second->requestWhenInUseAuthorization();
+            EXPECT_EQ(questions, 0) << "asked inside the call";
+            ASSERT_TRUE(eventuallyInLoop([&] { return questions > 0; }));
+            EXPECT_TRUE(firstListener.statuses.empty());
+
+            answer(isAllowed);
+            answer(!isAllowed); // too late
+            EXPECT_EQ(firstListener.statuses, std::vector{expected});
+            EXPECT_EQ(secondListener.statuses, std::vector{expected});
+            first->requestWhenInUseAuthorization();
+        }
+        settings.flush();
+        const auto services = makeServices();
+        const auto manager = services->makeManager();
+        manager->requestWhenInUseAuthorization();
+        while (g_main_context_iteration(nullptr, FALSE)) { }
+        EXPECT_EQ(manager->authorizationStatus(), expected);
+        EXPECT_EQ(questions, 1);
+        gtk::SettingsFile onDisk(file, queue, [](const auto& line) { ADD_FAILURE() << line; });
+        EXPECT_TRUE(onDisk.contains(gtk::LocationPermission::key));
+        EXPECT_EQ(onDisk.boolean(gtk::LocationPermission::key), isAllowed);
+    }
+}
+
+TEST_F(LocationTest, anAnswerAfterTheEndIsNotHeard)
+{
+    auto services = makeServices();
+    services->makeManager()->requestWhenInUseAuthorization();
+    ASSERT_TRUE(eventuallyInLoop([&] { return questions > 0; }));
+    services.reset();
+    answer(true);
+    EXPECT_FALSE(settings.contains(gtk::LocationPermission::key));
+}
+
+TEST_F(LocationTest, geoClueIsNotAskedWithoutPermission)
+{
+    FakeGeoClue geoClue(Manner::grants, {{1, 10, 50}});
+    settings.setBoolean(gtk::LocationPermission::key, false);
+    const auto services = makeServices();
+    EXPECT_EQ(request(*services->makeManager()).failure, gtk::ServiceLocation::refusedText);
+    EXPECT_TRUE(geoClue.calls().empty());
+}
+
+TEST_F(LocationTest, insideASandboxThePortalDecides)
+{
+    using PortalManner = FakeLocationPortal::Manner;
+    struct Case {
+        PortalManner manner;
+        std::vector<double> latitudes;
+        std::string failure;
+    };
+    const Case cases[] = {
+        {PortalManner::grants, {12.5}, ""},
+        {PortalManner::refuses, {}, gtk::ServiceLocation::refusedText},
+        {PortalManner::endsTheSession, {}, gtk::ServiceLocation::refusedText},
+        {PortalManner::neverDecides, {}, gtk::ServiceLocation::notFoundText},
+    };
+    options.isSandboxed = true;
+    const auto services = makeServices();
+    const auto manager = services->makeManager();
+    EXPECT_EQ(request(*manager).failure, noService);
+    for (const auto& expected : cases) {
+        SCOPED_TRACE(&expected - cases);
+        FakeLocationPortal portal(expected.manner);
+        EXPECT_EQ(manager->authorizationStatus(), CLAuthorizationStatus::authorizedAlways);
+        const auto heard = request(*manager);
+        EXPECT_EQ(latitudes(heard.locations), expected.latitudes);
+        EXPECT_EQ(heard.failure, expected.failure);
+        EXPECT_TRUE(contains(portal.calls(), "accuracy=4"));
+        EXPECT_TRUE(eventuallyInLoop([&] { return contains(portal.calls(), "Close"); }));
+    }
+    EXPECT_EQ(questions, 0);
+}
+
+} // namespace desktop
