@@ -67,6 +67,7 @@ TEST(Window, comesBackWhenTheMinimizedApplicationIsStartedAgain)
 {
     DemoServiceProcess service;
     AppProcess app(service);
+    ASSERT_TRUE(app.waitForPage()); // while it opens, the window asks to be in front
     const auto window = app.waitForWindow();
     ASSERT_TRUE(window);
 
@@ -74,7 +75,7 @@ TEST(Window, comesBackWhenTheMinimizedApplicationIsStartedAgain)
     hand.minimize(*window);
     ASSERT_TRUE(eventually([&] { return !hand.isShown(*window); }));
     AppProcess second(service);
-    EXPECT_EQ(second.process().waitForExit(), 0);
+    EXPECT_EQ(second.process().waitForExit(), 0) << second.process().errors();
     EXPECT_TRUE(eventually([&] { return hand.isShown(*window); }));
 }
 
