@@ -28,7 +28,8 @@ using Options = std::map<Glib::ustring, Glib::VariantBase>;
 
 std::string freshToken()
 {
-    auto token = "velmaro" + platform::UUID().string();
+    std::string token = "velmaro";
+    token += platform::UUID().string();
     std::erase(token, '-');
     return token;
 }
