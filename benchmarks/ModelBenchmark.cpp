@@ -1,5 +1,5 @@
-// What the tab model and the view layer cost with 1, 100 and 10,000 open tabs. The backend is the simulated one, so
-// a redraw is the work of bodies and reconciler, without that of a toolkit.
+// What the tab model and the view layer cost with 1, 100 and 10,000 open tabs. The backend is the
+// simulated one, so a redraw is the work of bodies and reconciler, without that of a toolkit.
 
 #include "app/VelmaroOnlineApp.h"
 #include "platform/simulated/SimulatedPlatform.h"
@@ -14,8 +14,8 @@ namespace {
 
 void openTabs(simulated::SimulatedPlatform& platform, std::int64_t count)
 {
-    platform.userDefaults().setStringArray(RouteRestorer::key,
-        std::vector<std::string>(static_cast<std::size_t>(count), "drives"));
+    platform.userDefaults().setStringArray(
+        RouteRestorer::key, std::vector<std::string>(static_cast<std::size_t>(count), "drives"));
 }
 
 // The application with so many open tabs, its window on screen.

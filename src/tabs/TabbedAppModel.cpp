@@ -116,9 +116,9 @@ void TabbedAppModel::moveTab(const platform::UUID& draggedId, const platform::UU
     const auto active = activeTab();
     tabs.mutate([&](auto& tabs) {
         const auto from = findTab(tabs, draggedId);
-        const auto dragged = *from;
+        auto dragged = std::move(*from);
         tabs.erase(from);
-        tabs.insert(findTab(tabs, targetId), dragged);
+        tabs.insert(findTab(tabs, targetId), std::move(dragged));
     });
     if (active)
         activeIndex = static_cast<int>(findTab(tabs(), active->id) - tabs().begin());

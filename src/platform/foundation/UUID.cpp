@@ -1,7 +1,8 @@
 #include "platform/foundation/UUID.h"
 
 #include <algorithm>
-#include <random>
+#include <cassert>
+#include <unistd.h>
 
 namespace platform {
 
@@ -30,12 +31,9 @@ std::optional<std::uint8_t> hexDigit(char character)
 UUID::UUID()
     : bytes_{}
 {
-    std::random_device random; // the operating system's generator
-    for (std::size_t i = 0; i < bytes_.size(); i += 4) {
-        const std::uint32_t word = random();
-        for (std::size_t j = 0; j < 4; ++j)
-            bytes_[i + j] = static_cast<std::uint8_t>(word >> (8 * j));
-    }
+    // Fails only for more bytes than are asked for here.
+    [[maybe_unused]] const int status = getentropy(bytes_.data(), bytes_.size());
+    assert(status == 0);
     bytes_[6] = static_cast<std::uint8_t>((bytes_[6] & 0x0f) | 0x40);
     bytes_[8] = static_cast<std::uint8_t>((bytes_[8] & 0x3f) | 0x80);
 }

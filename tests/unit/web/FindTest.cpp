@@ -19,8 +19,8 @@ struct FindTest : Stage, testing::Test {
     bool showsNotFound() const { return window.content().showsText("Not found"); }
 
     std::shared_ptr<WebModel> model = std::make_shared<WebModel>();
-    std::shared_ptr<simulated::SimulatedWebView> page
-        = std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
+    std::shared_ptr<simulated::SimulatedWebView> page =
+        std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
     simulated::SimulatedWindow& window = show(FindBar{model});
     std::shared_ptr<simulated::SimulatedTextField> field;
 };
@@ -75,8 +75,8 @@ TEST_F(FindTest, closingKeepsTheQueryAndClearsTheSelection)
     EXPECT_FALSE(model->findBarVisible());
     EXPECT_EQ(model->findLastResult(), std::nullopt);
     EXPECT_EQ(model->findQuery(), "ferry");
-    EXPECT_EQ(page->scripts.back(),
-        "window.getSelection && window.getSelection().removeAllRanges();");
+    EXPECT_EQ(
+        page->scripts.back(), "window.getSelection && window.getSelection().removeAllRanges();");
 }
 
 TEST_F(FindTest, withoutAPageOrWithAModelThatHasGoneNothingHappens)

@@ -30,6 +30,31 @@ Pango::Alignment lineAlignment(ui::Alignment alignment)
     }
 }
 
+void addForeground(Pango::AttrList& attributes, const ui::Color& color)
+{
+    const auto channel = [](double value) {
+        return static_cast<guint16>(std::lround(value * 65535));
+    };
+    auto foreground = Pango::Attribute::create_attr_foreground(
+        channel(color.red), channel(color.green), channel(color.blue));
+    auto alpha = Pango::Attribute::create_attr_foreground_alpha(channel(color.opacity));
+    attributes.insert(foreground);
+    attributes.insert(alpha);
+}
+
+// Classes of the style sheet, for the colours that texts have from the theme.
+std::vector<Glib::ustring> themeClasses(const ui::Color& color)
+{
+    switch (color.role) {
+    case ui::Color::Role::accent:
+        return {"velmaro-accent"};
+    case ui::Color::Role::secondaryLabel:
+        return {"velmaro-secondary-label"};
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 FillWidget::Area::Area()
@@ -64,15 +89,6 @@ void FillWidget::apply(const ui::Node& node)
     area_.setColor(static_cast<const ui::FillNode&>(node).color);
 }
 
-void TextWidget::Label::setColor(const ui::Color& color)
-{
-    if (provider_)
-        get_style_context()->remove_provider(provider_);
-    provider_ = Gtk::CssProvider::create();
-    provider_->load_from_data("label { color: " + cssColor(color) + "; }");
-    get_style_context()->add_provider(provider_, GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
-}
-
 TextWidget::~TextWidget()
 {
     leaveParent(label_);
@@ -88,8 +104,10 @@ void TextWidget::apply(const ui::Node& node)
     options_ = text.options;
 
     auto attributes = fontAttributes(options_->font);
+    if (options_->color.role == ui::Color::Role::fixed)
+        addForeground(attributes, options_->color);
     label_.set_attributes(attributes);
-    label_.setColor(options_->color);
+    label_.set_css_classes(themeClasses(options_->color));
     label_.set_wrap(options_->wraps);
     label_.set_ellipsize(options_->wraps ? Pango::EllipsizeMode::NONE : Pango::EllipsizeMode::END);
 

@@ -3,7 +3,6 @@
 #include "platform/gtk/ui/NativeWidget.h"
 #include "platform/ui/Options.h"
 
-#include <gtkmm/cssprovider.h>
 #include <gtkmm/label.h>
 #include <gtkmm/picture.h>
 #include <gtkmm/progressbar.h>
@@ -47,16 +46,7 @@ public:
     void apply(const ui::Node& node) override;
 
 private:
-    // A label in a colour that follows the theme, or a fixed one.
-    class Label final : public Gtk::Label {
-    public:
-        void setColor(const ui::Color& color);
-
-    private:
-        Glib::RefPtr<Gtk::CssProvider> provider_;
-    };
-
-    Label label_;
+    Gtk::Label label_;
     std::optional<ui::TextOptions> options_;
 };
 

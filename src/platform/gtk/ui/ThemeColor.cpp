@@ -46,14 +46,4 @@ Gdk::RGBA themeColor(const Gtk::Widget& widget, const ui::Color& color)
     return result;
 }
 
-std::string cssColor(const ui::Color& color)
-{
-    if (const auto* named = nameOf(color.role))
-        return Glib::ustring::compose(
-            "alpha(@%1, %2)", named->name, color.opacity * named->opacity);
-    const Gdk::RGBA fixed(static_cast<float>(color.red), static_cast<float>(color.green),
-        static_cast<float>(color.blue), static_cast<float>(color.opacity));
-    return fixed.to_string();
-}
-
 } // namespace gtk

@@ -4,14 +4,10 @@
 
 #include <gdkmm/rgba.h>
 #include <gtkmm/widget.h>
-#include <string>
 
 namespace gtk {
 
 // What `color` is on the desktop's theme as it is now.
 Gdk::RGBA themeColor(const Gtk::Widget& widget, const ui::Color& color);
-
-// The same as a CSS value, which follows the theme by itself.
-std::string cssColor(const ui::Color& color);
 
 } // namespace gtk

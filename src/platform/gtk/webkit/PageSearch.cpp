@@ -24,16 +24,18 @@ PageSearch::PageSearch(WebKitWebView* view)
     : controller_(webkit_web_view_get_find_controller(view))
 {
     signals_.connect(controller_, "found-text",
-        G_CALLBACK(+[](WebKitFindController*, guint, PageSearch* self) { self->answer(true); }), this);
+        G_CALLBACK(+[](WebKitFindController*, guint, PageSearch* self) { self->answer(true); }),
+        this);
     signals_.connect(controller_, "failed-to-find-text",
         G_CALLBACK(+[](WebKitFindController*, PageSearch* self) { self->answer(false); }), this);
 }
 
-void PageSearch::find(const std::string& text,
-    const platform::WKFindConfiguration& configuration, Completion completion)
+void PageSearch::find(const std::string& text, const platform::WKFindConfiguration& configuration,
+    Completion completion)
 {
     waiting_.push_back(std::move(completion));
-    // Without a limit of matches only the current one is selected, which clearing the selection undoes.
+    // Without a limit of matches only the current one is selected, which clearing the selection
+    // undoes.
     webkit_find_controller_search(controller_, text.c_str(), optionsOf(configuration), 0);
 }
 

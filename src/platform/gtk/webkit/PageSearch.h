@@ -10,7 +10,8 @@
 
 namespace gtk {
 
-// Searches in the page of one web view. The engine answers every search once and in order, but does not say which.
+// Searches in the page of one web view. The engine answers every search once and in order, but does
+// not say which.
 class PageSearch {
 public:
     using Completion = std::function<void(const platform::WKFindResult&)>;
