@@ -168,6 +168,7 @@ std::optional<std::string> GtkPlatform::prepare()
     engine.prepare(expectedHost_);
     if (const auto missing = check.get())
         return "web pages cannot be shown without their sandbox: " + *missing;
+    engine.startContentProcess();
     return std::nullopt;
 }
 

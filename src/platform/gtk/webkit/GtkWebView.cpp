@@ -11,9 +11,17 @@ namespace gtk {
 
 namespace {
 
+// A view in the content process of `spare`, or in one of its own where there is none.
 ObjectPointer<WebKitWebView> makeView(WebEngine& engine,
-    const platform::WKWebViewConfiguration& configuration, WebKitUserContentManager* content)
+    const platform::WKWebViewConfiguration& configuration, WebKitUserContentManager* content,
+    WebKitWebView* spare)
 {
+    if (spare) {
+        const auto settings = engine.makeSettings(configuration.preferences);
+        auto* object = g_object_new(WEBKIT_TYPE_WEB_VIEW, "related-view", spare, "settings",
+            settings.get(), "user-content-manager", content, nullptr);
+        return retain(WEBKIT_WEB_VIEW(object));
+    }
     const auto session = engine.session(configuration.websiteDataStore);
     const auto settings = engine.makeSettings(configuration.preferences);
     auto* object = g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session.get(), "settings",
@@ -38,7 +46,10 @@ template <class Act> void withPinchGesture(WebKitWebView* view, Act act)
 GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration& configuration)
     : frontPage_(engine.frontPage())
     , content_(configuration.userContentController, [this] { return !keeper_.failure(); })
-    , view_(makeView(engine, configuration, content_.manager()))
+    , spare_(configuration.websiteDataStore == platform::WKWebsiteDataStore::defaultDataStore
+              ? engine.takeSpareView()
+              : nullptr)
+    , view_(makeView(engine, configuration, content_.manager(), spare_.get()))
     , keeper_(view_.get(), area_, engine.trust(), engine.patience(),
           {
               [this] {
@@ -69,8 +80,10 @@ void GtkWebView::watch()
     };
     connect(view_.get(), "notify::title",
         [](GObject*, GParamSpec*, GtkWebView* self) { self->titleChanged(); });
-    connect(view_.get(), "notify::is-loading",
-        [](GObject*, GParamSpec*, GtkWebView* self) { self->changed(Property::isLoading); });
+    connect(view_.get(), "notify::is-loading", [](GObject*, GParamSpec*, GtkWebView* self) {
+        self->spare_.reset(); // its process has gone over to this view
+        self->changed(Property::isLoading);
+    });
     connect(view_.get(), "notify::estimated-load-progress",
         [](GObject*, GParamSpec*, GtkWebView* self) {
             self->changed(Property::estimatedProgress);

@@ -57,6 +57,7 @@ private:
 
     const std::shared_ptr<FrontPage> frontPage_;
     UserContent content_;
+    ObjectPointer<WebKitWebView> spare_; // until the first load begins
     const ObjectPointer<WebKitWebView> view_;
     Gtk::Overlay area_;
     PageKeeper keeper_;

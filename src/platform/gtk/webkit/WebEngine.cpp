@@ -67,6 +67,15 @@ void WebEngine::prepare(const std::string& host)
         webkit_network_session_prefetch_dns(session.get(), host.c_str());
 }
 
+void WebEngine::startContentProcess()
+{
+    const auto session = this->session(platform::WKWebsiteDataStore::defaultDataStore);
+    const auto settings = makeSettings({});
+    spareView_ = retain(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session",
+        session.get(), "settings", settings.get(), nullptr)));
+    webkit_web_view_load_uri(spareView_.get(), "about:blank"); // without a load there is no process
+}
+
 std::optional<std::string> WebEngine::missingSandboxHelper() const
 {
     return sandboxProblem();

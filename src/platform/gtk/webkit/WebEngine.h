@@ -28,6 +28,14 @@ public:
     // web view.
     void prepare(const std::string& host = {});
 
+    // Starts a content process for the first web view, which takes most of the time until that view
+    // can load. After GTK is initialised.
+    void startContentProcess();
+
+    // An empty view whose content process is running, for the next view to join; null when there is
+    // none. Whoever takes it lets go of it once that view has a page.
+    ObjectPointer<WebKitWebView> takeSpareView() { return std::move(spareView_); }
+
     // Why web views cannot be made, in a few words; to be asked before the first one, which would
     // end the program.
     std::optional<std::string> missingSandboxHelper() const;
@@ -54,6 +62,7 @@ private:
     std::shared_ptr<FrontPage> frontPage_ = std::make_shared<FrontPage>();
     std::shared_ptr<const HostTrust> trust_; // read with the first session
     ObjectPointer<WebKitNetworkSession> session_; // made when first needed
+    ObjectPointer<WebKitWebView> spareView_;
 };
 
 } // namespace gtk
