@@ -31,11 +31,12 @@ void answerCalls()
     while (g_main_context_iteration(nullptr, FALSE)) { }
 }
 
-bool isUp(AppProcess& app)
+// Whether its window is there, and so its tabs.
+bool isUp()
 {
-    return eventually([&] {
+    return eventually([] {
         answerCalls();
-        return !app.webProcesses().empty();
+        return !Desktop::windows().empty();
     });
 }
 
@@ -137,7 +138,7 @@ TEST(SessionEnd, theTabsAreSavedWhenTheSessionEnds)
     SessionManager manager;
     AppProcess app;
     ASSERT_TRUE(manager.waitForCall("RegisterClient"));
-    ASSERT_TRUE(isUp(app));
+    ASSERT_TRUE(isUp());
 
     manager.tellClient("QueryEndSession", g_variant_new("(u)", 0));
     ASSERT_TRUE(manager.waitForCall("EndSessionResponse"));
@@ -168,7 +169,7 @@ TEST(SessionEnd, aWindowThatIsKilledSavesNothing)
 {
     saveUntidyRoutes();
     AppProcess app;
-    ASSERT_TRUE(isUp(app));
+    ASSERT_TRUE(isUp());
     const auto windows = Desktop::windows();
     ASSERT_EQ(windows.size(), 1u);
 
