@@ -3,7 +3,7 @@
 #include "platform/simulated/Failure.h"
 #include "platform/simulated/SimulatedHost.h"
 #include "platform/simulated/SimulatedWidget.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 #include "platform/ui/Widget.h"
 
 #include <optional>

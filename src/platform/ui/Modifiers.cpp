@@ -1,4 +1,4 @@
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 namespace ui {
 

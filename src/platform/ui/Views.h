@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 #include "platform/ui/State.h"
 
 // The catalogue of views: everything that a body can be built of. Options come first in the braces,

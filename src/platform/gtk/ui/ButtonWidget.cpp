@@ -1,7 +1,7 @@
 #include "platform/gtk/ui/ButtonWidget.h"
 
 #include "platform/gtk/ui/AccessibleName.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 #include <gtkmm/binlayout.h>
 #include <gtkmm/shortcut.h>

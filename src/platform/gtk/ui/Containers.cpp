@@ -4,7 +4,7 @@
 #include "platform/gtk/ui/Allocation.h"
 #include "platform/gtk/ui/Leaves.h"
 #include "platform/gtk/ui/ScrollAreaWidget.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 #include <cmath>
 #include <gtkmm/binlayout.h>

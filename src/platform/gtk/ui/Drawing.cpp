@@ -2,7 +2,7 @@
 
 #include "platform/gtk/ui/SymbolImage.h"
 #include "platform/gtk/ui/ThemeColor.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 #include <cairomm/context.h>
 #include <cmath>
@@ -16,20 +16,40 @@ namespace {
 // A symbol is about as high as a capital letter and its overshoot.
 constexpr double symbolPerFontSize = 1.25;
 
-constexpr double strokePerWeight(ui::Font::Weight weight)
-{
-    return weight == ui::Font::Weight::regular ? 0.96 : 1;
-}
-
 } // namespace
 
-SymbolWidget::Area::Area()
+FillArea::FillArea()
+    : Glib::ObjectBase("VelmaroFill")
+{
+    set_expand();
+}
+
+void FillArea::set(const ui::Color& color)
+{
+    if (color_ == color)
+        return;
+    color_ = color;
+    queue_draw();
+}
+
+void FillArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
+{
+    snapshot->append_color(
+        themeColor(*this, color_), Gdk::Rectangle(0, 0, get_width(), get_height()));
+}
+
+void FillWidget::apply(const ui::Node& node)
+{
+    leaf().set(static_cast<const ui::FillNode&>(node).color);
+}
+
+SymbolArea::SymbolArea()
     : Glib::ObjectBase("VelmaroSymbol")
 {
     set_can_target(false);
 }
 
-void SymbolWidget::Area::set(const std::string& name, const ui::SymbolOptions& options)
+void SymbolArea::set(const std::string& name, const ui::SymbolOptions& options)
 {
     if (name_ == name && options_ == options)
         return;
@@ -41,20 +61,19 @@ void SymbolWidget::Area::set(const std::string& name, const ui::SymbolOptions& o
     queue_draw();
 }
 
-int SymbolWidget::Area::extent() const
+int SymbolArea::extent() const
 {
-    return static_cast<int>(std::lround(
-        options_.font.size * symbolPerFontSize * strokePerWeight(options_.font.weight)));
+    return static_cast<int>(std::lround(options_.font.size * symbolPerFontSize));
 }
 
-void SymbolWidget::Area::measure_vfunc(Gtk::Orientation, int, int& minimum, int& natural,
+void SymbolArea::measure_vfunc(Gtk::Orientation, int, int& minimum, int& natural,
     int& minimumBaseline, int& naturalBaseline) const
 {
     minimum = natural = extent();
     minimumBaseline = naturalBaseline = -1;
 }
 
-void SymbolWidget::Area::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
+void SymbolArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
 {
     const int scale = get_scale_factor();
     const auto mask = symbolMask(name_, extent() * scale);
@@ -69,26 +88,20 @@ void SymbolWidget::Area::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snaps
     context->mask(mask, 0, 0);
 }
 
-SymbolWidget::~SymbolWidget()
-{
-    if (area_.get_parent())
-        area_.unparent();
-}
-
 void SymbolWidget::apply(const ui::Node& node)
 {
     const auto& symbol = static_cast<const ui::SymbolNode&>(node);
-    area_.set(symbol.name, symbol.options);
+    leaf().set(symbol.name, symbol.options);
 }
 
-RoundedRectangleWidget::Area::Area()
+RoundedRectangleArea::RoundedRectangleArea()
     : Glib::ObjectBase("VelmaroRoundedRectangle")
 {
     set_expand();
     set_can_target(false);
 }
 
-void RoundedRectangleWidget::Area::set(const ui::ShapeOptions& options)
+void RoundedRectangleArea::set(const ui::ShapeOptions& options)
 {
     if (options_ == options)
         return;
@@ -96,7 +109,7 @@ void RoundedRectangleWidget::Area::set(const ui::ShapeOptions& options)
     queue_draw();
 }
 
-void RoundedRectangleWidget::Area::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
+void RoundedRectangleArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
 {
     graphene_rect_t bounds;
     graphene_rect_init(
@@ -124,15 +137,9 @@ void RoundedRectangleWidget::Area::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapsh
     }
 }
 
-RoundedRectangleWidget::~RoundedRectangleWidget()
-{
-    if (area_.get_parent())
-        area_.unparent();
-}
-
 void RoundedRectangleWidget::apply(const ui::Node& node)
 {
-    area_.set(static_cast<const ui::RoundedRectangleNode&>(node).options);
+    leaf().set(static_cast<const ui::RoundedRectangleNode&>(node).options);
 }
 
 } // namespace gtk

@@ -1,63 +1,68 @@
 #pragma once
 
-#include "platform/gtk/ui/NativeWidget.h"
+#include "platform/gtk/ui/LeafWidget.h"
 #include "platform/ui/Options.h"
 
 #include <string>
 
-// The widgets that paint themselves.
+// The widgets that paint themselves, each on an area that knows how.
 
 namespace gtk {
 
-class SymbolWidget final : public NativeWidget {
+class FillArea final : public Gtk::Widget {
 public:
-    ~SymbolWidget() override;
+    FillArea();
+    void set(const ui::Color& color);
 
-    Gtk::Widget& native() override { return area_; }
-    void apply(const ui::Node& node) override;
+protected:
+    void snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) override;
 
 private:
-    class Area final : public Gtk::Widget {
-    public:
-        Area();
-        void set(const std::string& name, const ui::SymbolOptions& options);
-
-    protected:
-        void measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
-            int& minimumBaseline, int& naturalBaseline) const override;
-        void snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) override;
-
-    private:
-        int extent() const;
-
-        std::string name_;
-        ui::SymbolOptions options_;
-    };
-
-    Area area_;
+    ui::Color color_ = ui::Color::clear;
 };
 
-class RoundedRectangleWidget final : public NativeWidget {
+class FillWidget final : public LeafWidget<FillArea> {
 public:
-    ~RoundedRectangleWidget() override;
-
-    Gtk::Widget& native() override { return area_; }
     void apply(const ui::Node& node) override;
+};
+
+class SymbolArea final : public Gtk::Widget {
+public:
+    SymbolArea();
+    void set(const std::string& name, const ui::SymbolOptions& options);
+
+protected:
+    void measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
+        int& minimumBaseline, int& naturalBaseline) const override;
+    void snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) override;
 
 private:
-    class Area final : public Gtk::Widget {
-    public:
-        Area();
-        void set(const ui::ShapeOptions& options);
+    int extent() const;
 
-    protected:
-        void snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) override;
+    std::string name_;
+    ui::SymbolOptions options_;
+};
 
-    private:
-        ui::ShapeOptions options_;
-    };
+class SymbolWidget final : public LeafWidget<SymbolArea> {
+public:
+    void apply(const ui::Node& node) override;
+};
 
-    Area area_;
+class RoundedRectangleArea final : public Gtk::Widget {
+public:
+    RoundedRectangleArea();
+    void set(const ui::ShapeOptions& options);
+
+protected:
+    void snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) override;
+
+private:
+    ui::ShapeOptions options_;
+};
+
+class RoundedRectangleWidget final : public LeafWidget<RoundedRectangleArea> {
+public:
+    void apply(const ui::Node& node) override;
 };
 
 } // namespace gtk

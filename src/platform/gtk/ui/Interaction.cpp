@@ -1,6 +1,6 @@
 #include "platform/gtk/ui/Interaction.h"
 
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 #include <gdkmm/contentprovider.h>
 #include <glibmm/value.h>

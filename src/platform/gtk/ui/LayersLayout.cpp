@@ -1,7 +1,7 @@
 #include "platform/gtk/ui/LayersLayout.h"
 
 #include "platform/gtk/ui/Allocation.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 #include <algorithm>
 

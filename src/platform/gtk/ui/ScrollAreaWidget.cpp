@@ -1,7 +1,7 @@
 #include "platform/gtk/ui/ScrollAreaWidget.h"
 
 #include "platform/gtk/ui/LayersLayout.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 #include <algorithm>
 #include <gtkmm/adjustment.h>

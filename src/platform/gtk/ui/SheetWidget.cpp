@@ -1,7 +1,7 @@
 #include "platform/gtk/ui/SheetWidget.h"
 
 #include "platform/gtk/ui/LayersLayout.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 #include <gtkmm/eventcontrollerkey.h>
 #include <gtkmm/root.h>

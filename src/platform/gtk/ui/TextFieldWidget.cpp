@@ -2,7 +2,7 @@
 
 #include "platform/gtk/ui/AccessibleName.h"
 #include "platform/gtk/ui/FontAttributes.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 namespace gtk {
 

@@ -9,7 +9,7 @@
 #include "platform/gtk/ui/SheetWidget.h"
 #include "platform/gtk/ui/TextFieldWidget.h"
 #include "platform/gtk/ui/ToolbarWidget.h"
-#include "platform/ui/Node.h"
+#include "platform/ui/ViewNodes.h"
 
 namespace gtk {
 
