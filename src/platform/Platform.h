@@ -11,16 +11,19 @@ namespace platform {
 class Bundle;
 class CLLocationManager;
 class DispatchQueue;
+class FileManager;
 class MKLocalSearch;
 class MKLocalSearchCompleter;
 class NSApplication;
 class NSScreen;
 class NSTextField;
 class NSView;
+class NSWorkspace;
 class URLCache;
 class UserDefaults;
 class WKWebView;
 struct MKLocalSearchRequest;
+struct NSAlert;
 struct WKWebViewConfiguration;
 
 // Everything the application asks of the desktop it runs on. One platform is current at a time: the
@@ -42,6 +45,8 @@ public:
     virtual Bundle& mainBundle() = 0;
     virtual NSApplication& application() = 0;
     virtual URLCache& urlCache() = 0;
+    virtual FileManager& fileManager() = 0;
+    virtual NSWorkspace& workspace() = 0;
 
     // The screen that holds the key window, else the first one; null on a machine without a screen.
     virtual NSScreen* mainScreen() = 0;
@@ -62,6 +67,9 @@ public:
 
     // A search that has yet to be started.
     virtual std::shared_ptr<MKLocalSearch> makeLocalSearch(const MKLocalSearchRequest&) = 0;
+
+    // See `NSAlert::runModal`.
+    virtual void runModal(const NSAlert& alert, std::function<void(int button)> completion) = 0;
 
     // Writes one line to the system log.
     virtual void log(const std::string& line) = 0;

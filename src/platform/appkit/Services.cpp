@@ -1,6 +1,8 @@
 // The services that the current platform keeps one of, under the names they are called by.
 
+#include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSApplication.h"
+#include "platform/appkit/NSWorkspace.h"
 #include "platform/Platform.h"
 
 namespace platform {
@@ -13,6 +15,11 @@ struct WindowTabbing {
 
 } // namespace
 
+void NSAlert::runModal(std::function<void(int button)> completion) const
+{
+    Platform::current().runModal(*this, std::move(completion));
+}
+
 NSApplication& NSApplication::shared()
 {
     return Platform::current().application();
@@ -21,6 +28,11 @@ NSApplication& NSApplication::shared()
 NSScreen* NSScreen::main()
 {
     return Platform::current().mainScreen();
+}
+
+NSWorkspace& NSWorkspace::shared()
+{
+    return Platform::current().workspace();
 }
 
 bool NSWindow::allowsAutomaticWindowTabbing()

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/DispatchQueue.h"
+#include "platform/foundation/FileManager.h"
 #include "platform/foundation/URLCache.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/Platform.h"
@@ -16,6 +17,11 @@ Bundle& Bundle::main()
 DispatchQueue& DispatchQueue::main()
 {
     return Platform::current().mainQueue();
+}
+
+FileManager& FileManager::defaultManager()
+{
+    return Platform::current().fileManager();
 }
 
 URLCache& URLCache::shared()

@@ -1,5 +1,6 @@
 #include "platform/foundation/URL.h"
 
+#include <algorithm>
 #include <memory>
 #include <uriparser/Uri.h>
 
@@ -73,6 +74,39 @@ std::vector<std::string> pathComponentsOf(const UriUriA& uri)
     return components;
 }
 
+std::string pathOf(const UriUriA& uri)
+{
+    std::string path;
+    const char* separator = uri.absolutePath || uri.hostText.first ? "/" : "";
+    for (auto* segment = uri.pathHead; segment; segment = segment->next) {
+        path += separator + percentDecoded(textOf(segment->text).value_or(""));
+        separator = "/";
+    }
+    return path;
+}
+
+bool isUnescapedInPaths(char letter)
+{
+    constexpr std::string_view marks = "/-._~!$&'()*+,;=:@";
+    return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z')
+        || (letter >= '0' && letter <= '9') || marks.find(letter) != marks.npos;
+}
+
+std::string percentEncoded(std::string_view path)
+{
+    constexpr auto digits = "0123456789ABCDEF";
+    std::string encoded;
+    for (const char letter : path) {
+        if (isUnescapedInPaths(letter)) {
+            encoded += letter;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(letter);
+        encoded += {'%', digits[byte >> 4], digits[byte & 15]};
+    }
+    return encoded;
+}
+
 } // namespace
 
 std::optional<URL> URL::fromString(std::string_view text)
@@ -92,10 +126,50 @@ std::optional<URL> URL::fromString(std::string_view text)
         url.port_.reset();
     if (const auto host = textOf(uri->hostText); host && !host->empty())
         url.host_ = percentDecoded(*host);
+    url.path_ = pathOf(*uri);
     url.pathComponents_ = pathComponentsOf(*uri);
     url.isOrigin_ = url.scheme_ && url.host_ && !uri->userInfo.first && !uri->pathHead
         && !uri->query.first && !uri->fragment.first;
     return url;
+}
+
+URL URL::fileURL(std::string_view path)
+{
+    return *fromString("file://" + percentEncoded(path));
+}
+
+bool URL::isFileURL() const
+{
+    return scheme_ && std::ranges::equal(*scheme_, std::string_view("file"), [](char a, char b) {
+        return (a | 0x20) == b;
+    });
+}
+
+std::string URL::lastPathComponent() const
+{
+    for (auto name = pathComponents_.rbegin(); name != pathComponents_.rend(); ++name) {
+        if (*name != "/")
+            return *name;
+    }
+    return pathComponents_.empty() ? "" : "/";
+}
+
+std::string URL::pathExtension() const
+{
+    const auto name = lastPathComponent();
+    const auto dot = name.rfind('.');
+    if (dot == name.npos || name.find_first_not_of('.') >= dot)
+        return "";
+    const auto extension = name.substr(dot + 1);
+    return extension.find(' ') == extension.npos ? extension : "";
+}
+
+URL URL::appendingPathComponent(std::string_view name) const
+{
+    auto text = text_;
+    if (!text.ends_with('/'))
+        text += '/';
+    return *fromString(text + percentEncoded(name));
 }
 
 } // namespace platform

@@ -13,6 +13,9 @@ class URL {
 public:
     static std::optional<URL> fromString(std::string_view text);
 
+    // The address of a file or folder by its absolute path, whatever bytes it consists of.
+    static URL fileURL(std::string_view path);
+
     // The text it was made from, unchanged.
     const std::string& absoluteString() const { return text_; }
 
@@ -31,6 +34,22 @@ public:
     // "/".
     const std::vector<std::string>& pathComponents() const { return pathComponents_; }
 
+    // The path, percent escapes decoded; with an address from `fileURL`, the bytes it was made
+    // from.
+    const std::string& path() const { return path_; }
+
+    bool isFileURL() const;
+
+    // The last of the path's names; "/" for the root, empty when there is no path.
+    std::string lastPathComponent() const;
+
+    // What follows the last dot of the last name, without the dot. Empty when there is no dot, when
+    // nothing or a blank stands behind it, and when nothing but dots stands before it.
+    std::string pathExtension() const;
+
+    // The address of what is called `name` in this folder.
+    URL appendingPathComponent(std::string_view name) const;
+
     // True when nothing stands behind scheme, host and port, and no user information before them.
     bool isOrigin() const { return isOrigin_; }
 
@@ -43,6 +62,7 @@ private:
     std::optional<std::string> scheme_;
     std::optional<std::string> host_;
     std::optional<std::string> port_;
+    std::string path_;
     std::vector<std::string> pathComponents_;
     bool isOrigin_ = false;
 };

@@ -1,12 +1,15 @@
 #include "platform/gtk/GtkPlatform.h"
 
+#include "platform/gtk/appkit/AlertPresenter.h"
 #include "platform/gtk/appkit/Application.h"
 #include "platform/gtk/appkit/PlainView.h"
 #include "platform/gtk/appkit/RendererPolicy.h"
 #include "platform/gtk/appkit/Screen.h"
 #include "platform/gtk/appkit/TextField.h"
+#include "platform/gtk/appkit/Workspace.h"
 #include "platform/gtk/corelocation/LocationQuestion.h"
 #include "platform/gtk/corelocation/LocationServices.h"
+#include "platform/gtk/foundation/Files.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
 #include "platform/gtk/foundation/ProgramBundle.h"
 #include "platform/gtk/foundation/SettingsFile.h"
@@ -42,6 +45,9 @@ GtkPlatform::GtkPlatform(Options options)
     , settings_(std::make_unique<SettingsFile>(
           standardPaths().config / settingsName, *mainQueue_, platform::NSLog))
     , bundle_(std::make_unique<ProgramBundle>())
+    , files_(std::make_unique<Files>())
+    , workspace_(std::make_unique<Workspace>())
+    , alerts_(std::make_unique<AlertPresenter>())
 {
     chooseRenderer();
     // Desktops find the program's windows, and its desktop entry from them, by this name.
@@ -97,6 +103,16 @@ platform::URLCache& GtkPlatform::urlCache()
     return *responseCache_;
 }
 
+platform::FileManager& GtkPlatform::fileManager()
+{
+    return *files_;
+}
+
+platform::NSWorkspace& GtkPlatform::workspace()
+{
+    return *workspace_;
+}
+
 platform::NSScreen* GtkPlatform::mainScreen()
 {
     const auto keyWindow = application_->keyWindow();
@@ -144,6 +160,12 @@ std::shared_ptr<platform::MKLocalSearch> GtkPlatform::makeLocalSearch(
     const platform::MKLocalSearchRequest& request)
 {
     return std::make_shared<PlaceSearch>(request, *mainQueue_);
+}
+
+void GtkPlatform::runModal(
+    const platform::NSAlert& alert, std::function<void(int button)> completion)
+{
+    alerts_->run(alert, std::move(completion));
 }
 
 void GtkPlatform::log(const std::string& line)

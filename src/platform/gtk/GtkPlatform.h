@@ -7,7 +7,9 @@
 
 namespace gtk {
 
+class AlertPresenter;
 class Application;
+class Files;
 class GeocodingService;
 class LocationServices;
 class MainLoopQueue;
@@ -15,6 +17,7 @@ class ProgramBundle;
 class ResponseCache;
 class SettingsFile;
 class WebEngine;
+class Workspace;
 
 // The desktop on GTK and WebKitGTK. Making it is cheap: display and web engine are opened when the
 // application runs, and not at all in a start that only hands something to a program that runs
@@ -43,6 +46,8 @@ public:
     platform::Bundle& mainBundle() override;
     platform::NSApplication& application() override;
     platform::URLCache& urlCache() override;
+    platform::FileManager& fileManager() override;
+    platform::NSWorkspace& workspace() override;
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
     std::shared_ptr<platform::NSTextField> makeTextField() override;
@@ -52,6 +57,8 @@ public:
     std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
     std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
         const platform::MKLocalSearchRequest& request) override;
+    void runModal(
+        const platform::NSAlert& alert, std::function<void(int button)> completion) override;
     void log(const std::string& line) override;
 
     // What all web views share; made on first use.
@@ -73,6 +80,9 @@ private:
     std::unique_ptr<MainLoopQueue> mainQueue_;
     std::unique_ptr<SettingsFile> settings_;
     std::unique_ptr<ProgramBundle> bundle_;
+    std::unique_ptr<Files> files_;
+    std::unique_ptr<Workspace> workspace_;
+    std::unique_ptr<AlertPresenter> alerts_;
     std::optional<HostCertificate> certificate_;
     std::string expectedHost_;
     std::unique_ptr<WebEngine> webEngine_;

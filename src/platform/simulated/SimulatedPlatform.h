@@ -4,14 +4,17 @@
 #include "platform/simulated/corelocation/SimulatedLocationManager.h"
 #include "platform/simulated/mapkit/SimulatedLocalSearch.h"
 #include "platform/simulated/mapkit/SimulatedLocalSearchCompleter.h"
+#include "platform/simulated/SimulatedAlerts.h"
 #include "platform/simulated/SimulatedApplication.h"
 #include "platform/simulated/SimulatedBundle.h"
+#include "platform/simulated/SimulatedFileManager.h"
 #include "platform/simulated/SimulatedQueue.h"
 #include "platform/simulated/SimulatedScreen.h"
 #include "platform/simulated/SimulatedTextField.h"
 #include "platform/simulated/SimulatedURLCache.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedWebView.h"
+#include "platform/simulated/SimulatedWorkspace.h"
 
 #include <string>
 #include <vector>
@@ -30,6 +33,9 @@ public:
     SimulatedBundle& mainBundle() override { return bundle_; }
     SimulatedApplication& application() override { return application_; }
     SimulatedURLCache& urlCache() override { return urlCache_; }
+    SimulatedFileManager& fileManager() override { return fileManager_; }
+    SimulatedWorkspace& workspace() override { return workspace_; }
+    SimulatedAlerts& alerts() { return alerts_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
     std::shared_ptr<platform::NSTextField> makeTextField() override;
@@ -39,6 +45,11 @@ public:
     std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
     std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
         const platform::MKLocalSearchRequest& request) override;
+    void runModal(
+        const platform::NSAlert& alert, std::function<void(int button)> completion) override
+    {
+        alerts_.run(alert, std::move(completion));
+    }
     void log(const std::string& line) override { logLines.push_back(line); }
 
     // Plugs in one more screen; the first is the main one.
@@ -74,6 +85,9 @@ private:
     SimulatedQueue queue_;
     SimulatedUserDefaults userDefaults_;
     SimulatedURLCache urlCache_;
+    SimulatedFileManager fileManager_;
+    SimulatedWorkspace workspace_;
+    SimulatedAlerts alerts_;
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ui/ViewNodes.h"
 #include "platform/ui/State.h"
+#include "platform/ui/ViewNodes.h"
 
 // The catalogue of views: everything that a body can be built of. Options come first in the braces,
 // then the children.

@@ -88,3 +88,33 @@ TEST(URL, isAnOriginWithNothingAroundSchemeHostAndPort)
             "https://me@velmaro.example", "velmaro.example", "https://"})
         EXPECT_FALSE(URL::fromString(text)->isOrigin()) << text;
 }
+
+TEST(URL, namesFilesByTheirBytes)
+{
+    struct Case {
+        std::string path;
+        std::string text;
+        std::string name;
+        std::string extension;
+    };
+    const Case cases[] = {
+        {"/home/user/a b.csv", "file:///home/user/a%20b.csv", "a b.csv", "csv"},
+        {"/data/50%#?.CSV", "file:///data/50%25%23%3F.CSV", "50%#?.CSV", "CSV"},
+        {"/data/\xff\n.txt", "file:///data/%FF%0A.txt", "\xff\n.txt", "txt"},
+        {"/data/caf\u00e9.tar.gz", "file:///data/caf%C3%A9.tar.gz", "caf\u00e9.tar.gz", "gz"},
+        {"/data/.csv", "file:///data/.csv", ".csv", ""},
+        {"/data/name.", "file:///data/name.", "name.", ""},
+        {"/data/version 1.2 final", "file:///data/version%201.2%20final", "version 1.2 final", ""},
+        {"/", "file:///", "/", ""},
+    };
+    for (const auto& [path, text, name, extension] : cases) {
+        const auto url = URL::fileURL(path);
+        EXPECT_EQ(url.absoluteString(), text);
+        EXPECT_EQ(url.path(), path);
+        EXPECT_EQ(url.lastPathComponent(), name);
+        EXPECT_EQ(url.pathExtension(), extension) << path;
+        EXPECT_TRUE(url.isFileURL());
+    }
+    EXPECT_FALSE(URL::fromString("https://velmaro.example/a.csv")->isFileURL());
+    EXPECT_EQ(URL::fileURL("/data").appendingPathComponent("a/b?").path(), "/data/a/b?");
+}

@@ -1,0 +1,87 @@
+#include "platform/gtk/appkit/AlertPresenter.h"
+
+#include <algorithm>
+#include <glibmm/main.h>
+#include <gtkmm/application.h>
+#include <gtkmm/messagedialog.h>
+
+namespace gtk {
+
+namespace {
+
+constexpr auto cancelTitle = "Cancel";
+
+Gtk::MessageType messageType(platform::NSAlert::Style style)
+{
+    switch (style) {
+    case platform::NSAlert::Style::warning:
+        return Gtk::MessageType::WARNING;
+    case platform::NSAlert::Style::informational:
+        return Gtk::MessageType::INFO;
+    case platform::NSAlert::Style::critical:
+        return Gtk::MessageType::ERROR;
+    }
+    return Gtk::MessageType::INFO;
+}
+
+// The button that Escape presses.
+int cancelButton(const platform::NSAlert& alert)
+{
+    const auto found = std::ranges::find(alert.buttons, cancelTitle);
+    const auto last = std::prev(alert.buttons.end());
+    return static_cast<int>((found == alert.buttons.end() ? last : found) - alert.buttons.begin());
+}
+
+Gtk::Window* activeWindow()
+{
+    const auto application =
+        std::dynamic_pointer_cast<Gtk::Application>(Gio::Application::get_default());
+    return application ? application->get_active_window() : nullptr;
+}
+
+} // namespace
+
+AlertPresenter::AlertPresenter() = default;
+AlertPresenter::~AlertPresenter() = default;
+
+void AlertPresenter::run(platform::NSAlert alert, std::function<void(int button)> completion)
+{
+    if (alert.buttons.empty())
+        alert.buttons.push_back("OK");
+    waiting_.push_back({std::move(alert), std::move(completion)});
+    if (!dialog_)
+        showFirst();
+}
+
+void AlertPresenter::showFirst()
+{
+    const auto& alert = waiting_.front().alert;
+    dialog_ = std::make_shared<Gtk::MessageDialog>(
+        alert.messageText, false, messageType(alert.alertStyle), Gtk::ButtonsType::NONE, true);
+    if (!alert.informativeText.empty())
+        dialog_->set_secondary_text(alert.informativeText);
+    for (std::size_t number = 0; number < alert.buttons.size(); ++number)
+        dialog_->add_button(alert.buttons[number], static_cast<int>(number));
+    dialog_->set_default_response(platform::NSAlert::firstButton);
+    if (auto* window = activeWindow())
+        dialog_->set_transient_for(*window);
+    dialog_->signal_response().connect([this](int response) { answered(response); });
+    dialog_->present();
+}
+
+void AlertPresenter::answered(int response)
+{
+    auto [alert, completion] = std::move(waiting_.front());
+    waiting_.pop_front();
+    dialog_->hide();
+    // The toolkit still uses the dialog when it was closed with Escape.
+    Glib::signal_idle().connect_once([dialog = std::move(dialog_)] {});
+    dialog_ = nullptr;
+
+    if (!waiting_.empty())
+        showFirst();
+    if (completion)
+        completion(response >= 0 ? response : cancelButton(alert));
+}
+
+} // namespace gtk

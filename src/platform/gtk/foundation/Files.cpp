@@ -1,0 +1,76 @@
+#include "platform/gtk/foundation/Files.h"
+
+#include "platform/gtk/foundation/DurableFile.h"
+
+#include <cerrno>
+#include <glib/gstdio.h>
+#include <string_view>
+#include <sys/stat.h>
+
+namespace gtk {
+
+using platform::URL;
+
+namespace {
+
+// The system would take a name with a NUL for a shorter one.
+bool canBeNamed(const URL& file)
+{
+    return file.isFileURL() && file.path().find('\0') == std::string::npos;
+}
+
+std::string downloadsPath()
+{
+    if (const char* path = g_get_user_special_dir(G_USER_DIRECTORY_DOWNLOAD))
+        return path;
+    return std::string(g_get_home_dir()) + "/Downloads";
+}
+
+} // namespace
+
+std::optional<URL> Files::downloadsDirectory(bool create)
+{
+    const auto path = downloadsPath();
+    if (create && g_mkdir_with_parents(path.c_str(), 0755) != 0)
+        return std::nullopt;
+    return URL::fileURL(path);
+}
+
+URL Files::homeDirectory()
+{
+    return URL::fileURL(g_get_home_dir());
+}
+
+URL Files::temporaryDirectory()
+{
+    return URL::fileURL(g_get_tmp_dir());
+}
+
+bool Files::fileExists(const URL& file)
+{
+    struct stat status = {};
+    return canBeNamed(file) && ::lstat(file.path().c_str(), &status) == 0;
+}
+
+std::optional<std::string> Files::contents(const URL& file)
+{
+    struct stat status = {};
+    if (!canBeNamed(file) || ::stat(file.path().c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    auto contents = DurableFile::read(file.path());
+    if (!contents.exists || !contents.failure.empty())
+        return std::nullopt;
+    return std::move(contents.text);
+}
+
+std::optional<platform::NSError> Files::writeAtomically(const platform::Data& data, const URL& file)
+{
+    if (!canBeNamed(file))
+        return platform::NSError{g_strerror(EINVAL)};
+    const std::string_view text(reinterpret_cast<const char*>(data.data()), data.size());
+    if (auto failure = DurableFile::replace(file.path(), text))
+        return platform::NSError{std::move(*failure)};
+    return std::nullopt;
+}
+
+} // namespace gtk

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/foundation/FileManager.h"
+
+#include <map>
+
+namespace simulated {
+
+// Files in memory. There is a folder for downloads from the start, and none needs to be made.
+class SimulatedFileManager final : public platform::FileManager {
+public:
+    std::optional<platform::URL> downloadsDirectory(bool create) override;
+    platform::URL homeDirectory() override { return platform::URL::fileURL("/home/user"); }
+    platform::URL temporaryDirectory() override { return platform::URL::fileURL("/tmp"); }
+    bool fileExists(const platform::URL& file) override;
+    std::optional<std::string> contents(const platform::URL& file) override;
+    std::optional<platform::NSError> writeAtomically(
+        const platform::Data& data, const platform::URL& file) override;
+
+    bool hasDownloadsDirectory = true;
+    std::optional<platform::NSError> writeFailure; // of every write while it is there
+
+    std::map<std::string, std::string> files; // contents by absolute path
+};
+
+} // namespace simulated
