@@ -10,6 +10,9 @@
 
 namespace platform {
 
+class WKNavigationDelegate;
+class WKUIDelegate;
+
 // A view that shows web pages, one after the other, and keeps a list of them. Each has its own
 // content process, which may die without harm: see `docs/web-view.md` for what the view does then,
 // and when a load fails.
@@ -21,6 +24,9 @@ public:
 
     // A running observation; dropping it ends it.
     using Observation = std::shared_ptr<void>;
+
+    std::weak_ptr<WKNavigationDelegate> navigationDelegate;
+    std::weak_ptr<WKUIDelegate> uiDelegate;
 
     virtual void load(const URLRequest& request) = 0;
 
