@@ -19,6 +19,7 @@ class NSScreen;
 class NSTextField;
 class NSView;
 class NSWorkspace;
+class ProcessInfo;
 class URLCache;
 class UserDefaults;
 class WKWebView;
@@ -46,6 +47,7 @@ public:
     virtual NSApplication& application() = 0;
     virtual URLCache& urlCache() = 0;
     virtual FileManager& fileManager() = 0;
+    virtual ProcessInfo& processInfo() = 0;
     virtual NSWorkspace& workspace() = 0;
 
     // The screen that holds the key window, else the first one; null on a machine without a screen.

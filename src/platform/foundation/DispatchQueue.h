@@ -20,6 +20,11 @@ public:
 
     // Runs `task` no earlier than `seconds` from now. Main thread only.
     virtual void asyncAfter(double seconds, Task task) = 0;
+
+    // Runs `task` when nothing is left to do that the user waits for: the page in front has been
+    // loaded for the first time, or takes too long, and no event and no painting waits. Such tasks
+    // run in their order, a few at a time, between other events. Main thread only.
+    virtual void asyncWhenIdle(Task task) = 0;
 };
 
 } // namespace platform

@@ -3,6 +3,7 @@
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/DispatchQueue.h"
 #include "platform/foundation/FileManager.h"
+#include "platform/foundation/ProcessInfo.h"
 #include "platform/foundation/URLCache.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/Platform.h"
@@ -22,6 +23,11 @@ DispatchQueue& DispatchQueue::main()
 FileManager& FileManager::defaultManager()
 {
     return Platform::current().fileManager();
+}
+
+ProcessInfo& ProcessInfo::processInfo()
+{
+    return Platform::current().processInfo();
 }
 
 URLCache& URLCache::shared()

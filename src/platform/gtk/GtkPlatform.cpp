@@ -10,6 +10,7 @@
 #include "platform/gtk/corelocation/LocationQuestion.h"
 #include "platform/gtk/corelocation/LocationServices.h"
 #include "platform/gtk/foundation/Files.h"
+#include "platform/gtk/foundation/MachineInfo.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
 #include "platform/gtk/foundation/ProgramBundle.h"
 #include "platform/gtk/foundation/SettingsFile.h"
@@ -46,6 +47,7 @@ GtkPlatform::GtkPlatform(Options options)
           standardPaths().config / settingsName, *mainQueue_, platform::NSLog))
     , bundle_(std::make_unique<ProgramBundle>())
     , files_(std::make_unique<Files>())
+    , machineInfo_(std::make_unique<MachineInfo>())
     , workspace_(std::make_unique<Workspace>())
     , alerts_(std::make_unique<AlertPresenter>())
 {
@@ -76,7 +78,7 @@ std::optional<std::string> GtkPlatform::trust(HostCertificate certificate)
     return std::nullopt;
 }
 
-platform::DispatchQueue& GtkPlatform::mainQueue()
+MainLoopQueue& GtkPlatform::mainQueue()
 {
     return *mainQueue_;
 }
@@ -106,6 +108,11 @@ platform::URLCache& GtkPlatform::urlCache()
 platform::FileManager& GtkPlatform::fileManager()
 {
     return *files_;
+}
+
+platform::ProcessInfo& GtkPlatform::processInfo()
+{
+    return *machineInfo_;
 }
 
 platform::NSWorkspace& GtkPlatform::workspace()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/gtk/foundation/MainLoopQueue.h"
 #include "platform/gtk/webkit/HostCertificate.h"
 #include "platform/Platform.h"
 
@@ -12,7 +13,7 @@ class Application;
 class Files;
 class GeocodingService;
 class LocationServices;
-class MainLoopQueue;
+class MachineInfo;
 class ProgramBundle;
 class ResponseCache;
 class SettingsFile;
@@ -41,12 +42,13 @@ public:
     // starts. To be called before the application runs.
     void expectHost(std::string host) { expectedHost_ = std::move(host); }
 
-    platform::DispatchQueue& mainQueue() override;
+    MainLoopQueue& mainQueue() override;
     platform::UserDefaults& userDefaults() override;
     platform::Bundle& mainBundle() override;
     platform::NSApplication& application() override;
     platform::URLCache& urlCache() override;
     platform::FileManager& fileManager() override;
+    platform::ProcessInfo& processInfo() override;
     platform::NSWorkspace& workspace() override;
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
@@ -81,6 +83,7 @@ private:
     std::unique_ptr<SettingsFile> settings_;
     std::unique_ptr<ProgramBundle> bundle_;
     std::unique_ptr<Files> files_;
+    std::unique_ptr<MachineInfo> machineInfo_;
     std::unique_ptr<Workspace> workspace_;
     std::unique_ptr<AlertPresenter> alerts_;
     std::optional<HostCertificate> certificate_;

@@ -8,6 +8,7 @@
 #include "platform/simulated/SimulatedApplication.h"
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedFileManager.h"
+#include "platform/simulated/SimulatedProcessInfo.h"
 #include "platform/simulated/SimulatedQueue.h"
 #include "platform/simulated/SimulatedScreen.h"
 #include "platform/simulated/SimulatedTextField.h"
@@ -34,6 +35,7 @@ public:
     SimulatedApplication& application() override { return application_; }
     SimulatedURLCache& urlCache() override { return urlCache_; }
     SimulatedFileManager& fileManager() override { return fileManager_; }
+    SimulatedProcessInfo& processInfo() override { return processInfo_; }
     SimulatedWorkspace& workspace() override { return workspace_; }
     SimulatedAlerts& alerts() { return alerts_; }
     platform::NSScreen* mainScreen() override;
@@ -86,6 +88,7 @@ private:
     SimulatedUserDefaults userDefaults_;
     SimulatedURLCache urlCache_;
     SimulatedFileManager fileManager_;
+    SimulatedProcessInfo processInfo_;
     SimulatedWorkspace workspace_;
     SimulatedAlerts alerts_;
     SimulatedBundle bundle_;

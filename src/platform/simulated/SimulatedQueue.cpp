@@ -40,10 +40,12 @@ std::size_t SimulatedQueue::pendingCount() const
 
 void SimulatedQueue::drop()
 {
-    std::map<Time, Task>
-        dropped; // goes after the lock: what tasks hold may queue more on its way out
+    // Both go after the lock: what tasks hold may queue more on its way out.
+    std::map<Time, Task> dropped;
+    std::deque<Task> droppedIdle;
     const std::lock_guard lock(mutex_);
     dropped.swap(tasks_);
+    droppedIdle.swap(idleTasks_);
 }
 
 void SimulatedQueue::runUntil(double end)
@@ -60,6 +62,12 @@ void SimulatedQueue::runUntil(double end)
 SimulatedQueue::Task SimulatedQueue::takeDue(double end)
 {
     const std::lock_guard lock(mutex_);
+    const bool isIdle = tasks_.empty() || tasks_.begin()->first.first > now_;
+    if (isIdle && !idleTasks_.empty()) {
+        auto task = std::move(idleTasks_.front());
+        idleTasks_.pop_front();
+        return task;
+    }
     if (tasks_.empty() || tasks_.begin()->first.first > end)
         return {};
     const auto first = tasks_.extract(tasks_.begin());

@@ -27,6 +27,22 @@ TEST(SimulatedQueue, runsInTheOrderOfTimeThenOfQueueing)
     EXPECT_EQ(order, "abcd");
 }
 
+TEST(SimulatedQueue, isIdleWhileNothingIsDue)
+{
+    SimulatedQueue queue;
+    std::string order;
+    queue.asyncWhenIdle([&] {
+        order += 'c';
+        queue.async([&] { order += 'd'; });
+    });
+    queue.asyncWhenIdle([&] { order += 'e'; });
+    queue.async([&] { queue.async([&] { order += 'b'; }); });
+    queue.async([&] { order += 'a'; });
+    queue.asyncAfter(0.1, [&] { order += 'f'; });
+    queue.advance(1);
+    EXPECT_EQ(order, "abcdef");
+}
+
 TEST(SimulatedQueue, whatATaskQueuesRunsInTheSameGoWhenItIsDue)
 {
     SimulatedQueue queue;

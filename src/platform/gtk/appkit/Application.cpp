@@ -13,6 +13,10 @@
 
 namespace gtk {
 
+namespace {
+constexpr double longestStart = 10; // seconds until a page that is still loading holds up nothing
+}
+
 Application::Application(
     GtkPlatform& platform, const std::string& identifier, std::optional<std::string> address)
     : platform_(platform)
@@ -111,7 +115,12 @@ void Application::launchOnce()
     isLaunched_ = true;
     program_.hold(); // windows alone do not decide how long the program lives
     lostDisplay_ = std::make_unique<LostDisplay>([this] { finish(); });
-    platform_.webEngine().signalFrontPageChanged().connect([this] { openURLQueue_.update(); });
+    platform_.webEngine().signalFrontPageChanged().connect([this] {
+        openURLQueue_.update();
+        platform_.mainQueue().endStart();
+    });
+    platform_.mainQueue().asyncAfter(
+        longestStart, [&queue = platform_.mainQueue()] { queue.endStart(); });
 
     delegate_->applicationWillFinishLaunching(*this);
     makeWindow();
