@@ -17,12 +17,15 @@ namespace {
 
 using Tab = std::shared_ptr<WebModel>;
 
-// Every open tab keeps its page; only the active one is seen and clicked.
+// Every open tab keeps its page; only the active one is seen and clicked. A tab that has no page
+// yet and needs none has no layer.
 View layers(const TabbedAppModel& app, const Tab& active)
 {
     const auto tabId = [](const Tab& tab) { return tab->id.string(); };
     const auto layer = [&](const Tab& tab) {
         const bool isActive = tab == active;
+        if (!isActive && !tab->isLoadedAhead() && tab->webView.expired())
+            return View();
         return View(TabContent{.model = tab}).opacity(isActive ? 1 : 0).allowsHitTesting(isActive);
     };
     return ZStack{{}, ui::ForEach(app.tabs(), tabId, layer)};

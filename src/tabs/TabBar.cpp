@@ -1,7 +1,10 @@
 #include "tabs/TabBar.h"
 
+#include "platform/ui/Deferred.h"
 #include "platform/ui/Views.h"
 #include "tabs/TabBarItem.h"
+
+#include <cstdlib>
 
 namespace velmaro {
 
@@ -31,7 +34,7 @@ bool moveDroppedTab(TabbedAppModel& app, const std::vector<std::string>& texts, 
     return true;
 }
 
-View tabBarItem(const App& app, const Tab& tab, int index)
+View tabBarItemNow(const App& app, const Tab& tab, int index)
 {
     const bool isActive = index == app->activeIndex();
     return View(TabBarItem{
@@ -45,6 +48,17 @@ View tabBarItem(const App& app, const Tab& tab, int index)
         .dropDestination([app, target = tab->id](
                              const auto& texts) { return moveDroppedTab(*app, texts, target); })
         .scrolledToVisible(isActive);
+}
+
+// Of many tabs, those far from the active one are out of sight at first.
+View tabBarItem(const App& app, const Tab& tab, int index)
+{
+    constexpr int nearbyTabs = 12; // to either side; more do not fit on a large screen
+    return ui::Deferred{
+        .isWantedNow = std::abs(index - app->activeIndex()) <= nearbyTabs,
+        .placeholder = Fill(Color::clear).frame(TabBarItem::width),
+        .content = [app, tab, index] { return tabBarItemNow(app, tab, index); },
+    };
 }
 
 View newTabButton(const App& app)

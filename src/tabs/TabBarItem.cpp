@@ -44,6 +44,8 @@ Color background(bool isActive, bool isHovered)
 
 } // namespace
 
+const ui::FrameOptions TabBarItem::width{.minWidth = 150, .idealWidth = 200, .maxWidth = 250};
+
 View TabBarItem::body() const
 {
     const bool showsClose = canClose && (isHovered() || isActive);
@@ -59,7 +61,7 @@ View TabBarItem::body() const
                    : Fill(Color::clear).frame({.width = 14, .height = 14}),
     }
         .padding({.horizontal = 10, .vertical = 10})
-        .frame({.minWidth = 150, .idealWidth = 200, .maxWidth = 250})
+        .frame(width)
         .background(
             RoundedRectangle({.cornerRadius = 6, .fill = background(isActive, isHovered())}))
         .accessibility(

@@ -21,6 +21,8 @@ struct TabBarItem {
     std::function<void()> onClose = {};
     ui::State<bool> isHovered = false;
 
+    static const ui::FrameOptions width; // points
+
     auto state() { return std::tie(isHovered); }
     ui::View body() const;
 };

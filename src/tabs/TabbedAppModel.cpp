@@ -4,6 +4,7 @@
 #include "platform/foundation/UserDefaults.h"
 #include "platform/Platform.h"
 #include "tabs/RouteRestorer.h"
+#include "tabs/TabPreloader.h"
 
 #include <algorithm>
 
@@ -60,6 +61,8 @@ std::shared_ptr<TabbedAppModel> TabbedAppModel::make()
                 if (const auto model = weakModel.lock())
                     model->handleAppWillTerminate(notification);
             });
+    model->preloader_ = std::make_shared<TabPreloader>(model);
+    model->preloader_->start();
     return model;
 }
 

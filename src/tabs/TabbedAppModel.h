@@ -11,6 +11,8 @@
 
 namespace velmaro {
 
+class TabPreloader;
+
 // The window's open tabs and which of them is shown. Main thread only.
 class TabbedAppModel : public std::enable_shared_from_this<TabbedAppModel> {
 public:
@@ -56,6 +58,7 @@ private:
     int count() const { return static_cast<int>(tabs().size()); }
 
     platform::NotificationCenter::Observer terminationObserver_;
+    std::shared_ptr<TabPreloader> preloader_;
 };
 
 } // namespace velmaro

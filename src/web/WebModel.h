@@ -51,6 +51,9 @@ public:
 
     const std::optional<std::string> initialRoute;
 
+    // Whether the page is to be loaded although nobody has looked at the tab yet.
+    ui::Published<bool> isLoadedAhead = false;
+
     // Set by the web view's host.
     std::weak_ptr<platform::WKWebView> webView;
 

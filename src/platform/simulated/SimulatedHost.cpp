@@ -10,6 +10,14 @@ SimulatedHost::SimulatedHost(SimulatedRenderer& renderer, ui::HostedView& hosted
     : SimulatedWidget(renderer)
     , hosted_(hosted)
 {
+    if (!hosted_.waitsForFirstFrame()) {
+        make();
+        return;
+    }
+    renderer.whenFirstFrameIsShown([this, lifetime = lifetime()] {
+        if (!lifetime.expired())
+            make();
+    });
 }
 
 SimulatedHost::~SimulatedHost()
@@ -18,21 +26,8 @@ SimulatedHost::~SimulatedHost()
         place->setHost(nullptr);
 }
 
-void SimulatedHost::setShown(bool isShown)
-{
-    isShown_ = isShown;
-    if (!hosted_.waitsForFirstFrame())
-        return make();
-    renderer().whenFirstFrameIsShown([this, lifetime = lifetime()] {
-        if (!lifetime.expired())
-            make();
-    });
-}
-
 void SimulatedHost::make()
 {
-    if (!isShown_ || hosted_.isMade())
-        return;
     auto* place = dynamic_cast<SimulatedPlace*>(hosted_.view().get());
     if (!place)
         return fail("a hosted view is none of this platform's");

@@ -5,14 +5,13 @@
 
 namespace simulated {
 
-// The place of a native view. It makes the view when it is first shown, a costly one not before the
-// window's first frame.
+// The place of a native view, a costly one of which is not made before the window's first frame.
 class SimulatedHost final : public SimulatedWidget {
 public:
     SimulatedHost(SimulatedRenderer& renderer, ui::HostedView& hosted);
     ~SimulatedHost() override;
 
-    void setShown(bool isShown) override;
+    void setShown(bool isShown) override { isShown_ = isShown; }
 
     bool isShown() const { return isShown_; }
 
@@ -26,7 +25,7 @@ private:
     void make();
 
     ui::HostedView& hosted_;
-    bool isShown_ = false;
+    bool isShown_ = true;
 };
 
 } // namespace simulated

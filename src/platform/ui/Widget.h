@@ -38,8 +38,8 @@ public:
     // Never null.
     virtual std::unique_ptr<Widget> makeWidget(const Node& node) = 0;
 
-    // The place of a native view. The backend calls `view()` when it is first to be seen. `hosted`
-    // outlives the widget.
+    // The place of a native view, which the backend makes with `view()`: at once, or after the
+    // window's first frame when the view asks for that. `hosted` outlives the widget.
     virtual std::unique_ptr<Widget> makeHost(HostedView& hosted) = 0;
 };
 

@@ -84,6 +84,9 @@ TEST(Launching, bringsTheTabsBackAndLoadsOnlyTheOneThatIsSeen)
 TEST(Launching, showsAndTouchesOnlyTheActiveTab)
 {
     Launch launch(threeTabs(0));
+    for (const auto& tab : launch.tabs()->tabs())
+        tab->isLoadedAhead = true;
+    launch.settle();
     const auto layers = [&] {
         std::string text;
         for (const auto* group : launch.application().window().content().findAll<ui::GroupNode>()) {

@@ -71,16 +71,11 @@ struct HostedViews : Stage, testing::Test {
 
 } // namespace
 
-TEST_F(HostedViews, areMadeWhenFirstShownAndKeptWhenHidden)
+TEST_F(HostedViews, areMadeWithTheirPlaceAndKeptWhenHidden)
 {
     const auto hosted = [this](double outer, double inner) {
         return HStack{{}, View(Host{log}).opacity(inner)}.opacity(outer);
     };
-    change(hosted(0, 1));
-    change(hosted(1, 0));
-    change(hosted(0, 0));
-    EXPECT_EQ(log->made + log->updated, 0);
-
     change(hosted(1, 1));
     EXPECT_EQ(log->made, 1);
     change(hosted(0, 1));
@@ -91,13 +86,11 @@ TEST_F(HostedViews, areMadeWhenFirstShownAndKeptWhenHidden)
     EXPECT_EQ(log->gone, "");
 }
 
-TEST_F(HostedViews, comingLateIntoSomethingInvisibleAreNotMade)
+TEST_F(HostedViews, comingLateIntoSomethingInvisibleAreHidden)
 {
     change(HStack{{}, Text("a")}.opacity(0));
     change(HStack{{}, Text("a"), Host{log}}.opacity(0));
-    EXPECT_EQ(log->made, 0);
-    change(HStack{{}, Text("a"), Host{log}}.opacity(1));
-    EXPECT_EQ(log->made, 1);
+    EXPECT_NE(window.content().describe().find("hosted hidden"), std::string::npos);
 }
 
 TEST_F(HostedViews, areUpdatedAtEveryRedrawOnceMade)
@@ -145,7 +138,6 @@ TEST_F(HostedViews, stayMountedWhenTheirSiblingsComeGoAndMove)
         EXPECT_EQ(log->view.lock()->window(), &window);
     }
     EXPECT_EQ(log->made, 1);
-    EXPECT_EQ(otherLog->made, 0);
 }
 
 TEST_F(HostedViews, leaveOnlyAfterTheTransitionAroundThem)

@@ -25,9 +25,16 @@ HostWidget::Area::Area()
 
 HostWidget::HostWidget(ui::HostedView& hosted, FirstFrame& firstFrame)
     : hosted_(hosted)
-    , firstFrame_(firstFrame)
     , isAlive_(std::make_shared<bool>(true))
 {
+    if (!hosted_.waitsForFirstFrame()) {
+        make();
+        return;
+    }
+    firstFrame.whenPainted([this, isAlive = std::weak_ptr(isAlive_)] {
+        if (isAlive.lock())
+            make();
+    });
 }
 
 HostWidget::~HostWidget()
@@ -41,28 +48,16 @@ HostWidget::~HostWidget()
 void HostWidget::setShown(bool isShown)
 {
     isShown_ = isShown;
-    if (view_) {
+    if (view_)
         nativeView(*view_).setShown(isShown);
-    } else if (isShown) {
-        const auto make = [this, isAlive = std::weak_ptr(isAlive_)] {
-            if (isAlive.lock())
-                makeIfShown();
-        };
-        if (hosted_.waitsForFirstFrame())
-            firstFrame_.whenPainted(make);
-        else
-            make();
-    }
 }
 
-void HostWidget::makeIfShown()
+void HostWidget::make()
 {
-    if (view_ || !isShown_)
-        return;
     view_ = hosted_.view();
     auto& native = nativeView(*view_);
     native.nativeWidget().insert_at_start(area_);
-    native.setShown(true);
+    native.setShown(isShown_);
 }
 
 } // namespace gtk

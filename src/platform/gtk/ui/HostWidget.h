@@ -25,13 +25,12 @@ private:
         Area();
     };
 
-    void makeIfShown();
+    void make();
 
     ui::HostedView& hosted_;
-    FirstFrame& firstFrame_;
     Area area_;
     std::shared_ptr<platform::NSView> view_;
-    bool isShown_ = false;
+    bool isShown_ = true;
     std::shared_ptr<bool> isAlive_; // told to a task that waits for the first frame
 };
 

@@ -1,0 +1,88 @@
+#include "tabs/TabPreloader.h"
+#include "app/VelmaroOnlineApp.h"
+#include "platform/simulated/SimulatedPlatform.h"
+#include "tabs/TabbedAppModel.h"
+
+#include <gtest/gtest.h>
+
+using velmaro::TabbedAppModel;
+using velmaro::TabPreloader;
+using Strings = std::vector<std::string>;
+
+namespace {
+
+struct TabPreloading : testing::Test {
+    void launch(int active)
+    {
+        platform.addScreen({{0, 25}, {1440, 875}});
+        platform.userDefaults().plant({
+            {"vl.open.routes", Strings{"a", "b", "c", "d", "e", "f"}},
+            {"vl.open.routes.active", std::int64_t(active)},
+        });
+        platform.application().launch(app.appDelegate, scene);
+    }
+
+    // The routes of the pages asked for so far, in their order.
+    std::string loaded() const
+    {
+        std::string routes;
+        for (const auto& webView : platform.webViews())
+            routes += webView.lock()->loads.at(0).url.absoluteString().back();
+        return routes;
+    }
+
+    // The page asked for last comes; then nothing happens for a while.
+    void finishLoad()
+    {
+        const auto webView = platform.webViews().back().lock();
+        webView->simulateLoading(true, 0.1);
+        webView->simulateTitle("A page");
+        platform.mainQueue().advance(10 * TabPreloader::pause);
+        webView->simulateLoading(false, 1);
+        platform.mainQueue().advance(2 * TabPreloader::pause);
+    }
+
+    velmaro::VelmaroOnlineApp app;
+    ui::Scene scene = app.body();
+    simulated::SimulatedPlatform platform;
+};
+
+} // namespace
+
+TEST_F(TabPreloading, goesOutwardsFromTheActiveTabOnePageAfterTheOtherUpToFour)
+{
+    launch(2);
+    EXPECT_EQ(loaded(), "c");
+    platform.mainQueue().advance(100 * TabPreloader::pause);
+    EXPECT_EQ(loaded(), "cd");
+    finishLoad();
+    EXPECT_EQ(loaded(), "cdb");
+    finishLoad();
+    EXPECT_EQ(loaded(), "cdbe");
+    finishLoad();
+    EXPECT_EQ(loaded(), "cdbe");
+
+    TabbedAppModel::shared()->activeIndex = 3;
+    platform.mainQueue().runUntilIdle();
+    EXPECT_EQ(loaded(), "cdbe");
+    EXPECT_EQ(platform.webViews().at(1).lock()->loads.size(), 1u);
+}
+
+TEST_F(TabPreloading, countsWhatTheUserHasOpened)
+{
+    launch(0);
+    for (const int index : {5, 4, 3}) {
+        TabbedAppModel::shared()->activeIndex = index;
+        platform.mainQueue().runUntilIdle();
+    }
+    platform.mainQueue().advance(2 * TabPreloader::pause);
+    EXPECT_EQ(loaded(), "afed");
+}
+
+TEST_F(TabPreloading, leavesMemoryToOthersWhenItIsShort)
+{
+    platform.processInfo().memory = TabPreloader::spareMemory - 1;
+    launch(0);
+    platform.mainQueue().advance(100 * TabPreloader::pause);
+    EXPECT_EQ(loaded(), "a");
+}
