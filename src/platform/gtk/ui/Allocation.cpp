@@ -1,5 +1,7 @@
 #include "platform/gtk/ui/Allocation.h"
 
+#include "platform/gtk/ui/Presence.h"
+
 #include <algorithm>
 
 namespace gtk {
@@ -73,8 +75,9 @@ void allocateAligned(Gtk::Widget& child, const Gtk::Allocation& area, ui::Alignm
     const int height = extent(child, Gtk::Orientation::VERTICAL, width, area.get_height());
     const double x = horizontalPlace(alignment) * (area.get_width() - width);
     const double y = verticalPlace(alignment) * (area.get_height() - height);
-    child.size_allocate(
-        {area.get_x() + static_cast<int>(x), area.get_y() + static_cast<int>(y), width, height},
+    const auto offset = presenceOffset(child, width, height);
+    child.size_allocate({area.get_x() + static_cast<int>(x) + offset.x,
+                            area.get_y() + static_cast<int>(y) + offset.y, width, height},
         -1);
 }
 

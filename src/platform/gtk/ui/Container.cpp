@@ -1,7 +1,7 @@
 #include "platform/gtk/ui/Container.h"
 
 #include "platform/gtk/ui/Departure.h"
-#include "platform/gtk/ui/Fade.h"
+#include "platform/gtk/ui/Presence.h"
 
 #include <algorithm>
 
@@ -72,8 +72,8 @@ void Container::place(ui::Widget& child, std::size_t index)
     children_.insert(children_.begin() + static_cast<std::ptrdiff_t>(index), &widget);
 
     const auto transition = transitionOf(child);
-    if (isNew && transition.fades && isAnimated(area_))
-        fade(widget, 0, widget.get_opacity(), transition.duration);
+    if (isNew && transition != ui::Transition() && isAnimated(area_))
+        animatePresence(widget, transition, 0, 1);
 }
 
 void Container::remove(ui::Widget& child, std::shared_ptr<void> owner)
@@ -82,13 +82,13 @@ void Container::remove(ui::Widget& child, std::shared_ptr<void> owner)
     std::erase(children_, &widget);
 
     const auto transition = transitionOf(child);
-    if (!transition.fades || !isAnimated(area_)) {
+    if (transition == ui::Transition() || !isAnimated(area_)) {
         widget.unparent();
         return;
     }
     auto departure = std::make_shared<Departure>(widget, std::move(owner));
     departures_.push_back(departure);
-    departure->begin(transition.duration, [this](const Departure& departed) {
+    departure->begin(transition, [this](const Departure& departed) {
         std::erase_if(
             departures_, [&](const auto& departure) { return departure.get() == &departed; });
     });

@@ -6,8 +6,10 @@
 #include "platform/gtk/ui/ScrollAreaWidget.h"
 #include "platform/ui/ViewNodes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtkmm/binlayout.h>
+#include <utility>
 
 namespace gtk {
 
@@ -27,6 +29,20 @@ void setExpand(Gtk::Widget& widget, const ui::FrameOptions& options)
         widget.set_vexpand(!options.height && isUnlimited(options.maxHeight));
     else
         widget.set_vexpand_set(false);
+}
+
+// To be called before anybody has asked for the role.
+void setAccessibleRole(Gtk::Widget& widget, ui::Accessibility::Role role)
+{
+    constexpr std::pair<ui::Accessibility::Role, GtkAccessibleRole> roles[] = {
+        {ui::Accessibility::Role::automatic, GTK_ACCESSIBLE_ROLE_GROUP},
+        {ui::Accessibility::Role::tabList, GTK_ACCESSIBLE_ROLE_TAB_LIST},
+        {ui::Accessibility::Role::tab, GTK_ACCESSIBLE_ROLE_TAB},
+        {ui::Accessibility::Role::toolbar, GTK_ACCESSIBLE_ROLE_TOOLBAR},
+    };
+    const auto found =
+        std::ranges::find_if(roles, [&](const auto& entry) { return entry.first == role; });
+    g_object_set(widget.gobj(), "accessible-role", found->second, nullptr);
 }
 
 } // namespace
@@ -56,6 +72,8 @@ void GroupWidget::apply(const ui::Node& node)
 void GroupWidget::applyAccessibility(const ui::GroupNode& group)
 {
     auto* accessible = GTK_ACCESSIBLE(native().gobj());
+    if (!std::exchange(hasRole_, true))
+        setAccessibleRole(native(), group.accessibility.role);
     const auto& label = group.accessibility.label.empty() ? group.help : group.accessibility.label;
     if (!label.empty())
         setAccessibleName(native(), label);

@@ -21,6 +21,7 @@ private:
     void applyAccessibility(const ui::GroupNode& group);
 
     Interaction interaction_;
+    bool hasRole_ = false;
     bool isScrolledToVisible_ = false;
 };
 

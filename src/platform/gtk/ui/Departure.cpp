@@ -1,6 +1,6 @@
 #include "platform/gtk/ui/Departure.h"
 
-#include "platform/gtk/ui/Fade.h"
+#include "platform/gtk/ui/Presence.h"
 
 #include <glibmm/main.h>
 
@@ -18,9 +18,10 @@ Departure::~Departure()
     widget_.unparent();
 }
 
-void Departure::begin(double duration, std::function<void(const Departure&)> completion)
+void Departure::begin(
+    const ui::Transition& transition, std::function<void(const Departure&)> completion)
 {
-    fade(widget_, widget_.get_opacity(), 0, duration,
+    animatePresence(widget_, transition, 1, 0,
         [weakSelf = weak_from_this(), completion = std::move(completion)] {
             // The widget cannot go inside its own tick.
             Glib::signal_idle().connect_once([weakSelf, completion] {

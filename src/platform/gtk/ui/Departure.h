@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/ui/Transition.h"
+
 #include <functional>
 #include <gtkmm/widget.h>
 #include <memory>
 
 namespace gtk {
 
-// A child that has been removed and is seen for a moment longer, while it fades.
+// A child that has been removed and is seen for a moment longer, while it fades or moves away.
 class Departure : public std::enable_shared_from_this<Departure> {
 public:
     // `owner` keeps `widget` and everything in it alive.
@@ -15,8 +17,8 @@ public:
     // Takes the widget out of its parent.
     ~Departure();
 
-    // Fades in `duration` seconds; `completion` then drops the departure.
-    void begin(double duration, std::function<void(const Departure&)> completion);
+    // Goes as the transition says; `completion` then drops the departure.
+    void begin(const ui::Transition& transition, std::function<void(const Departure&)> completion);
 
 private:
     Gtk::Widget& widget_;

@@ -6,6 +6,7 @@
 #include <glibmm/value.h>
 #include <gtkmm/dragsource.h>
 #include <gtkmm/droptarget.h>
+#include <gtkmm/eventcontrollerkey.h>
 #include <gtkmm/eventcontrollermotion.h>
 #include <gtkmm/gestureclick.h>
 #include <gtkmm/widgetpaintable.h>
@@ -52,6 +53,24 @@ void Interaction::addTap()
             tap();
     });
     widget_.add_controller(click);
+
+    // What can be clicked can be reached and pressed with the keyboard too.
+    widget_.set_focusable();
+    widget_.add_css_class("velmaro-pressable");
+    const auto keys = Gtk::EventControllerKey::create();
+    keys->signal_key_pressed().connect(
+        [this](guint key, guint, Gdk::ModifierType) {
+            const bool presses = key == GDK_KEY_space || key == GDK_KEY_Return
+                || key == GDK_KEY_KP_Enter || key == GDK_KEY_ISO_Enter;
+            if (!presses || !widget_.is_focus())
+                return false;
+            const auto tap = onTap_;
+            if (tap)
+                tap();
+            return true;
+        },
+        false);
+    widget_.add_controller(keys);
 }
 
 void Interaction::addDragSource()
