@@ -1,6 +1,7 @@
 #include "platform/gtk/GtkPlatform.h"
 
 #include "platform/gtk/appkit/AlertPresenter.h"
+#include "platform/gtk/appkit/Appearance.h"
 #include "platform/gtk/appkit/Application.h"
 #include "platform/gtk/appkit/PlainView.h"
 #include "platform/gtk/appkit/RendererPolicy.h"
@@ -31,6 +32,7 @@ namespace {
 constexpr auto programName = "velmaro-online";
 constexpr auto settingsName = "settings.json";
 constexpr auto permissionsName = "permissions.json"; // what the user lets this program do
+constexpr auto appearanceName = "appearance.json";
 constexpr auto responsesName = "responses";
 
 StandardPaths standardPaths()
@@ -199,6 +201,12 @@ std::optional<std::string> GtkPlatform::prepare()
         return "web pages cannot be shown without their sandbox: " + *missing;
     engine.startContentProcess();
     return std::nullopt;
+}
+
+void GtkPlatform::followAppearance()
+{
+    appearance_ = std::make_unique<Appearance>(standardPaths().cache / appearanceName, *mainQueue_);
+    appearance_->follow();
 }
 
 void GtkPlatform::saveSettings()

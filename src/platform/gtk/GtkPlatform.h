@@ -9,6 +9,7 @@
 namespace gtk {
 
 class AlertPresenter;
+class Appearance;
 class Application;
 class Files;
 class GeocodingService;
@@ -70,6 +71,10 @@ public:
     // run; absent when it can.
     std::optional<std::string> prepare();
 
+    // Looks as the desktop is told to, from now on. Once there is a display, before the first
+    // window is made.
+    void followAppearance();
+
     // Returns when the settings are on the disk, or could not be put there.
     void saveSettings();
 
@@ -86,6 +91,7 @@ private:
     std::unique_ptr<MachineInfo> machineInfo_;
     std::unique_ptr<Workspace> workspace_;
     std::unique_ptr<AlertPresenter> alerts_;
+    std::unique_ptr<Appearance> appearance_;
     std::optional<HostCertificate> certificate_;
     std::string expectedHost_;
     std::unique_ptr<WebEngine> webEngine_;

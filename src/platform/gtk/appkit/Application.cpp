@@ -122,6 +122,7 @@ void Application::launchOnce()
     platform_.mainQueue().asyncAfter(
         longestStart, [&queue = platform_.mainQueue()] { queue.endStart(); });
 
+    platform_.followAppearance();
     delegate_->applicationWillFinishLaunching(*this);
     makeWindow();
     delegate_->applicationDidFinishLaunching(*this);

@@ -1,0 +1,74 @@
+// The looks that the desktop asks for.
+
+#include "harness/AppProcess.h"
+#include "harness/Eventually.h"
+#include "harness/FakeSettingsPortal.h"
+
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+constexpr unsigned noPreference = 0;
+constexpr unsigned dark = 1;
+constexpr unsigned highContrast = 1;
+
+// How light the tab strip's ground is, 0 to 255; absent while there is no window to see.
+std::optional<int> stripLightness(const DesktopWindow& window)
+{
+    const auto picture = window.picture();
+    if (!picture)
+        return std::nullopt;
+    constexpr int inset = 4; // left of the first tab
+    constexpr int stripMiddle = 70;
+    const auto pixel = picture->pixels[static_cast<std::size_t>(
+        picture->width * std::min(stripMiddle, picture->height - 1) + inset)];
+    return static_cast<int>((pixel & 0xff) + (pixel >> 8 & 0xff) + (pixel >> 16 & 0xff)) / 3;
+}
+
+bool comesToLookDark(const DesktopWindow& window, bool isDark)
+{
+    return eventually([&] {
+        const auto lightness = stripLightness(window);
+        return lightness && (*lightness < 128) == isDark;
+    });
+}
+
+} // namespace
+
+TEST(Appearance, followsTheDesktopWhileItRuns)
+{
+    DemoServiceProcess service;
+    FakeSettingsPortal portal({{"color-scheme", dark}, {"contrast", noPreference}});
+    AppProcess app(service);
+    const auto window = app.waitForWindow();
+    ASSERT_TRUE(window);
+    EXPECT_TRUE(comesToLookDark(*window, true));
+    portal.change("color-scheme", noPreference);
+    EXPECT_TRUE(comesToLookDark(*window, false));
+
+    const auto usual = stripLightness(*window);
+    portal.change("contrast", highContrast);
+    EXPECT_TRUE(eventually([&] { return stripLightness(*window) != usual; }));
+}
+
+TEST(Appearance, isKnownBeforeTheDesktopAnswersAtTheNextStart)
+{
+    DemoServiceProcess service;
+    {
+        FakeSettingsPortal portal({{"color-scheme", dark}});
+        AppProcess app(service);
+        const auto window = app.waitForWindow();
+        ASSERT_TRUE(window);
+        ASSERT_TRUE(comesToLookDark(*window, true));
+        window->close();
+        EXPECT_TRUE(app.process().waitForExit());
+    }
+    AppProcess app(service); // with no portal at all
+    const auto window = app.waitForWindow();
+    ASSERT_TRUE(window);
+    EXPECT_TRUE(comesToLookDark(*window, true));
+}
+
+} // namespace desktop
