@@ -4,6 +4,7 @@
 #include "platform/ui/Views.h"
 #include "tabs/TabBarItem.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace velmaro {
@@ -34,30 +35,58 @@ bool moveDroppedTab(TabbedAppModel& app, const std::vector<std::string>& texts, 
     return true;
 }
 
-View tabBarItemNow(const App& app, const Tab& tab, int index)
-{
-    const bool isActive = index == app->activeIndex();
-    return View(TabBarItem{
-                    .tab = tab,
-                    .isActive = isActive,
-                    .canClose = app->tabs().size() >= 2,
-                    .onSelect = [app, index] { app->activeIndex = index; },
-                    .onClose = [app, index] { app->closeTab(index); },
-                })
-        .draggable(tab->id.string())
-        .dropDestination([app, target = tab->id](
-                             const auto& texts) { return moveDroppedTab(*app, texts, target); })
-        .scrolledToVisible(isActive);
-}
+// One tab's place in the strip. Places are compared, so that a change costs only the tabs that it
+// concerns.
+struct TabBarPlace {
+    App app;
+    Tab tab;
+    bool isActive = false;
+    bool canClose = false;
+    bool isNearby = true; // to the active tab
 
-// Of many tabs, those far from the active one are out of sight at first.
-View tabBarItem(const App& app, const Tab& tab, int index)
+    bool operator==(const TabBarPlace&) const = default;
+
+    // Of many tabs, those far from the active one are out of sight at first.
+    View body() const
+    {
+        return ui::Deferred{
+            .isWantedNow = isNearby,
+            .placeholder = Fill(Color::clear).frame(TabBarItem::width),
+            .content = [place = *this] { return place.item(); },
+        };
+    }
+
+    // Of the tab now, which is no part of the description: a tab that moves is described as before.
+    int index() const
+    {
+        return static_cast<int>(std::ranges::find(app->tabs(), tab) - app->tabs().begin());
+    }
+
+    View item() const
+    {
+        return View(TabBarItem{
+                        .tab = tab,
+                        .isActive = isActive,
+                        .canClose = canClose,
+                        .onSelect = [place = *this] { place.app->activeIndex = place.index(); },
+                        .onClose = [place = *this] { place.app->closeTab(place.index()); },
+                    })
+            .draggable(tab->id.string())
+            .dropDestination([app = app, target = tab->id](
+                                 const auto& texts) { return moveDroppedTab(*app, texts, target); })
+            .scrolledToVisible(isActive);
+    }
+};
+
+TabBarPlace tabBarPlace(const App& app, const Tab& tab, int index)
 {
     constexpr int nearbyTabs = 12; // to either side; more do not fit on a large screen
-    return ui::Deferred{
-        .isWantedNow = std::abs(index - app->activeIndex()) <= nearbyTabs,
-        .placeholder = Fill(Color::clear).frame(TabBarItem::width),
-        .content = [app, tab, index] { return tabBarItemNow(app, tab, index); },
+    return {
+        .app = app,
+        .tab = tab,
+        .isActive = index == app->activeIndex(),
+        .canClose = app->tabs().size() >= 2,
+        .isNearby = std::abs(index - app->activeIndex()) <= nearbyTabs,
     };
 }
 
@@ -76,13 +105,13 @@ View newTabButton(const App& app)
 View TabBar::body() const
 {
     const auto tabId = [](const Tab& tab) { return tab->id.string(); };
-    const auto item = [this, index = 0](
-                          const Tab& tab) mutable { return tabBarItem(app, tab, index++); };
+    const auto place = [this, index = 0](
+                           const Tab& tab) mutable { return tabBarPlace(app, tab, index++); };
 
     return ScrollArea({.axis = ui::Axis::horizontal, .showsIndicators = false},
         HStack{
             {.spacing = 4},
-            ui::ForEach(app->tabs(), tabId, item),
+            ui::ForEach(app->tabs(), tabId, place),
             newTabButton(app),
         }
             .padding({.horizontal = 10, .vertical = 6})

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cassert>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace ui {
@@ -31,6 +32,37 @@ void flatten(const std::vector<View>& views, const std::vector<std::string>* key
         else
             result.emplace_back(node, keys ? (*keys)[i] : std::string());
     }
+}
+
+// The most widgets that stand in both rows in the same order, so that as few as possible have to be
+// moved from the one to the other: a longest increasing sequence of places.
+std::unordered_set<Widget*> longestCommonOrder(
+    const std::vector<Widget*>& present, const std::vector<Widget*>& wanted)
+{
+    std::unordered_map<Widget*, std::size_t> places;
+    for (std::size_t place = 0; place < present.size(); ++place)
+        places.emplace(present[place], place);
+
+    constexpr auto none = static_cast<std::size_t>(-1);
+    std::vector<std::size_t> previous(wanted.size(), none);
+    std::vector<std::size_t> ends; // at n, the sequence of n + 1 widgets that ends earliest
+    const auto placeOf = [&](std::size_t index) { return places.at(wanted[index]); };
+    for (std::size_t index = 0; index < wanted.size(); ++index) {
+        if (!places.contains(wanted[index]))
+            continue;
+        const auto end = std::ranges::lower_bound(ends, placeOf(index), {}, placeOf);
+        if (end != ends.begin())
+            previous[index] = *std::prev(end);
+        if (end == ends.end())
+            ends.push_back(index);
+        else
+            *end = index;
+    }
+
+    std::unordered_set<Widget*> order;
+    for (auto index = ends.empty() ? none : ends.back(); index != none; index = previous[index])
+        order.insert(wanted[index]);
+    return order;
 }
 
 } // namespace
@@ -176,16 +208,27 @@ std::vector<std::shared_ptr<Slot>> Slot::matchChildren(const std::vector<Child>&
 
 void Slot::arrange()
 {
-    for (std::size_t index = 0; const auto& child : children_) {
-        auto* widget = child->topWidget();
-        if (!widget)
+    std::vector<Widget*> wanted;
+    wanted.reserve(children_.size());
+    for (const auto& child : children_) {
+        if (auto* widget = child->topWidget())
+            wanted.push_back(widget);
+    }
+    if (wanted == placed_)
+        return;
+
+    const auto staying = longestCommonOrder(placed_, wanted);
+    for (std::size_t index = 0; index < wanted.size(); ++index) {
+        auto* widget = wanted[index];
+        if (staying.contains(widget))
             continue;
-        if (index == placed_.size() || placed_[index] != widget) {
-            widget_->place(*widget, index);
-            std::erase(placed_, widget);
-            placed_.insert(placed_.begin() + static_cast<std::ptrdiff_t>(index), widget);
-        }
-        ++index;
+        std::erase(placed_, widget);
+        // Behind what stands before it in the end, among all that are placed by now.
+        const auto before =
+            index == 0 ? placed_.begin() : std::ranges::find(placed_, wanted[index - 1]) + 1;
+        const auto place = before - placed_.begin();
+        widget_->place(*widget, static_cast<std::size_t>(place));
+        placed_.insert(before, widget);
     }
 }
 

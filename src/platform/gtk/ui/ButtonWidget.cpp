@@ -66,9 +66,11 @@ void ButtonWidget::apply(const ui::Node& node)
     setClass(button_, "velmaro-plain", options.style == plain);
     setClass(button_, "suggested-action", options.style == borderedProminent || options.isTinted);
     button_.set_sensitive(options.isEnabled);
-    button_.set_tooltip_text(options.help);
-    if (!options.help.empty())
-        setAccessibleName(button_, options.help);
+    if (help_ != options.help) {
+        help_ = options.help;
+        button_.set_tooltip_text(help_);
+        setAccessibleName(button_, help_);
+    }
     setShortcut(options.shortcut);
 }
 

@@ -6,6 +6,7 @@
 #include <gtkmm/button.h>
 #include <gtkmm/shortcutcontroller.h>
 #include <optional>
+#include <string>
 
 namespace ui {
 enum class KeyboardShortcut;
@@ -26,6 +27,7 @@ private:
 
     Gtk::Button button_;
     std::function<void()> action_;
+    std::string help_;
     std::optional<ui::KeyboardShortcut> shortcut_;
     Glib::RefPtr<Gtk::ShortcutController> shortcuts_;
 };

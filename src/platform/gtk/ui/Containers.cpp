@@ -57,33 +57,42 @@ void GroupWidget::apply(const ui::Node& node)
 {
     const auto& group = static_cast<const ui::GroupNode&>(node);
     setTransition(group.transition);
-    native().set_opacity(group.opacity);
-    native().set_can_target(group.allowsHitTesting);
-    native().set_can_focus(group.allowsHitTesting);
-    native().set_tooltip_text(group.help);
     interaction_.apply(group);
-    applyAccessibility(group);
+    const Look look{group.opacity, group.allowsHitTesting, group.help, group.accessibility};
+    if (look_ != look)
+        apply(look);
 
     if (group.isScrolledToVisible && !isScrolledToVisible_)
         scrollToVisible(native());
     isScrolledToVisible_ = group.isScrolledToVisible;
 }
 
-void GroupWidget::applyAccessibility(const ui::GroupNode& group)
+void GroupWidget::apply(const Look& look)
+{
+    native().set_opacity(look.opacity);
+    native().set_can_target(look.allowsHitTesting);
+    native().set_can_focus(look.allowsHitTesting);
+    if (look.help != (look_ ? look_->help : std::string()))
+        native().set_tooltip_text(look.help);
+    applyAccessibility(look);
+    look_ = look;
+}
+
+void GroupWidget::applyAccessibility(const Look& look)
 {
     auto* accessible = GTK_ACCESSIBLE(native().gobj());
-    if (!std::exchange(hasRole_, true))
-        setAccessibleRole(native(), group.accessibility.role);
-    const auto& label = group.accessibility.label.empty() ? group.help : group.accessibility.label;
+    if (!look_)
+        setAccessibleRole(native(), look.accessibility.role);
+    const auto& label = look.accessibility.label.empty() ? look.help : look.accessibility.label;
     if (!label.empty())
         setAccessibleName(native(), label);
-    if (group.accessibility.role == ui::Accessibility::Role::tab) {
+    if (look.accessibility.role == ui::Accessibility::Role::tab) {
         gtk_accessible_update_state(accessible, GTK_ACCESSIBLE_STATE_SELECTED,
-            static_cast<gboolean>(group.accessibility.isSelected), -1);
+            static_cast<gboolean>(look.accessibility.isSelected), -1);
     }
     // What cannot be seen is not read out either.
     gtk_accessible_update_state(
-        accessible, GTK_ACCESSIBLE_STATE_HIDDEN, static_cast<gboolean>(group.opacity <= 0), -1);
+        accessible, GTK_ACCESSIBLE_STATE_HIDDEN, static_cast<gboolean>(look.opacity <= 0), -1);
 }
 
 LayersWidget::LayersWidget()

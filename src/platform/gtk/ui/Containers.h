@@ -5,8 +5,11 @@
 #include "platform/gtk/ui/Interaction.h"
 #include "platform/gtk/ui/LayersLayout.h"
 #include "platform/gtk/ui/PaddingLayout.h"
+#include "platform/ui/Accessibility.h"
 
 #include <gtkmm/boxlayout.h>
+#include <optional>
+#include <string>
 
 // The containers, one for each kind of node that has children.
 
@@ -18,10 +21,21 @@ public:
     void apply(const ui::Node& node) override;
 
 private:
-    void applyAccessibility(const ui::GroupNode& group);
+    // What is told to the toolkit only when it changes.
+    struct Look {
+        double opacity = 1;
+        bool allowsHitTesting = true;
+        std::string help;
+        ui::Accessibility accessibility;
+
+        bool operator==(const Look&) const = default;
+    };
+
+    void apply(const Look& look);
+    void applyAccessibility(const Look& look);
 
     Interaction interaction_;
-    bool hasRole_ = false;
+    std::optional<Look> look_; // absent until there is one
     bool isScrolledToVisible_ = false;
 };
 

@@ -84,7 +84,7 @@ void SymbolArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
     const auto context = snapshot->append_cairo(Gdk::Rectangle(0, 0, get_width(), get_height()));
     context->translate(x, y);
     context->scale(1.0 / scale, 1.0 / scale);
-    Gdk::Cairo::set_source_rgba(context, themeColor(*this, options_.color));
+    Gdk::Cairo::set_source_rgba(context, themeInk(*this, options_.color));
     context->mask(mask, 0, 0);
 }
 
@@ -128,7 +128,7 @@ void RoundedRectangleArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& sna
     gtk_snapshot_append_color(snapshot->gobj(), fill.gobj(), &bounds);
     gtk_snapshot_pop(snapshot->gobj());
 
-    const auto stroke = themeColor(*this, options_.stroke);
+    const auto stroke = themeInk(*this, options_.stroke);
     if (options_.lineWidth > 0 && stroke.get_alpha() > 0) {
         const auto width = static_cast<float>(options_.lineWidth);
         const float widths[] = {width, width, width, width};

@@ -64,6 +64,7 @@ void TextWidget::apply(const ui::Node& node)
     leaf().set_attributes(attributes);
     leaf().set_css_classes(themeClasses(options_->color));
     leaf().set_wrap(options_->wraps);
+    leaf().set_natural_wrap_mode(Gtk::NaturalWrapMode::NONE); // one line where there is room
     leaf().set_ellipsize(options_->wraps ? Pango::EllipsizeMode::NONE : Pango::EllipsizeMode::END);
 
     const auto alignment = lineAlignment(options_->alignment);

@@ -31,19 +31,31 @@ const NamedColor* nameOf(ui::Color::Role role)
     return named == std::end(namedColors) ? nullptr : named;
 }
 
-} // namespace
-
-Gdk::RGBA themeColor(const Gtk::Widget& widget, const ui::Color& color)
+Gdk::RGBA lookUp(const Gtk::Widget& widget, const ui::Color& color, const NamedColor* named)
 {
     Gdk::RGBA result(static_cast<float>(color.red), static_cast<float>(color.green),
         static_cast<float>(color.blue), 1);
     double opacity = color.opacity;
-    if (const auto* named = nameOf(color.role)) {
+    if (named) {
         const_cast<Gtk::Widget&>(widget).get_style_context()->lookup_color(named->name, result);
         opacity *= named->opacity;
     }
     result.set_alpha(static_cast<float>(result.get_alpha() * opacity));
     return result;
+}
+
+} // namespace
+
+Gdk::RGBA themeColor(const Gtk::Widget& widget, const ui::Color& color)
+{
+    return lookUp(widget, color, nameOf(color.role));
+}
+
+Gdk::RGBA themeInk(const Gtk::Widget& widget, const ui::Color& color)
+{
+    static constexpr NamedColor accentInk{ui::Color::Role::accent, "velmaro_accent_ink", 1};
+    const bool isAccent = color.role == ui::Color::Role::accent;
+    return lookUp(widget, color, isAccent ? &accentInk : nameOf(color.role));
 }
 
 } // namespace gtk
