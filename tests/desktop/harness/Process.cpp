@@ -157,7 +157,8 @@ std::vector<pid_t> Process::descendants(const std::string& name) const
     std::vector<pid_t> result;
     for (const auto& [pid, status] : all) {
         // The system cuts the names of programs after 15 characters.
-        if (status.name.empty() || status.name != name.substr(0, 15))
+        const bool isNamed = name.empty() || status.name == name.substr(0, 15);
+        if (status.name.empty() || !isNamed)
             continue;
         pid_t ancestor = status.parent;
         while (ancestor > 1 && ancestor != pid_)

@@ -40,8 +40,9 @@ public:
     std::string output() const;
     std::string errors() const;
 
-    // The processes below this one whose program has `name`, oldest first.
-    std::vector<pid_t> descendants(const std::string& name) const;
+    // The processes below this one, oldest first: those whose program has `name`, or all when it is
+    // empty.
+    std::vector<pid_t> descendants(const std::string& name = {}) const;
 
 private:
     std::filesystem::path folder_; // of the two files that take the output

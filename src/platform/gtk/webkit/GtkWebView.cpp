@@ -11,14 +11,19 @@ namespace gtk {
 
 namespace {
 
-// A view in the content process of `spare`, or in one of its own where there is none.
+bool isPersistent(const platform::WKWebViewConfiguration& configuration)
+{
+    return configuration.websiteDataStore == platform::WKWebsiteDataStore::defaultDataStore;
+}
+
+// A view in the content process of `companion`, or in one of its own where there is none.
 ObjectPointer<WebKitWebView> makeView(WebEngine& engine,
     const platform::WKWebViewConfiguration& configuration, WebKitUserContentManager* content,
-    WebKitWebView* spare)
+    WebKitWebView* companion)
 {
-    if (spare) {
+    if (companion) {
         const auto settings = engine.makeSettings(configuration.preferences);
-        auto* object = g_object_new(WEBKIT_TYPE_WEB_VIEW, "related-view", spare, "settings",
+        auto* object = g_object_new(WEBKIT_TYPE_WEB_VIEW, "related-view", companion, "settings",
             settings.get(), "user-content-manager", content, nullptr);
         return retain(WEBKIT_WEB_VIEW(object));
     }
@@ -46,10 +51,9 @@ template <class Act> void withPinchGesture(WebKitWebView* view, Act act)
 GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration& configuration)
     : frontPage_(engine.frontPage())
     , content_(configuration.userContentController, [this] { return !keeper_.failure(); })
-    , spare_(configuration.websiteDataStore == platform::WKWebsiteDataStore::defaultDataStore
-              ? engine.takeSpareView()
-              : nullptr)
-    , view_(makeView(engine, configuration, content_.manager(), spare_.get()))
+    , sharing_(isPersistent(configuration) ? engine.sharing() : nullptr)
+    , spare_(sharing_ ? engine.takeSpareView() : nullptr)
+    , view_(makeSharedView(engine, configuration))
     , keeper_(view_.get(), area_, engine.trust(), engine.patience(),
           {
               [this] {
@@ -67,10 +71,24 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
 
 GtkWebView::~GtkWebView()
 {
+    if (sharing_)
+        sharing_->remove(view_.get());
     frontPage_->hidden(this);
     if (area_.get_parent())
         area_.unparent();
     area_.unset_child();
+}
+
+ObjectPointer<WebKitWebView> GtkWebView::makeSharedView(
+    WebEngine& engine, const platform::WKWebViewConfiguration& configuration)
+{
+    if (!sharing_)
+        return makeView(engine, configuration, content_.manager(), nullptr);
+    auto* neighbour = spare_ ? nullptr : sharing_->companion();
+    auto* companion = spare_ ? spare_.get() : neighbour;
+    auto view = makeView(engine, configuration, content_.manager(), companion);
+    sharing_->add(view.get(), neighbour);
+    return view;
 }
 
 void GtkWebView::watch()

@@ -11,6 +11,7 @@
 namespace gtk {
 
 class FrontPage;
+class ProcessSharing;
 class WebEngine;
 
 // A web view of the engine, in an area of its own that it shares with the panel for failed loads.
@@ -50,6 +51,8 @@ public:
     void setDrawsBackground(bool isDrawn) override;
 
 private:
+    ObjectPointer<WebKitWebView> makeSharedView(
+        WebEngine& engine, const platform::WKWebViewConfiguration& configuration);
     void watch();
     void changed(Property property) { observers_.notify(property); }
     void titleChanged();
@@ -57,6 +60,7 @@ private:
 
     const std::shared_ptr<FrontPage> frontPage_;
     UserContent content_;
+    const std::shared_ptr<ProcessSharing> sharing_;
     ObjectPointer<WebKitWebView> spare_; // until the first load begins
     const ObjectPointer<WebKitWebView> view_;
     Gtk::Overlay area_;

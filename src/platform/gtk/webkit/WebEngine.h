@@ -4,6 +4,7 @@
 #include "platform/gtk/webkit/FrontPage.h"
 #include "platform/gtk/webkit/HostTrust.h"
 #include "platform/gtk/webkit/Patience.h"
+#include "platform/gtk/webkit/ProcessSharing.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
 #include <memory>
@@ -50,6 +51,9 @@ public:
     const std::shared_ptr<FrontPage>& frontPage() const { return frontPage_; }
     std::shared_ptr<const HostTrust> trust();
 
+    // Of the views on the persistent store.
+    const std::shared_ptr<ProcessSharing>& sharing() const { return sharing_; }
+
     // For views made from now on.
     const Patience& patience() const { return patience_; }
     void setPatience(const Patience& patience) { patience_ = patience; }
@@ -59,6 +63,7 @@ private:
     const std::optional<HostCertificate> certificate_;
     const bool isAccelerated_;
     Patience patience_;
+    std::shared_ptr<ProcessSharing> sharing_ = std::make_shared<ProcessSharing>();
     std::shared_ptr<FrontPage> frontPage_ = std::make_shared<FrontPage>();
     std::shared_ptr<const HostTrust> trust_; // read with the first session
     ObjectPointer<WebKitNetworkSession> session_; // made when first needed
