@@ -4,6 +4,7 @@
 #include "platform/gtk/webkit/FrontPage.h"
 #include "platform/gtk/webkit/HostTrust.h"
 #include "platform/gtk/webkit/Patience.h"
+#include "platform/gtk/webkit/Turns.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
 #include <memory>
@@ -47,6 +48,7 @@ public:
 
     ObjectPointer<WebKitNetworkSession> session(platform::WKWebsiteDataStore store);
     ObjectPointer<WebKitSettings> makeSettings(const platform::WKPreferences& preferences) const;
+    const std::shared_ptr<Turns>& offscreenTurns() const { return offscreenTurns_; }
     const std::shared_ptr<FrontPage>& frontPage() const { return frontPage_; }
     std::shared_ptr<const HostTrust> trust();
 
@@ -60,6 +62,7 @@ private:
     const bool isAccelerated_;
     Patience patience_;
     std::shared_ptr<FrontPage> frontPage_ = std::make_shared<FrontPage>();
+    const std::shared_ptr<Turns> offscreenTurns_;
     std::shared_ptr<const HostTrust> trust_; // read with the first session
     ObjectPointer<WebKitNetworkSession> session_; // made when first needed
     ObjectPointer<WebKitWebView> spareView_;
