@@ -1,7 +1,6 @@
 #include "platform/gtk/appkit/PrintOperation.h"
 
 #include "platform/gtk/appkit/MainWindow.h"
-#include "platform/Platform.h"
 
 #include <algorithm>
 #include <glibmm/main.h>
@@ -11,29 +10,18 @@ namespace gtk {
 
 namespace {
 
-// What the user chose last, for the next panel of this run.
-struct LastChoice {
-    std::string printer;
-    ObjectPointer<GtkPageSetup> setup;
-};
-
-LastChoice& lastChoice()
-{
-    return platform::Platform::current().shared<LastChoice>();
-}
-
 // What the engine does to the pages itself, whatever the printer can do.
 constexpr auto engineCapabilities = static_cast<GtkPrintCapabilities>(GTK_PRINT_CAPABILITY_PAGE_SET
     | GTK_PRINT_CAPABILITY_COPIES | GTK_PRINT_CAPABILITY_COLLATE | GTK_PRINT_CAPABILITY_REVERSE
     | GTK_PRINT_CAPABILITY_GENERATE_PDF);
 
-ObjectPointer<GtkPrintSettings> initialSettings(std::string title)
+ObjectPointer<GtkPrintSettings> initialSettings(std::string title, const std::string& printer)
 {
     std::ranges::replace(title, '/', '-');
     ObjectPointer<GtkPrintSettings> settings(gtk_print_settings_new());
     gtk_print_settings_set(settings.get(), GTK_PRINT_SETTINGS_OUTPUT_BASENAME, title.c_str());
-    if (!lastChoice().printer.empty())
-        gtk_print_settings_set_printer(settings.get(), lastChoice().printer.c_str());
+    if (!printer.empty())
+        gtk_print_settings_set_printer(settings.get(), printer.c_str());
     return settings;
 }
 
@@ -51,9 +39,11 @@ ObjectPointer<GtkPrintSettings> settingsForFinishedPages(GtkPrintSettings* chose
 
 } // namespace
 
-PrintOperation::PrintOperation(WebKitWebView* view, const platform::NSPrintInfo& printInfo)
+PrintOperation::PrintOperation(WebKitWebView* view, const platform::NSPrintInfo& printInfo,
+    std::shared_ptr<PrintChoice> choice)
     : NSPrintOperation(printInfo)
     , view_(retain(view))
+    , choice_(std::move(choice))
 {
 }
 
@@ -81,9 +71,10 @@ void PrintOperation::showPanel(GtkWindow* parent)
     panel_ = retain(GTK_PRINT_UNIX_DIALOG(gtk_print_unix_dialog_new("Print", parent)));
     gtk_print_unix_dialog_set_manual_capabilities(panel_.get(), engineCapabilities);
     gtk_print_unix_dialog_set_embed_page_setup(panel_.get(), TRUE);
-    gtk_print_unix_dialog_set_settings(panel_.get(), initialSettings(jobTitle).get());
+    gtk_print_unix_dialog_set_settings(
+        panel_.get(), initialSettings(jobTitle, choice_->printer).get());
     const ObjectPointer<GtkPageSetup> defaultSetup(gtk_page_setup_new());
-    auto* setup = lastChoice().setup ? lastChoice().setup.get() : defaultSetup.get();
+    auto* setup = choice_->setup ? choice_->setup.get() : defaultSetup.get();
     gtk_print_unix_dialog_set_page_setup(panel_.get(), withMargins(setup).get());
     gtk_window_set_modal(GTK_WINDOW(panel_.get()), TRUE);
 
@@ -116,8 +107,8 @@ void PrintOperation::answered(GtkDialog*, int response, PrintOperation* self)
     self->printer_ = retain(printer);
     self->settings_.reset(gtk_print_unix_dialog_get_settings(self->panel_.get()));
     self->setup_ = self->withMargins(gtk_print_unix_dialog_get_page_setup(self->panel_.get()));
-    lastChoice().printer = gtk_printer_get_name(printer);
-    lastChoice().setup.reset(gtk_page_setup_copy(self->setup_.get()));
+    self->choice_->printer = gtk_printer_get_name(printer);
+    self->choice_->setup.reset(gtk_page_setup_copy(self->setup_.get()));
     self->closePanel();
     self->print();
 }

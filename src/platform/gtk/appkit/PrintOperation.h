@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/appkit/NSPrintOperation.h"
+#include "platform/gtk/appkit/PrintChoice.h"
 #include "platform/gtk/webkit/PrintToFile.h"
 
 #include <gtk/gtkunixprint.h>
@@ -13,7 +14,8 @@ namespace gtk {
 class PrintOperation final : public platform::NSPrintOperation,
                              public std::enable_shared_from_this<PrintOperation> {
 public:
-    PrintOperation(WebKitWebView* view, const platform::NSPrintInfo& printInfo);
+    PrintOperation(WebKitWebView* view, const platform::NSPrintInfo& printInfo,
+        std::shared_ptr<PrintChoice> choice);
     ~PrintOperation() override;
 
     void runModalFor(
@@ -33,6 +35,7 @@ private:
     static void answered(GtkDialog*, int response, PrintOperation* self);
 
     const ObjectPointer<WebKitWebView> view_;
+    const std::shared_ptr<PrintChoice> choice_;
     Completion completion_;
     ObjectPointer<GtkPrintUnixDialog> panel_; // while it is shown
     std::unique_ptr<SignalHandlers> panelSignals_;

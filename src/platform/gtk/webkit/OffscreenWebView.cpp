@@ -38,7 +38,7 @@ OffscreenWebView::OffscreenWebView(
     , content_(configuration.userContentController, [] { return true; })
     , view_(makeView(engine, size, configuration, content_.manager()))
     , search_(view_.get())
-    , output_(view_.get())
+    , output_(view_.get(), engine.printChoice())
 {
     teachManners(view_.get());
     watch();

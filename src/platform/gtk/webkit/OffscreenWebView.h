@@ -23,6 +23,9 @@ public:
     OffscreenWebView(const OffscreenWebView&) = delete;
     OffscreenWebView& operator=(const OffscreenWebView&) = delete;
 
+    // The engine's view.
+    WebKitWebView* native() const { return view_.get(); }
+
     // Told by the window, for as long as it holds the view.
     void setWindow(platform::NSWindow* window) { window_ = window; }
 

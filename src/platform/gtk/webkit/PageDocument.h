@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/Data.h"
+#include "platform/foundation/Value.h"
 #include "platform/gtk/webkit/PrintToFile.h"
 
 #include <memory>
@@ -24,7 +25,7 @@ public:
     void fail(const std::string& reason);
 
 private:
-    void measured(double width, double height);
+    void print(const platform::Value& measures);
     void finish(const Result& result);
 
     const ObjectPointer<WebKitWebView> view_;

@@ -20,7 +20,7 @@ void PageOutput::createPDF(
 std::shared_ptr<PrintOperation> PageOutput::print(const platform::NSPrintInfo& printInfo)
 {
     std::erase_if(prints_, [](const auto& print) { return print->hasEnded(); });
-    prints_.push_back(std::make_shared<PrintOperation>(view_, printInfo));
+    prints_.push_back(std::make_shared<PrintOperation>(view_, printInfo, choice_));
     return prints_.back();
 }
 

@@ -11,8 +11,9 @@ namespace gtk {
 // not done when this goes away never will be.
 class PageOutput {
 public:
-    explicit PageOutput(WebKitWebView* view)
+    PageOutput(WebKitWebView* view, std::shared_ptr<PrintChoice> choice)
         : view_(view)
+        , choice_(std::move(choice))
     {
     }
 
@@ -26,6 +27,7 @@ public:
 
 private:
     WebKitWebView* const view_;
+    const std::shared_ptr<PrintChoice> choice_;
     std::vector<std::shared_ptr<PageDocument>> documents_;
     std::vector<std::shared_ptr<PrintOperation>> prints_;
 };

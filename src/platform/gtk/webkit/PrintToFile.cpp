@@ -34,6 +34,22 @@ void endSearch(gpointer data)
     search->completion(search->name);
 }
 
+void removeRecent(GtkRecentManager* documents, gpointer address)
+{
+    if (gtk_recent_manager_remove_item(documents, static_cast<char*>(address), nullptr))
+        g_signal_handlers_disconnect_matched(
+            documents, G_SIGNAL_MATCH_DATA, 0, 0, nullptr, nullptr, address);
+}
+
+// Whatever is printed to a file is remembered as a document of the user's, some time later.
+void keepFromRecentDocuments(const std::string& path)
+{
+    char* address = g_filename_to_uri(path.c_str(), nullptr, nullptr);
+    g_signal_connect_data(
+        gtk_recent_manager_get_default(), "changed", G_CALLBACK(removeRecent), address,
+        [](gpointer data, GClosure*) { g_free(data); }, GConnectFlags());
+}
+
 bool hasContent(const std::string& path)
 {
     GStatBuf status;
@@ -96,16 +112,14 @@ void PrintToFile::operationFailed(WebKitPrintOperation*, GError* error, PrintToF
 
 void PrintToFile::finished()
 {
-    // Whatever is printed to a file is remembered as a document of the user's.
-    g_autofree char* address = g_filename_to_uri(path().c_str(), nullptr, nullptr);
-    gtk_recent_manager_remove_item(gtk_recent_manager_get_default(), address, nullptr);
-
     if (!failure_.empty())
         fail(failure_);
     else if (!hasContent(path()))
         fail("The page could not be printed.");
-    else
+    else {
+        keepFromRecentDocuments(path());
         finish(std::nullopt);
+    }
 }
 
 void PrintToFile::finish(const std::optional<platform::NSError>& error)
