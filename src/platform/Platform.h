@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/appkit/Geometry.h"
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -18,6 +20,7 @@ class NSApplication;
 class NSScreen;
 class NSTextField;
 class NSView;
+class NSWindow;
 class NSWorkspace;
 class ProcessInfo;
 class URLCache;
@@ -25,6 +28,7 @@ class UserDefaults;
 class WKWebView;
 struct MKLocalSearchRequest;
 struct NSAlert;
+struct NSSharingServicePicker;
 struct WKWebViewConfiguration;
 
 // Everything the application asks of the desktop it runs on. One platform is current at a time: the
@@ -62,6 +66,18 @@ public:
     // A web view that is configured and empty. It must be placed in a window to be seen.
     virtual std::shared_ptr<WKWebView> makeWebView(const WKWebViewConfiguration&) = 0;
 
+    // One that is laid out at the size of `frame` and shown nowhere: a page that is only printed or
+    // made into a document. A load that fails ends there: nothing stands in for the page and
+    // nothing is tried again. Several do their work a few at a time, so that the user's pages stay
+    // quick.
+    virtual std::shared_ptr<WKWebView> makeWebView(
+        const NSRect& frame, const WKWebViewConfiguration&) = 0;
+
+    // A borderless window around a view from `makeWebView` with a frame, until it is closed. It is
+    // for no screen and no eye: not among the application's windows, and never key.
+    virtual std::shared_ptr<NSWindow> makeOffscreenWindow(
+        const NSRect& frame, const std::shared_ptr<NSView>& contentView) = 0;
+
     // One way to the location service, for its owner alone.
     virtual std::shared_ptr<CLLocationManager> makeLocationManager() = 0;
 
@@ -72,6 +88,10 @@ public:
 
     // See `NSAlert::runModal`.
     virtual void runModal(const NSAlert& alert, std::function<void(int button)> completion) = 0;
+
+    // See `NSSharingServicePicker::show`.
+    virtual void showSharingServices(const NSSharingServicePicker& picker, const NSRect& rectangle,
+        NSView& view, NSRectEdge preferredEdge) = 0;
 
     // Writes one line to the system log.
     virtual void log(const std::string& line) = 0;

@@ -1,6 +1,7 @@
 #include "web/PageMessages.h"
 
 #include "platform/foundation/UserDefaults.h"
+#include "reports/ReportDownloader.h"
 #include "tabs/TabbedAppModel.h"
 #include "web/OnboardingKeys.h"
 #include "web/WebModel.h"
@@ -32,6 +33,27 @@ PageAction reportUser(const Value& body)
             .lastname = stringMember(body, "lastname").value_or("")};
     }
     return [identity](WebModel& model) { model.setUser(identity); };
+}
+
+constexpr auto defaultReportTitle = "Velmaro Report";
+
+PageAction saveReport(const Value& body)
+{
+    const auto html = stringMember(body, "html");
+    if (!html)
+        return {};
+    return [title = stringMember(body, "title").value_or(defaultReportTitle),
+               filename = stringMember(body, "filename"), html = *html](
+               WebModel&) { ReportDownloader::shared().savePDF(title, filename, html); };
+}
+
+PageAction printReport(const Value& body)
+{
+    const auto html = stringMember(body, "html");
+    if (!html)
+        return {};
+    return [title = stringMember(body, "title").value_or(defaultReportTitle), html = *html](
+               WebModel&) { ReportDownloader::shared().printReport(title, html); };
 }
 
 PageAction reportRoute(const Value& body)
@@ -73,6 +95,8 @@ struct MessageRule {
 
 constexpr std::array messageRules{
     MessageRule{"authBridge", reportUser},
+    MessageRule{"reportBridge", saveReport},
+    MessageRule{"printBridge", printReport},
     MessageRule{"routeBridge", reportRoute},
     MessageRule{"onboardingBridge", finishOnboarding},
     MessageRule{"logoutBridge", logOut},

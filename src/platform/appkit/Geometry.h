@@ -25,4 +25,6 @@ struct NSRect {
     bool operator==(const NSRect&) const = default;
 };
 
+enum class NSRectEdge { minX = 0, minY = 1, maxX = 2, maxY = 3 };
+
 } // namespace platform

@@ -31,6 +31,10 @@ public:
     // The window with the keyboard; null when another program has it.
     virtual std::shared_ptr<NSWindow> keyWindow() const = 0;
 
+    // The window that the user works in, also while one of its dialogs has the keyboard; null while
+    // another program has it.
+    virtual std::shared_ptr<NSWindow> mainWindow() const = 0;
+
     // Whether the application has a picture of its own to show.
     virtual bool hasApplicationIconImage() const = 0;
 

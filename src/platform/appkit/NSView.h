@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/appkit/Geometry.h"
+
 #include <memory>
 
 namespace platform {
@@ -13,6 +15,9 @@ public:
 
     // The window that holds the view; null while it is in none.
     virtual NSWindow* window() const = 0;
+
+    // The view's own rectangle in its own coordinates; empty for one that has no size yet.
+    virtual NSRect bounds() const { return {}; }
 };
 
 } // namespace platform

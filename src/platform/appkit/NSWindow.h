@@ -32,6 +32,9 @@ public:
     // The screen that holds the largest part of the window; null when it is on none.
     virtual NSScreen* screen() const = 0;
 
+    // The user sees it, or would if no other window covered it.
+    virtual bool isVisible() const = 0;
+
     // Outer rectangle, title bar included, in screen points.
     virtual NSRect frame() const = 0;
     virtual void setFrame(const NSRect& frame, bool display, bool animate = false) = 0;

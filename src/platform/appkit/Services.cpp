@@ -2,6 +2,8 @@
 
 #include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSApplication.h"
+#include "platform/appkit/NSPrintInfo.h"
+#include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/appkit/NSWorkspace.h"
 #include "platform/Platform.h"
 
@@ -25,9 +27,20 @@ NSApplication& NSApplication::shared()
     return Platform::current().application();
 }
 
+NSPrintInfo& NSPrintInfo::shared()
+{
+    return Platform::current().shared<NSPrintInfo>();
+}
+
 NSScreen* NSScreen::main()
 {
     return Platform::current().mainScreen();
+}
+
+void NSSharingServicePicker::show(
+    const NSRect& rectangle, NSView& view, NSRectEdge preferredEdge) const
+{
+    Platform::current().showSharingServices(*this, rectangle, view, preferredEdge);
 }
 
 NSWorkspace& NSWorkspace::shared()

@@ -32,7 +32,8 @@ public:
     virtual std::optional<std::string> contents(const URL& file) = 0;
 
     // Puts `data` in the place of what bears that name, in one step: a reader finds the old file or
-    // the new one whole. Returns why it could not; what was there is then untouched.
+    // the new one whole. A missing folder is made. Returns why it could not; what was there is then
+    // untouched.
     virtual std::optional<NSError> writeAtomically(const Data& data, const URL& file) = 0;
 };
 

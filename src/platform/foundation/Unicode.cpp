@@ -37,20 +37,53 @@ bool isBlank(gunichar character)
     return character == '\t' || g_unichar_type(character) == G_UNICODE_SPACE_SEPARATOR;
 }
 
-// The length in bytes of the blank at the start of a text that is not empty; 0 when there is none.
-std::size_t blankAtStart(std::string_view text)
+// A line feed, carriage return and their like, or a line or paragraph separator.
+bool isNewline(gunichar character)
 {
-    const auto character = g_utf8_get_char_validated(text.data(), static_cast<gssize>(text.size()));
-    return isBlank(character) ? static_cast<std::size_t>(g_unichar_to_utf8(character, nullptr)) : 0;
+    return (character >= '\n' && character <= '\r') || character == 0x85 || character == 0x2028
+        || character == 0x2029;
 }
 
-std::size_t blankAtEnd(std::string_view text)
+bool isBlankOrNewline(gunichar character)
+{
+    return isBlank(character) || isNewline(character);
+}
+
+using Predicate = bool (*)(gunichar character);
+
+// The length in bytes of the first character of a text that is not empty; 0 when it is not one of
+// those to be trimmed.
+std::size_t trimmableAtStart(std::string_view text, Predicate isTrimmed)
+{
+    const auto character = g_utf8_get_char_validated(text.data(), static_cast<gssize>(text.size()));
+    return isTrimmed(character) ? static_cast<std::size_t>(g_unichar_to_utf8(character, nullptr))
+                                : 0;
+}
+
+std::size_t trimmableAtEnd(std::string_view text, Predicate isTrimmed)
 {
     const auto* last = g_utf8_find_prev_char(text.data(), text.data() + text.size());
     if (!last)
         return 0;
     const auto tail = text.substr(static_cast<std::size_t>(last - text.data()));
-    return blankAtStart(tail) == tail.size() ? tail.size() : 0;
+    return trimmableAtStart(tail, isTrimmed) == tail.size() ? tail.size() : 0;
+}
+
+std::string trimming(std::string_view text, Predicate isTrimmed)
+{
+    while (!text.empty()) {
+        const auto length = trimmableAtStart(text, isTrimmed);
+        if (!length)
+            break;
+        text.remove_prefix(length);
+    }
+    while (!text.empty()) {
+        const auto length = trimmableAtEnd(text, isTrimmed);
+        if (!length)
+            break;
+        text.remove_suffix(length);
+    }
+    return std::string(text);
 }
 
 } // namespace
@@ -65,19 +98,12 @@ bool isCanonicallyEquivalent(std::string_view left, std::string_view right)
 
 std::string trimmingWhitespace(std::string_view text)
 {
-    while (!text.empty()) {
-        const auto length = blankAtStart(text);
-        if (!length)
-            break;
-        text.remove_prefix(length);
-    }
-    while (!text.empty()) {
-        const auto length = blankAtEnd(text);
-        if (!length)
-            break;
-        text.remove_suffix(length);
-    }
-    return std::string(text);
+    return trimming(text, isBlank);
+}
+
+std::string trimmingWhitespaceAndNewlines(std::string_view text)
+{
+    return trimming(text, isBlankOrNewline);
 }
 
 } // namespace platform

@@ -14,4 +14,7 @@ bool isCanonicallyEquivalent(std::string_view left, std::string_view right);
 // stay.
 std::string trimmingWhitespace(std::string_view text);
 
+// The same, line and paragraph breaks included.
+std::string trimmingWhitespaceAndNewlines(std::string_view text);
+
 } // namespace platform

@@ -1,11 +1,14 @@
 #include "platform/gtk/GtkPlatform.h"
 
+#include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/gtk/appkit/AlertPresenter.h"
 #include "platform/gtk/appkit/Appearance.h"
 #include "platform/gtk/appkit/Application.h"
+#include "platform/gtk/appkit/OffscreenWindow.h"
 #include "platform/gtk/appkit/PlainView.h"
 #include "platform/gtk/appkit/RendererPolicy.h"
 #include "platform/gtk/appkit/Screen.h"
+#include "platform/gtk/appkit/SharePanel.h"
 #include "platform/gtk/appkit/TextField.h"
 #include "platform/gtk/appkit/Workspace.h"
 #include "platform/gtk/corelocation/LocationQuestion.h"
@@ -19,8 +22,10 @@
 #include "platform/gtk/mapkit/PlaceSearch.h"
 #include "platform/gtk/mapkit/SearchCompleter.h"
 #include "platform/gtk/webkit/GtkWebView.h"
+#include "platform/gtk/webkit/OffscreenWebView.h"
 #include "platform/gtk/webkit/WebEngine.h"
 
+#include <cassert>
 #include <future>
 #include <gio/gio.h>
 #include <glibmm/init.h>
@@ -145,6 +150,20 @@ std::shared_ptr<platform::WKWebView> GtkPlatform::makeWebView(
     return std::make_shared<GtkWebView>(webEngine(), configuration);
 }
 
+std::shared_ptr<platform::WKWebView> GtkPlatform::makeWebView(
+    const platform::NSRect& frame, const platform::WKWebViewConfiguration& configuration)
+{
+    return std::make_shared<OffscreenWebView>(webEngine(), frame.size, configuration);
+}
+
+std::shared_ptr<platform::NSWindow> GtkPlatform::makeOffscreenWindow(
+    const platform::NSRect& frame, const std::shared_ptr<platform::NSView>& contentView)
+{
+    auto view = std::dynamic_pointer_cast<OffscreenWebView>(contentView);
+    assert(view);
+    return std::make_shared<OffscreenWindow>(frame, std::move(view));
+}
+
 std::shared_ptr<platform::CLLocationManager> GtkPlatform::makeLocationManager()
 {
     return locationServices().makeManager();
@@ -175,6 +194,12 @@ void GtkPlatform::runModal(
     const platform::NSAlert& alert, std::function<void(int button)> completion)
 {
     alerts_->run(alert, std::move(completion));
+}
+
+void GtkPlatform::showSharingServices(const platform::NSSharingServicePicker& picker,
+    const platform::NSRect&, platform::NSView&, platform::NSRectEdge)
+{
+    sharing_ = std::make_unique<SharePanel>(picker.items);
 }
 
 void GtkPlatform::log(const std::string& line)

@@ -18,6 +18,7 @@ class MachineInfo;
 class ProgramBundle;
 class ResponseCache;
 class SettingsFile;
+class SharePanel;
 class WebEngine;
 class Workspace;
 
@@ -56,12 +57,19 @@ public:
     std::shared_ptr<platform::NSTextField> makeTextField() override;
     std::shared_ptr<platform::WKWebView> makeWebView(
         const platform::WKWebViewConfiguration& configuration) override;
+    std::shared_ptr<platform::WKWebView> makeWebView(const platform::NSRect& frame,
+        const platform::WKWebViewConfiguration& configuration) override;
+    std::shared_ptr<platform::NSWindow> makeOffscreenWindow(const platform::NSRect& frame,
+        const std::shared_ptr<platform::NSView>& contentView) override;
     std::shared_ptr<platform::CLLocationManager> makeLocationManager() override;
     std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
     std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
         const platform::MKLocalSearchRequest& request) override;
     void runModal(
         const platform::NSAlert& alert, std::function<void(int button)> completion) override;
+    void showSharingServices(const platform::NSSharingServicePicker& picker,
+        const platform::NSRect& rectangle, platform::NSView& view,
+        platform::NSRectEdge preferredEdge) override;
     void log(const std::string& line) override;
 
     // What all web views share; made on first use.
@@ -92,6 +100,7 @@ private:
     std::unique_ptr<Workspace> workspace_;
     std::unique_ptr<AlertPresenter> alerts_;
     std::unique_ptr<Appearance> appearance_;
+    std::unique_ptr<SharePanel> sharing_; // the one shown last
     std::optional<HostCertificate> certificate_;
     std::string expectedHost_;
     std::unique_ptr<WebEngine> webEngine_;

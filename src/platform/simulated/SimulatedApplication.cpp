@@ -72,6 +72,7 @@ SimulatedWindow& SimulatedApplication::simulateBareWindow(SimulatedWindow::Optio
 {
     windows_.push_back(std::make_shared<SimulatedWindow>(platform_, std::move(options)));
     keyWindow_ = windows_.back();
+    mainWindow_ = keyWindow_;
     return *windows_.back();
 }
 
@@ -100,6 +101,12 @@ void SimulatedApplication::simulateCloseWindow()
     platform_.mainQueue().runUntilIdle();
 }
 
+void SimulatedApplication::simulateResignActive()
+{
+    keyWindow_.reset();
+    mainWindow_.reset();
+}
+
 void SimulatedApplication::simulateQuit()
 {
     terminate();
@@ -109,6 +116,7 @@ void SimulatedApplication::simulateQuit()
 void SimulatedApplication::windowBecameKey(SimulatedWindow& window)
 {
     keyWindow_ = std::static_pointer_cast<SimulatedWindow>(window.shared_from_this());
+    mainWindow_ = keyWindow_;
 }
 
 // What the window shows may be what has closed it, so it is taken down only after the event.
@@ -121,6 +129,7 @@ void SimulatedApplication::windowClosed(SimulatedWindow& window)
     closedWindows_.push_back(*found);
     windows_.erase(found);
     keyWindow_ = windows_.empty() ? nullptr : windows_.front();
+    mainWindow_ = keyWindow_;
     platform_.mainQueue().async([this] { removeClosedWindows(); });
 }
 

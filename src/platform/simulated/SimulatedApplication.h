@@ -17,6 +17,7 @@ public:
 
     std::vector<std::shared_ptr<platform::NSWindow>> windows() const override;
     std::shared_ptr<platform::NSWindow> keyWindow() const override;
+    std::shared_ptr<platform::NSWindow> mainWindow() const override { return mainWindow_.lock(); }
     bool hasApplicationIconImage() const override { return hasIcon; }
     void terminate() override;
 
@@ -46,7 +47,10 @@ public:
     bool simulateReopen();
 
     // The user gives the keyboard to another program.
-    void simulateResignActive() { keyWindow_.reset(); }
+    void simulateResignActive();
+
+    // One of its dialogs takes the keyboard from the window that the user works in.
+    void simulateDialogBecameKey() { keyWindow_.reset(); }
 
     // The user closes the first window; or quits, or the session ends. All that follows has
     // happened on return.
@@ -72,6 +76,7 @@ private:
     std::vector<std::shared_ptr<SimulatedWindow>> windows_;
     std::vector<std::shared_ptr<SimulatedWindow>> closedWindows_; // until the event is over
     std::weak_ptr<SimulatedWindow> keyWindow_;
+    std::weak_ptr<SimulatedWindow> mainWindow_;
     bool hasTerminated_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/simulated/SimulatedPlatform.h"
 
+#include "platform/simulated/Failure.h"
 #include "platform/simulated/SimulatedView.h"
 
 #include <algorithm>
@@ -61,6 +62,27 @@ std::shared_ptr<platform::WKWebView> SimulatedPlatform::makeWebView(
     auto webView = std::make_shared<SimulatedWebView>(configuration);
     webViews_.push_back(webView);
     return webView;
+}
+
+std::shared_ptr<platform::WKWebView> SimulatedPlatform::makeWebView(
+    const NSRect& frame, const platform::WKWebViewConfiguration& configuration)
+{
+    auto webView = std::make_shared<SimulatedWebView>(configuration, frame);
+    webViews_.push_back(webView);
+    return webView;
+}
+
+std::shared_ptr<platform::NSWindow> SimulatedPlatform::makeOffscreenWindow(
+    const NSRect& frame, const std::shared_ptr<platform::NSView>& contentView)
+{
+    const auto webView = std::dynamic_pointer_cast<SimulatedWebView>(contentView);
+    if (!webView || !webView->frame)
+        fail("only a web view with a frame can be in a window that no screen shows");
+    auto window = std::make_shared<SimulatedWindow>(
+        *this, SimulatedWindow::Options{.offscreenView = webView});
+    window->setFrame(frame, true, false);
+    offscreenWindows_.push_back(window);
+    return window;
 }
 
 std::shared_ptr<platform::CLLocationManager> SimulatedPlatform::makeLocationManager()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/Platform.h"
 #include "platform/simulated/corelocation/SimulatedLocationManager.h"
 #include "platform/simulated/mapkit/SimulatedLocalSearch.h"
@@ -43,6 +44,10 @@ public:
     std::shared_ptr<platform::NSTextField> makeTextField() override;
     std::shared_ptr<platform::WKWebView> makeWebView(
         const platform::WKWebViewConfiguration& configuration) override;
+    std::shared_ptr<platform::WKWebView> makeWebView(const platform::NSRect& frame,
+        const platform::WKWebViewConfiguration& configuration) override;
+    std::shared_ptr<platform::NSWindow> makeOffscreenWindow(const platform::NSRect& frame,
+        const std::shared_ptr<platform::NSView>& contentView) override;
     std::shared_ptr<platform::CLLocationManager> makeLocationManager() override;
     std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
     std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
@@ -51,6 +56,12 @@ public:
         const platform::NSAlert& alert, std::function<void(int button)> completion) override
     {
         alerts_.run(alert, std::move(completion));
+    }
+    void showSharingServices(const platform::NSSharingServicePicker& picker,
+        const platform::NSRect& rectangle, platform::NSView& view,
+        platform::NSRectEdge preferredEdge) override
+    {
+        shares.push_back({picker.items, rectangle, view.window(), preferredEdge});
     }
     void log(const std::string& line) override { logLines.push_back(line); }
 
@@ -81,6 +92,21 @@ public:
         return localSearches_;
     }
 
+    // The windows made for no screen, in order, also those that have gone since.
+    const std::vector<std::weak_ptr<SimulatedWindow>>& offscreenWindows() const
+    {
+        return offscreenWindows_;
+    }
+
+    // One list of what can be done with files, as it was asked for.
+    struct Share {
+        std::vector<platform::URL> items;
+        platform::NSRect rectangle;
+        const platform::NSWindow* window; // identity only; null for a view in none
+        platform::NSRectEdge edge;
+    };
+
+    std::vector<Share> shares;
     std::vector<std::string> logLines;
 
 private:
@@ -94,6 +120,7 @@ private:
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;
+    std::vector<std::weak_ptr<SimulatedWindow>> offscreenWindows_;
     std::vector<std::weak_ptr<SimulatedTextField>> textFields_;
     std::vector<std::weak_ptr<SimulatedLocationManager>> locationManagers_;
     std::vector<std::weak_ptr<SimulatedLocalSearchCompleter>> searchCompleters_;

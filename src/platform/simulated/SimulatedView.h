@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/appkit/NSView.h"
+#include "platform/appkit/NSWindow.h"
 #include "platform/simulated/SimulatedPlace.h"
 
 namespace simulated {
@@ -9,6 +10,12 @@ namespace simulated {
 class SimulatedView final : public platform::NSView, public SimulatedPlace {
 public:
     platform::NSWindow* window() const override { return windowOfHost(); }
+
+    // A view that fills its window; only the window's own size is simulated.
+    platform::NSRect bounds() const override
+    {
+        return window() ? platform::NSRect{{}, window()->frame().size} : platform::NSRect();
+    }
 };
 
 } // namespace simulated

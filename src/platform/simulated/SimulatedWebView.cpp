@@ -1,14 +1,62 @@
 #include "platform/simulated/SimulatedWebView.h"
 
 #include "platform/simulated/Failure.h"
+#include "platform/webkit/WKNavigationDelegate.h"
 
 #include <algorithm>
 
 namespace simulated {
 
-SimulatedWebView::SimulatedWebView(platform::WKWebViewConfiguration configuration)
+SimulatedWebView::SimulatedWebView(
+    platform::WKWebViewConfiguration configuration, std::optional<platform::NSRect> frame)
     : configuration(std::move(configuration))
+    , frame(frame)
 {
+}
+
+platform::NSRect SimulatedWebView::bounds() const
+{
+    return frame ? platform::NSRect{{}, frame->size} : platform::NSRect();
+}
+
+void SimulatedWebView::createPDF(const platform::WKPDFConfiguration&,
+    std::function<void(const std::variant<platform::Data, platform::NSError>&)> completion)
+{
+    pendingPDFs_.push_back(std::move(completion));
+}
+
+void SimulatedWebView::simulatePDF(const std::variant<platform::Data, platform::NSError>& result)
+{
+    if (pendingPDFs_.empty())
+        return fail("nobody waits for a PDF document");
+    const auto completion = std::move(pendingPDFs_.front());
+    pendingPDFs_.pop_front();
+    completion(result);
+}
+
+std::shared_ptr<platform::NSPrintOperation> SimulatedWebView::printOperation(
+    const platform::NSPrintInfo& printInfo)
+{
+    prints.push_back(std::make_shared<SimulatedPrintOperation>(printInfo));
+    return prints.back();
+}
+
+void SimulatedWebView::simulateFinishNavigation()
+{
+    if (const auto delegate = navigationDelegate.lock())
+        delegate->didFinishNavigation(*this);
+}
+
+void SimulatedWebView::simulateFailNavigation(const std::string& error)
+{
+    if (const auto delegate = navigationDelegate.lock())
+        delegate->didFailNavigation(*this, {error});
+}
+
+void SimulatedWebView::simulateFailProvisionalNavigation(const std::string& error)
+{
+    if (const auto delegate = navigationDelegate.lock())
+        delegate->didFailProvisionalNavigation(*this, {error});
 }
 
 void SimulatedWebView::find(const std::string& text,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/simulated/SimulatedPlace.h"
+#include "platform/simulated/SimulatedPrintOperation.h"
 #include "platform/webkit/WKWebView.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
@@ -29,14 +30,35 @@ public:
         std::optional<bool> drawsBackground;
     };
 
-    explicit SimulatedWebView(platform::WKWebViewConfiguration configuration);
+    struct Document {
+        std::string html;
+        std::optional<platform::URL> baseURL;
+    };
 
-    platform::NSWindow* window() const override { return windowOfHost(); }
+    // With a frame, the view is one that is shown nowhere.
+    explicit SimulatedWebView(platform::WKWebViewConfiguration configuration,
+        std::optional<platform::NSRect> frame = std::nullopt);
+
+    platform::NSWindow* window() const override
+    {
+        return offscreenWindow ? offscreenWindow : windowOfHost();
+    }
+    platform::NSRect bounds() const override;
 
     void load(const platform::URLRequest& request) override { loads.push_back(request); }
+    void loadHTMLString(
+        const std::string& html, const std::optional<platform::URL>& baseURL) override
+    {
+        documents.push_back({html, baseURL});
+    }
     void evaluateJavaScript(const std::string& script) override { scripts.push_back(script); }
     void find(const std::string& text, const platform::WKFindConfiguration& configuration,
         std::function<void(const platform::WKFindResult&)> completion) override;
+    void createPDF(const platform::WKPDFConfiguration& configuration,
+        std::function<void(const std::variant<platform::Data, platform::NSError>&)> completion)
+        override;
+    std::shared_ptr<platform::NSPrintOperation> printOperation(
+        const platform::NSPrintInfo& printInfo) override;
     void goBack() override;
     void goForward() override;
 
@@ -65,11 +87,24 @@ public:
     // The oldest search that waits for an answer gets one; fails the test when none does.
     void simulateFindResult(bool matchFound);
 
+    // How a load ends. The navigation delegate is told at once.
+    void simulateFinishNavigation();
+    void simulateFailNavigation(const std::string& error);
+    void simulateFailProvisionalNavigation(const std::string& error);
+
+    // The oldest document that waits to be made is there, or could not be made; fails the test when
+    // none waits.
+    void simulatePDF(const std::variant<platform::Data, platform::NSError>& result);
+
     // How many observations are running.
     std::size_t observationCount() const;
 
     const platform::WKWebViewConfiguration configuration;
+    const std::optional<platform::NSRect> frame;
+    platform::NSWindow* offscreenWindow = nullptr; // which is made for such views alone
     Settings settings;
+    std::vector<Document> documents;
+    std::vector<std::shared_ptr<SimulatedPrintOperation>> prints;
     std::vector<platform::URLRequest> loads;
     std::vector<std::string> scripts;
     std::vector<Search> searches;
@@ -86,6 +121,8 @@ private:
 
     std::vector<std::weak_ptr<Observer>> observers_;
     std::deque<std::function<void(const platform::WKFindResult&)>> pendingSearches_;
+    std::deque<std::function<void(const std::variant<platform::Data, platform::NSError>&)>>
+        pendingPDFs_;
     bool canGoBack_ = false;
     bool canGoForward_ = false;
     bool isLoading_ = false;

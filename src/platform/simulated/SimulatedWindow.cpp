@@ -18,6 +18,9 @@ SimulatedWindow::SimulatedWindow(SimulatedPlatform& platform, Options options)
 {
     root_.window_ = this;
     contentView_.setHost(&root_);
+    if (options_.offscreenView)
+        options_.offscreenView->offscreenWindow = this;
+    isVisible_ = !options_.offscreenView;
 }
 
 void SimulatedWindow::show(ui::View content)
@@ -54,7 +57,10 @@ void SimulatedWindow::makeKeyAndOrderFront()
 
 void SimulatedWindow::close()
 {
-    platform_.application().windowClosed(*this);
+    if (const auto view = std::exchange(options_.offscreenView, nullptr))
+        view->offscreenWindow = nullptr;
+    else
+        platform_.application().windowClosed(*this);
 }
 
 void SimulatedWindow::simulateUserResize(platform::NSSize size)

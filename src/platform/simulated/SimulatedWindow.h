@@ -12,6 +12,7 @@
 namespace simulated {
 
 class SimulatedPlatform;
+class SimulatedWebView;
 
 // A window on a simulated screen. It opens with 800 × 600 points in the screen's corner.
 class SimulatedWindow final : public platform::NSWindow {
@@ -20,6 +21,7 @@ public:
         std::string title = {};
         bool canBecomeMainWindow = true;
         bool hasContentView = true;
+        std::shared_ptr<SimulatedWebView> offscreenView = {}; // for a window that no screen shows
     };
 
     SimulatedWindow(SimulatedPlatform& platform, Options options);
@@ -32,9 +34,9 @@ public:
     ui::Mount& mount() { return *mount_; }
     SimulatedRenderer& renderer() { return renderer_; }
     const std::string& title() const { return options_.title; }
-    bool isVisible() const { return isVisible_; }
 
     platform::NSScreen* screen() const override;
+    bool isVisible() const override { return isVisible_; }
     platform::NSRect frame() const override { return frame_; }
     void setFrame(const platform::NSRect& frame, bool display, bool animate) override;
     platform::NSSize minSize() const override { return minSize_; }

@@ -1,12 +1,18 @@
 #pragma once
 
+#include "platform/appkit/NSPrintOperation.h"
 #include "platform/appkit/NSView.h"
+#include "platform/foundation/Data.h"
+#include "platform/foundation/NSError.h"
 #include "platform/webkit/URLRequest.h"
 #include "platform/webkit/WKFindConfiguration.h"
+#include "platform/webkit/WKPDFConfiguration.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <variant>
 
 namespace platform {
 
@@ -30,6 +36,10 @@ public:
 
     virtual void load(const URLRequest& request) = 0;
 
+    // Loads a document that is already here. Its relative addresses count from `baseURL`, whose
+    // origin it has, and lead nowhere without one. Nothing is asked of that address.
+    virtual void loadHTMLString(const std::string& html, const std::optional<URL>& baseURL) = 0;
+
     // Runs `script` in the main frame's page. Neither its result nor an error comes back.
     virtual void evaluateJavaScript(const std::string& script) = 0;
 
@@ -37,6 +47,14 @@ public:
     // Each call is answered once, in the order of the calls, unless the view goes away before.
     virtual void find(const std::string& text, const WKFindConfiguration& configuration,
         std::function<void(const WKFindResult&)> completion) = 0;
+
+    // Makes one PDF document of the page as it looks on the screen, its text as text and its links
+    // as links. Answered once, unless the view goes away before.
+    virtual void createPDF(const WKPDFConfiguration& configuration,
+        std::function<void(const std::variant<Data, NSError>&)> completion) = 0;
+
+    // A print of the page, ready to be run.
+    virtual std::shared_ptr<NSPrintOperation> printOperation(const NSPrintInfo& printInfo) = 0;
 
     // One step in the list of pages; nothing when there is none.
     virtual void goBack() = 0;

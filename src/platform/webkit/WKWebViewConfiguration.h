@@ -16,7 +16,7 @@ struct WKPreferences {
 
 // How a web view is made; later changes have no effect on it.
 struct WKWebViewConfiguration {
-    WKWebsiteDataStore websiteDataStore = WKWebsiteDataStore::nonPersistent;
+    WKWebsiteDataStore websiteDataStore = WKWebsiteDataStore::defaultDataStore;
     WKPreferences preferences;
     WKUserContentController userContentController;
 };

@@ -4,6 +4,7 @@
 #include <memory>
 #include <stdexcept>
 #include <X11/extensions/Xdamage.h>
+#include <X11/extensions/XTest.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -106,6 +107,18 @@ std::optional<Picture> DesktopWindow::picture() const
     }
     XDestroyImage(image);
     return picture;
+}
+
+void DesktopWindow::click(int x, int y) const
+{
+    int rootX = 0, rootY = 0;
+    Window child = None;
+    XTranslateCoordinates(
+        display(), id_, DefaultRootWindow(display()), x, y, &rootX, &rootY, &child);
+    XTestFakeMotionEvent(display(), -1, rootX, rootY, CurrentTime);
+    XTestFakeButtonEvent(display(), Button1, True, CurrentTime);
+    XTestFakeButtonEvent(display(), Button1, False, CurrentTime);
+    XFlush(display());
 }
 
 void DesktopWindow::close() const

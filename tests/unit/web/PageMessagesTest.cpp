@@ -1,6 +1,9 @@
 #include "web/PageMessages.h"
 
 #include "platform/simulated/SimulatedPlatform.h"
+#include "reports/LoadDelegate.h"
+#include "reports/PrintDelegate.h"
+#include "reports/ReportDownloader.h"
 #include "tabs/TabbedAppModel.h"
 #include "web/WebModel.h"
 
@@ -84,6 +87,43 @@ TEST_F(PageMessages, openATabOrLeaveOne)
     const auto active = app->activeTab();
     post("logoutBridge", Value());
     EXPECT_EQ(app->tabs(), velmaro::TabbedAppModel::Tabs{active});
+}
+
+TEST_F(PageMessages, handOverReports)
+{
+    for (const auto* name : {"reportBridge", "printBridge"}) {
+        for (const auto& body : {Value(), Value("<p>"), Value(Value::Object{}),
+                 Value(Value::Object{{"html", 5}, {"title", "Drives"}})})
+            EXPECT_FALSE(post(name, body)) << name;
+    }
+
+    struct Case {
+        const char* name;
+        Value::Object body;
+        const char* title;
+        std::optional<std::string> filename;
+    };
+    const Case cases[] = {
+        {"reportBridge", {{"html", ""}}, "Velmaro Report", {}},
+        {"reportBridge", {{"html", "<p>"}, {"title", 5}, {"filename", Value()}}, "Velmaro Report",
+            {}},
+        {"reportBridge", {{"html", "<p>"}, {"title", ""}, {"filename", ""}}, "", ""},
+        {"printBridge", {{"html", "<p>"}, {"title", "Drives"}}, "Drives", {}},
+        {"printBridge", {{"html", "<p>"}}, "Velmaro Report", {}},
+    };
+    for (const auto& [name, body, title, filename] : cases) {
+        EXPECT_TRUE(post(name, body));
+        auto& pending = velmaro::ReportDownloader::shared().pending;
+        ASSERT_EQ(pending.size(), 1u);
+        const auto& delegate = pending.begin()->second.delegate;
+        const auto pdf = std::dynamic_pointer_cast<velmaro::LoadDelegate>(delegate);
+        const auto print = std::dynamic_pointer_cast<velmaro::PrintDelegate>(delegate);
+        ASSERT_EQ(pdf != nullptr, name == std::string("reportBridge"));
+        EXPECT_EQ(pdf ? pdf->title : print->title, title);
+        EXPECT_EQ(pdf ? pdf->filename : std::nullopt, filename);
+        EXPECT_EQ(platform.webViews().back().lock()->documents[0].html, *body.at("html").string());
+        pending.clear();
+    }
 }
 
 TEST_F(PageMessages, underUnknownNamesAreDropped)

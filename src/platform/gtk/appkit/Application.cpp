@@ -56,6 +56,15 @@ std::shared_ptr<platform::NSWindow> Application::keyWindow() const
     return found == windows_.end() ? nullptr : *found;
 }
 
+std::shared_ptr<platform::NSWindow> Application::mainWindow() const
+{
+    const auto toplevels = Gtk::Window::list_toplevels();
+    const bool isActive = std::ranges::any_of(
+        toplevels, [](const auto* window) { return window->property_is_active().get_value(); });
+    const auto frontToBack = windows();
+    return isActive && !frontToBack.empty() ? frontToBack.front() : nullptr;
+}
+
 bool Application::hasApplicationIconImage() const
 {
     return applicationIcon() != nullptr;

@@ -22,6 +22,7 @@ public:
 
     std::vector<std::shared_ptr<platform::NSWindow>> windows() const override;
     std::shared_ptr<platform::NSWindow> keyWindow() const override;
+    std::shared_ptr<platform::NSWindow> mainWindow() const override;
     bool hasApplicationIconImage() const override;
 
     // In a start that is not the user's first, hands the address to the running program and returns

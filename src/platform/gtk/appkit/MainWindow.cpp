@@ -42,6 +42,12 @@ public:
     }
 
     platform::NSWindow* window() const override { return &window_; }
+    platform::NSRect bounds() const override
+    {
+        const auto& widget = window_.content_.widget();
+        return {{},
+            {static_cast<double>(widget.get_width()), static_cast<double>(widget.get_height())}};
+    }
 
 private:
     MainWindow& window_;

@@ -28,11 +28,10 @@ public:
     // Hands `url` to the views that open addresses.
     void openURL(const platform::URL& url) { content_.openURL(url); }
 
-    // The user sees it, or would if no other window covered it.
-    bool isVisible() const;
     bool isKeyWindow() const { return window_->is_active(); }
 
     platform::NSScreen* screen() const override;
+    bool isVisible() const override;
     platform::NSRect frame() const override;
     void setFrame(const platform::NSRect& frame, bool display, bool animate) override;
     platform::NSSize minSize() const override { return minSize_; }

@@ -68,6 +68,22 @@ std::filesystem::path followLinks(std::filesystem::path path)
     return path;
 }
 
+// A file of a name of its own for each attempt, so that two programs never write into the same. The
+// name is short: one that is just short enough for the file system leaves no room for more.
+Descriptor makeTemporaryFile(std::string& path, mode_t permissions)
+{
+    const auto beginning = path + "/.velmaro-";
+    while (true) {
+        char digits[9];
+        g_snprintf(digits, sizeof digits, "%08x", g_random_int());
+        path = beginning + digits;
+        const int number =
+            ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
+        if (number >= 0 || errno != EEXIST)
+            return Descriptor(number);
+    }
+}
+
 // Makes the names in `folder` as durable as what they stand for.
 bool synchronizeFolder(const std::filesystem::path& folder)
 {
@@ -100,16 +116,16 @@ Contents read(const std::filesystem::path& path)
     }
 }
 
-std::optional<std::string> replace(const std::filesystem::path& path, std::string_view text)
+std::optional<std::string> replace(
+    const std::filesystem::path& path, std::string_view text, mode_t permissions)
 {
     const auto target = followLinks(path);
     const auto folder = target.parent_path();
     if (g_mkdir_with_parents(folder.c_str(), 0700) != 0)
         return lastError();
 
-    // A name of its own for each attempt, so that two programs never write into the same file.
-    auto temporary = target.string() + ".XXXXXX";
-    Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC)); // mode 600
+    auto temporary = folder.string();
+    auto file = makeTemporaryFile(temporary, permissions);
     if (!file.isOpen())
         return lastError();
 

@@ -13,6 +13,10 @@ using platform::URL;
 
 namespace {
 
+// Before the user's mask takes some away.
+constexpr mode_t usualFilePermissions = 0666;
+constexpr mode_t usualFolderPermissions = 0777;
+
 // The system would take a name with a NUL for a shorter one.
 bool canBeNamed(const URL& file)
 {
@@ -31,7 +35,7 @@ std::string downloadsPath()
 std::optional<URL> Files::downloadsDirectory(bool create)
 {
     const auto path = downloadsPath();
-    if (create && g_mkdir_with_parents(path.c_str(), 0755) != 0)
+    if (create && g_mkdir_with_parents(path.c_str(), usualFolderPermissions) != 0)
         return std::nullopt;
     return URL::fileURL(path);
 }
@@ -67,8 +71,10 @@ std::optional<platform::NSError> Files::writeAtomically(const platform::Data& da
 {
     if (!canBeNamed(file))
         return platform::NSError{g_strerror(EINVAL)};
+    g_autofree char* folder = g_path_get_dirname(file.path().c_str());
+    g_mkdir_with_parents(folder, usualFolderPermissions);
     const std::string_view text(reinterpret_cast<const char*>(data.data()), data.size());
-    if (auto failure = DurableFile::replace(file.path(), text))
+    if (auto failure = DurableFile::replace(file.path(), text, usualFilePermissions))
         return platform::NSError{std::move(*failure)};
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #include "platform/gtk/webkit/GtkWebView.h"
 
 #include "platform/gtk/appkit/MainWindow.h"
+#include "platform/gtk/webkit/EngineRequest.h"
 #include "platform/gtk/webkit/FrontPage.h"
 #include "platform/gtk/webkit/PageManners.h"
 #include "platform/gtk/webkit/WebEngine.h"
@@ -63,6 +64,7 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
               [this] { frontPage_->readinessChanged(this, keeper_.isReady()); },
           })
     , search_(view_.get())
+    , output_(view_.get(), engine.printChoice())
 {
     gtk_overlay_set_child(area_.gobj(), GTK_WIDGET(view_.get()));
     teachManners(view_.get());
@@ -139,6 +141,18 @@ void GtkWebView::setShown(bool isShown)
     keeper_.setShown(isShown);
     if (isShown)
         gtk_widget_grab_focus(GTK_WIDGET(view_.get())); // who comes to a tab wants its page
+}
+
+void GtkWebView::loadHTMLString(
+    const std::string& html, const std::optional<platform::URL>& baseURL)
+{
+    loadDocument(view_.get(), html, baseURL);
+}
+
+void GtkWebView::createPDF(const platform::WKPDFConfiguration&,
+    std::function<void(const PageDocument::Result&)> completion)
+{
+    output_.createPDF(area_.get_width(), std::move(completion));
 }
 
 void GtkWebView::evaluateJavaScript(const std::string& script)

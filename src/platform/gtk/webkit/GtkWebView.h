@@ -2,6 +2,7 @@
 
 #include "platform/gtk/ui/NativeView.h"
 #include "platform/gtk/webkit/PageKeeper.h"
+#include "platform/gtk/webkit/PageOutput.h"
 #include "platform/gtk/webkit/PageSearch.h"
 #include "platform/gtk/webkit/PropertyObservers.h"
 #include "platform/gtk/webkit/UserContent.h"
@@ -28,11 +29,20 @@ public:
     void setShown(bool isShown) override;
 
     void load(const platform::URLRequest& request) override { keeper_.load(request); }
+    void loadHTMLString(
+        const std::string& html, const std::optional<platform::URL>& baseURL) override;
     void evaluateJavaScript(const std::string& script) override;
     void find(const std::string& text, const platform::WKFindConfiguration& configuration,
         std::function<void(const platform::WKFindResult&)> completion) override
     {
         search_.find(text, configuration, std::move(completion));
+    }
+    void createPDF(const platform::WKPDFConfiguration& configuration,
+        std::function<void(const PageDocument::Result&)> completion) override;
+    std::shared_ptr<platform::NSPrintOperation> printOperation(
+        const platform::NSPrintInfo& printInfo) override
+    {
+        return output_.print(printInfo);
     }
     void goBack() override;
     void goForward() override;
@@ -66,6 +76,7 @@ private:
     Gtk::Overlay area_;
     PageKeeper keeper_;
     PageSearch search_;
+    PageOutput output_;
     PropertyObservers observers_;
     SignalHandlers signals_;
 };

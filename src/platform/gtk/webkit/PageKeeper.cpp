@@ -1,5 +1,7 @@
 #include "platform/gtk/webkit/PageKeeper.h"
 
+#include "platform/gtk/webkit/EngineRequest.h"
+
 #include <string_view>
 #include <utility>
 
@@ -140,14 +142,9 @@ void PageKeeper::processDied(WebKitWebView*, WebKitWebProcessTerminationReason, 
 
 void PageKeeper::send(const std::string& address, bool revalidates, double secondsToAnswer)
 {
-    const ObjectPointer<WebKitURIRequest> request(webkit_uri_request_new(address.c_str()));
-    if (revalidates) {
-        auto* headers = webkit_uri_request_get_http_headers(request.get());
-        soup_message_headers_replace(headers, "Cache-Control", "max-age=0");
-    }
     revivesWhenShown_ = false;
     awaitAnswer(secondsToAnswer);
-    webkit_web_view_load_request(view_, request.get());
+    webkit_web_view_load_request(view_, makeRequest(address, revalidates).get());
 }
 
 void PageKeeper::awaitAnswer(double seconds)

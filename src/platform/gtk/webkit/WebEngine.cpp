@@ -10,6 +10,11 @@ namespace gtk {
 
 namespace {
 
+// So many pages that nobody sees are worked on at a time, so that those that somebody sees stay
+// quick. One that takes longer than this, in seconds, makes room for the next.
+constexpr std::size_t offscreenCount = 2;
+constexpr double offscreenPatience = 10;
+
 // Pages would be told that the user's language is "C", which their scripts cannot make sense of.
 void replaceLanguageOfNoCountry()
 {
@@ -55,6 +60,7 @@ WebEngine::WebEngine(
     : paths_(std::move(paths))
     , certificate_(std::move(certificate))
     , isAccelerated_(isAccelerated)
+    , offscreenTurns_(std::make_shared<Turns>(offscreenCount, offscreenPatience))
 {
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/gtk/appkit/PrintChoice.h"
 #include "platform/gtk/foundation/StandardPaths.h"
 #include "platform/gtk/webkit/FrontPage.h"
 #include "platform/gtk/webkit/HostTrust.h"
 #include "platform/gtk/webkit/Patience.h"
 #include "platform/gtk/webkit/ProcessSharing.h"
+#include "platform/gtk/webkit/Turns.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
 #include <memory>
@@ -48,6 +50,8 @@ public:
 
     ObjectPointer<WebKitNetworkSession> session(platform::WKWebsiteDataStore store);
     ObjectPointer<WebKitSettings> makeSettings(const platform::WKPreferences& preferences) const;
+    const std::shared_ptr<Turns>& offscreenTurns() const { return offscreenTurns_; }
+    const std::shared_ptr<PrintChoice>& printChoice() const { return printChoice_; }
     const std::shared_ptr<FrontPage>& frontPage() const { return frontPage_; }
     std::shared_ptr<const HostTrust> trust();
 
@@ -65,6 +69,8 @@ private:
     Patience patience_;
     std::shared_ptr<ProcessSharing> sharing_ = std::make_shared<ProcessSharing>();
     std::shared_ptr<FrontPage> frontPage_ = std::make_shared<FrontPage>();
+    const std::shared_ptr<Turns> offscreenTurns_;
+    const std::shared_ptr<PrintChoice> printChoice_ = std::make_shared<PrintChoice>();
     std::shared_ptr<const HostTrust> trust_; // read with the first session
     ObjectPointer<WebKitNetworkSession> session_; // made when first needed
     ObjectPointer<WebKitWebView> spareView_;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/appkit/NSWindow.h"
+#include "platform/gtk/webkit/OffscreenWebView.h"
+
+namespace gtk {
+
+// A window that holds a view which is only printed. The engine prints views that are in no window
+// of the toolkit, so there is none behind this one: nothing can come onto a screen by mistake, on a
+// desktop that does not let programs place their windows either.
+class OffscreenWindow final : public platform::NSWindow {
+public:
+    OffscreenWindow(const platform::NSRect& frame, std::shared_ptr<OffscreenWebView> contentView);
+    ~OffscreenWindow() override { close(); }
+
+    platform::NSScreen* screen() const override { return nullptr; }
+    bool isVisible() const override { return false; }
+    platform::NSRect frame() const override { return frame_; }
+    void setFrame(const platform::NSRect& frame, bool, bool) override { frame_ = frame; }
+    platform::NSSize minSize() const override { return minSize_; }
+    void setMinSize(platform::NSSize size) override { minSize_ = size; }
+    bool isFullScreen() const override { return false; }
+
+    std::uint32_t collectionBehavior() const override { return collectionBehavior_; }
+    void setCollectionBehavior(std::uint32_t behavior) override { collectionBehavior_ = behavior; }
+    TabbingMode tabbingMode() const override { return tabbingMode_; }
+    void setTabbingMode(TabbingMode mode) override { tabbingMode_ = mode; }
+    bool isRestorable() const override { return isRestorable_; }
+    void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
+
+    bool canBecomeMainWindow() const override { return false; }
+    platform::NSView* contentView() const override { return contentView_.get(); }
+    void makeKeyAndOrderFront() override { }
+    void close() override;
+
+private:
+    platform::NSRect frame_;
+    platform::NSSize minSize_;
+    std::uint32_t collectionBehavior_ = 0;
+    TabbingMode tabbingMode_ = TabbingMode::automatic;
+    bool isRestorable_ = true;
+    std::shared_ptr<OffscreenWebView> contentView_; // null once the window is closed
+};
+
+} // namespace gtk

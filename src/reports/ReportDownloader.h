@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/foundation/UUID.h"
+#include "reports/Session.h"
+
+#include <map>
+#include <optional>
+#include <string>
+
+namespace velmaro {
+
+// Prints the reports that pages hand over as documents, or saves them as PDF in the user's folder
+// for downloads. Each report is a job with a web view of its own that nobody sees. Any number can
+// run at once, and none can be cancelled: a document that never finishes loading stays until the
+// application ends.
+//
+// Main thread only. Callers are not told how a job ends; the user is.
+class ReportDownloader {
+public:
+    // The one of this application.
+    static ReportDownloader& shared();
+
+    // `html` is a complete document. Without a file name the file is called like the title.
+    void savePDF(const std::string& title, const std::optional<std::string>& filename,
+        const std::string& html);
+
+    // `title` names the job in the printer's queue.
+    void printReport(const std::string& title, const std::string& html);
+
+    // The jobs that have not ended. A job's web view and delegate live as long as it is in here.
+    std::map<platform::UUID, Session> pending;
+
+private:
+    void start(const platform::UUID& id, std::shared_ptr<platform::WKNavigationDelegate> delegate,
+        const std::string& html);
+};
+
+} // namespace velmaro
