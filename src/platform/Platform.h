@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <typeindex>
 #include <unordered_map>
+#include <vector>
 
 namespace platform {
 
@@ -19,11 +21,13 @@ class NSScreen;
 class NSTextField;
 class NSView;
 class NSWorkspace;
+class URL;
 class URLCache;
 class UserDefaults;
 class WKWebView;
 struct MKLocalSearchRequest;
 struct NSAlert;
+struct NSOpenPanel;
 struct WKWebViewConfiguration;
 
 // Everything the application asks of the desktop it runs on. One platform is current at a time: the
@@ -70,6 +74,10 @@ public:
 
     // See `NSAlert::runModal`.
     virtual void runModal(const NSAlert& alert, std::function<void(int button)> completion) = 0;
+
+    // See `NSOpenPanel::begin`.
+    virtual void showOpenPanel(const NSOpenPanel& panel,
+        std::function<void(const std::optional<std::vector<URL>>& files)> completion) = 0;
 
     // Writes one line to the system log.
     virtual void log(const std::string& line) = 0;

@@ -2,6 +2,7 @@
 
 #include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSApplication.h"
+#include "platform/appkit/NSOpenPanel.h"
 #include "platform/appkit/NSWorkspace.h"
 #include "platform/Platform.h"
 
@@ -23,6 +24,11 @@ void NSAlert::runModal(std::function<void(int button)> completion) const
 NSApplication& NSApplication::shared()
 {
     return Platform::current().application();
+}
+
+void NSOpenPanel::begin(Completion completion) const
+{
+    Platform::current().showOpenPanel(*this, std::move(completion));
 }
 
 NSScreen* NSScreen::main()

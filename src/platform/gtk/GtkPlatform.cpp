@@ -2,6 +2,7 @@
 
 #include "platform/gtk/appkit/AlertPresenter.h"
 #include "platform/gtk/appkit/Application.h"
+#include "platform/gtk/appkit/OpenPanel.h"
 #include "platform/gtk/appkit/PlainView.h"
 #include "platform/gtk/appkit/RendererPolicy.h"
 #include "platform/gtk/appkit/Screen.h"
@@ -166,6 +167,12 @@ void GtkPlatform::runModal(
     const platform::NSAlert& alert, std::function<void(int button)> completion)
 {
     alerts_->run(alert, std::move(completion));
+}
+
+void GtkPlatform::showOpenPanel(
+    const platform::NSOpenPanel& panel, platform::NSOpenPanel::Completion completion)
+{
+    gtk::showOpenPanel(panel, std::move(completion));
 }
 
 void GtkPlatform::log(const std::string& line)

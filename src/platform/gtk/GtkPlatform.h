@@ -33,8 +33,8 @@ public:
     explicit GtkPlatform(Options options);
     ~GtkPlatform() override;
 
-    // Trusts a certificate for its host and no other. Why that cannot be done, when its file holds
-    // none. To be called before the application runs.
+    // Trusts a certificate for its hosts and no others. Why that cannot be done, when its file
+    // holds none. To be called before the application runs.
     std::optional<std::string> trust(HostCertificate certificate);
 
     // Tells whose pages will be shown first, so that its address is looked up while the program
@@ -59,6 +59,9 @@ public:
         const platform::MKLocalSearchRequest& request) override;
     void runModal(
         const platform::NSAlert& alert, std::function<void(int button)> completion) override;
+    void showOpenPanel(const platform::NSOpenPanel& panel,
+        std::function<void(const std::optional<std::vector<platform::URL>>& files)> completion)
+        override;
     void log(const std::string& line) override;
 
     // What all web views share; made on first use.

@@ -8,6 +8,7 @@
 #include "platform/simulated/SimulatedApplication.h"
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedFileManager.h"
+#include "platform/simulated/SimulatedOpenPanels.h"
 #include "platform/simulated/SimulatedQueue.h"
 #include "platform/simulated/SimulatedScreen.h"
 #include "platform/simulated/SimulatedTextField.h"
@@ -36,6 +37,7 @@ public:
     SimulatedFileManager& fileManager() override { return fileManager_; }
     SimulatedWorkspace& workspace() override { return workspace_; }
     SimulatedAlerts& alerts() { return alerts_; }
+    SimulatedOpenPanels& openPanels() { return openPanels_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
     std::shared_ptr<platform::NSTextField> makeTextField() override;
@@ -49,6 +51,11 @@ public:
         const platform::NSAlert& alert, std::function<void(int button)> completion) override
     {
         alerts_.run(alert, std::move(completion));
+    }
+    void showOpenPanel(
+        const platform::NSOpenPanel& panel, platform::NSOpenPanel::Completion completion) override
+    {
+        openPanels_.begin(panel, std::move(completion));
     }
     void log(const std::string& line) override { logLines.push_back(line); }
 
@@ -88,6 +95,7 @@ private:
     SimulatedFileManager fileManager_;
     SimulatedWorkspace workspace_;
     SimulatedAlerts alerts_;
+    SimulatedOpenPanels openPanels_;
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;

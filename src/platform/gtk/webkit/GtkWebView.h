@@ -2,6 +2,7 @@
 
 #include "platform/gtk/ui/NativeView.h"
 #include "platform/gtk/webkit/PageKeeper.h"
+#include "platform/gtk/webkit/PageRequests.h"
 #include "platform/gtk/webkit/PageSearch.h"
 #include "platform/gtk/webkit/PropertyObservers.h"
 #include "platform/gtk/webkit/UserContent.h"
@@ -62,6 +63,7 @@ private:
     Gtk::Overlay area_;
     PageKeeper keeper_;
     PageSearch search_;
+    PageRequests requests_;
     PropertyObservers observers_;
     SignalHandlers signals_;
 };
