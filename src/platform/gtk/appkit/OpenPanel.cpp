@@ -1,6 +1,7 @@
 #include "platform/gtk/appkit/OpenPanel.h"
 
 #include <glibmm/main.h>
+#include <gtkmm/application.h>
 #include <gtkmm/filechoosernative.h>
 
 namespace gtk {
@@ -11,14 +12,21 @@ namespace {
 std::vector<platform::URL> filesOf(const Gtk::FileChooserNative& chooser)
 {
     std::vector<platform::URL> files;
-    const Glib::RefPtr<Gio::ListModel> chosen =
-        const_cast<Gtk::FileChooserNative&>(chooser).get_files();
-    for (guint index = 0; index < chosen->get_n_items(); ++index) {
-        const auto file = std::dynamic_pointer_cast<Gio::File>(chosen->get_object(index));
-        if (const auto path = file ? file->get_path() : ""; !path.empty())
+    auto* native = GTK_FILE_CHOOSER(const_cast<GtkFileChooserNative*>(chooser.gobj()));
+    g_autoptr(GListModel) chosen = gtk_file_chooser_get_files(native);
+    for (guint index = 0; index < g_list_model_get_n_items(chosen); ++index) {
+        g_autoptr(GFile) file = G_FILE(g_list_model_get_item(chosen, index));
+        if (const char* path = g_file_peek_path(file))
             files.push_back(platform::URL::fileURL(path));
     }
     return files;
+}
+
+Gtk::Window* activeWindow()
+{
+    const auto application =
+        std::dynamic_pointer_cast<Gtk::Application>(Gio::Application::get_default());
+    return application ? application->get_active_window() : nullptr;
 }
 
 } // namespace
@@ -30,6 +38,9 @@ void showOpenPanel(const platform::NSOpenPanel& panel, platform::NSOpenPanel::Co
     const auto chooser = Gtk::FileChooserNative::create(
         "Open", panel.canChooseFiles ? Action::OPEN : Action::SELECT_FOLDER, "_Open", "_Cancel");
     chooser->set_select_multiple(panel.allowsMultipleSelection);
+
+    if (auto* window = activeWindow())
+        chooser->set_transient_for(*window); // stays above it, and leaves it usable
 
     // The panel keeps itself until it is answered; the toolkit still uses it in the answer.
     chooser->signal_response().connect([chooser, completion = std::move(completion)](int response) {

@@ -59,13 +59,22 @@ bool carriesFile(WebKitURIResponse* response)
         || status == SOUP_STATUS_NON_AUTHORITATIVE || status == SOUP_STATUS_PARTIAL_CONTENT;
 }
 
+// The engine takes paths, and decodes escapes in them that are none.
+std::string pathForEngine(const URL& file)
+{
+    std::string escaped;
+    for (const char letter : file.path())
+        escaped += letter == '%' ? "%25" : std::string(1, letter);
+    return escaped;
+}
+
 void give(WebKitFileChooserRequest* request, const std::optional<std::vector<URL>>& files)
 {
     if (!files)
         return webkit_file_chooser_request_cancel(request);
     std::vector<std::string> paths;
     for (const auto& file : *files)
-        paths.push_back(file.path());
+        paths.push_back(pathForEngine(file));
     std::vector<const char*> pointers;
     for (const auto& path : paths)
         pointers.push_back(path.c_str());
