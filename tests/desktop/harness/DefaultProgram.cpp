@@ -23,6 +23,7 @@ DefaultProgram::DefaultProgram()
     const auto folder = fs::path(std::getenv("HOME")) / "default-program";
     fs::create_directories(folder);
     notes_ = folder / "notes";
+    fs::remove(notes_);
     const auto program = folder / "program";
     std::ofstream(program) << script;
     fs::permissions(program, fs::perms::owner_all);

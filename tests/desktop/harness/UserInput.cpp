@@ -27,9 +27,14 @@ void UserInput::type(const std::string& text)
     run({"type", "--delay", "1", text});
 }
 
-void UserInput::click(int x, int y, int button)
+void UserInput::movePointer(int x, int y)
 {
-    run({"mousemove", std::to_string(x), std::to_string(y), "click", std::to_string(button)});
+    run({"mousemove", std::to_string(x), std::to_string(y)});
+}
+
+void UserInput::click(int button)
+{
+    run({"click", std::to_string(button)});
 }
 
 } // namespace desktop

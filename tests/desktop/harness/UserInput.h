@@ -13,8 +13,10 @@ public:
 
     static void type(const std::string& text);
 
-    // Moves the pointer there, in pixels from the upper left corner of the screen, and clicks.
-    static void click(int x, int y, int button = leftButton);
+    // In pixels from the upper left corner of the screen.
+    static void movePointer(int x, int y);
+
+    static void click(int button = leftButton);
 
     static constexpr int leftButton = 1;
     static constexpr int middleButton = 2;
