@@ -2,6 +2,7 @@
 
 #include <glibmm/main.h>
 #include <gtkmm/application.h>
+#include <gtkmm/dialog.h>
 #include <gtkmm/filechoosernative.h>
 
 namespace gtk {
@@ -42,10 +43,12 @@ void showOpenPanel(const platform::NSOpenPanel& panel, platform::NSOpenPanel::Co
     if (auto* window = activeWindow())
         chooser->set_transient_for(*window); // stays above it, and leaves it usable
 
-    // The panel keeps itself until it is answered; the toolkit still uses it in the answer.
-    chooser->signal_response().connect([chooser, completion = std::move(completion)](int response) {
-        auto keptUntilIdle = chooser;
-        completion(response == Gtk::ResponseType::ACCEPT ? std::optional(filesOf(*chooser))
+    // The panel keeps itself until it is answered, and the toolkit still uses it in the answer.
+    const auto self = std::make_shared<Glib::RefPtr<Gtk::FileChooserNative>>(chooser);
+    chooser->signal_response().connect([self, completion = std::move(completion)](int response) {
+        const auto answered = std::exchange(*self, nullptr);
+        Glib::signal_idle().connect_once([answered] {});
+        completion(response == Gtk::ResponseType::ACCEPT ? std::optional(filesOf(*answered))
                                                          : std::nullopt);
     });
     chooser->show();

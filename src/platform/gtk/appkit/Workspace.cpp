@@ -50,7 +50,7 @@ void Workspace::activateFileViewerSelecting(const std::vector<platform::URL>& fi
         folder = folderOf(file);
     }
     auto* arguments = g_variant_ref_sink(g_variant_new("(ass)", &addresses, ""));
-    g_autoptr(GVariant) owned = arguments;
+    [[maybe_unused]] g_autoptr(GVariant) owned = arguments;
     if (folder.empty())
         return;
 
