@@ -5,6 +5,7 @@
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tabs/RouteRestorer.h"
 #include "tabs/TabbedAppModel.h"
+#include "web/NavigationPolicy.h"
 
 #include <benchmark/benchmark.h>
 
@@ -105,6 +106,19 @@ void reportProgress(benchmark::State& state)
     }
 }
 
+// From the address as the web engine tells it to the decision.
+void decideNavigation(benchmark::State& state)
+{
+    const simulated::SimulatedPlatform platform;
+    const auto& service = Service::current();
+    constexpr auto address =
+        "https://www.elsewhere.example:8443/a/page/of/some/length?with=a&few={items}#and-a-place";
+    for (auto _ : state) {
+        const auto url = platform::URL::encodingInvalidCharacters(address);
+        benchmark::DoNotOptimize(useOfNavigation(*url, service));
+    }
+}
+
 void tabCounts(benchmark::internal::Benchmark* benchmark)
 {
     benchmark->Arg(1)->Arg(100)->Arg(10'000)->Unit(benchmark::kMicrosecond);
@@ -117,6 +131,7 @@ BENCHMARK(selectNextTab)->Apply(tabCounts);
 BENCHMARK(moveFirstTabToTheEnd)->Apply(tabCounts);
 BENCHMARK(openAndCloseTab)->Apply(tabCounts);
 BENCHMARK(reportProgress)->Apply(tabCounts);
+BENCHMARK(decideNavigation);
 
 } // namespace
 

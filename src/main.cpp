@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -20,7 +21,8 @@ page to show in it, such as velmaro://page/drives.
   --version  Show the version
 
 VELMARO_SERVICE_ORIGIN       https origin of the web service
-VELMARO_SERVICE_CERTIFICATE  PEM file with a certificate to trust for that host
+VELMARO_CHECKOUT_HOSTS       the payment provider's two hosts, where they are others
+VELMARO_SERVICE_CERTIFICATE  PEM file with a certificate to trust for these hosts
 VELMARO_GEOCODER             address of the Photon service that finds places
 )";
 
@@ -65,8 +67,16 @@ int main(int argumentCount, char** arguments)
                 "VELMARO_SERVICE_ORIGIN is not an https origin such as https://example.com: "
                 + std::string(origin));
     }
+    std::vector<std::string> ownHosts = {service.serviceHost()};
+    if (const char* hosts = std::getenv("VELMARO_CHECKOUT_HOSTS")) {
+        if (!service.setPaymentCheckoutHosts(hosts))
+            return fail("VELMARO_CHECKOUT_HOSTS is not two host names with a blank between them: "
+                + std::string(hosts));
+        const auto& named = service.paymentCheckoutHosts();
+        ownHosts.insert(ownHosts.end(), named.begin(), named.end());
+    }
     if (const char* path = std::getenv("VELMARO_SERVICE_CERTIFICATE")) {
-        if (const auto failure = platform.trust({service.serviceHost(), path}))
+        if (const auto failure = platform.trust({ownHosts, path}))
             return fail("VELMARO_SERVICE_CERTIFICATE cannot be used: " + *failure);
     }
     platform.expectHost(service.serviceHost());

@@ -4,9 +4,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <typeindex>
 #include <unordered_map>
+#include <vector>
 
 namespace platform {
 
@@ -23,12 +25,14 @@ class NSView;
 class NSWindow;
 class NSWorkspace;
 class ProcessInfo;
+class URL;
 class URLCache;
 class UserDefaults;
 class WKWebView;
 struct MKLocalSearchRequest;
 struct NSAlert;
 struct NSSharingServicePicker;
+struct NSOpenPanel;
 struct WKWebViewConfiguration;
 
 // Everything the application asks of the desktop it runs on. One platform is current at a time: the
@@ -92,6 +96,10 @@ public:
     // See `NSSharingServicePicker::show`.
     virtual void showSharingServices(const NSSharingServicePicker& picker, const NSRect& rectangle,
         NSView& view, NSRectEdge preferredEdge) = 0;
+
+    // See `NSOpenPanel::begin`.
+    virtual void showOpenPanel(const NSOpenPanel& panel,
+        std::function<void(const std::optional<std::vector<URL>>& files)> completion) = 0;
 
     // Writes one line to the system log.
     virtual void log(const std::string& line) = 0;

@@ -1,11 +1,17 @@
 #include "web/Coordinator.h"
 
+#include "platform/appkit/NSOpenPanel.h"
+#include "platform/appkit/NSWorkspace.h"
 #include "platform/foundation/DispatchQueue.h"
+#include "web/NavigationPolicy.h"
 #include "web/PageMessages.h"
 
 namespace velmaro {
 
 using platform::DispatchQueue;
+using platform::NSWorkspace;
+using platform::WKNavigationAction;
+using platform::WKNavigationActionPolicy;
 using platform::WKWebView;
 
 void Coordinator::observe(const std::shared_ptr<WKWebView>& webView)
@@ -44,6 +50,50 @@ void Coordinator::userContentControllerDidReceiveScriptMessage(
         if (const auto self = weakSelf.lock())
             action(*self->model);
     });
+}
+
+void Coordinator::decidePolicy(WKWebView&, const WKNavigationAction& action,
+    const std::function<void(WKNavigationActionPolicy)>& decide)
+{
+    if (action.shouldPerformDownload)
+        return decide(WKNavigationActionPolicy::download);
+    if (!action.requestURL)
+        return decide(WKNavigationActionPolicy::cancel);
+
+    const auto use = useOfNavigation(*action.requestURL, Service::current());
+    if (use == AddressUse::withSystem)
+        NSWorkspace::shared().open(*action.requestURL);
+    decide(use == AddressUse::inTab ? WKNavigationActionPolicy::allow
+                                    : WKNavigationActionPolicy::cancel);
+}
+
+std::shared_ptr<WKWebView> Coordinator::createWebView(
+    WKWebView& webView, const WKNavigationAction& action)
+{
+    if (!action.requestURL)
+        return nullptr;
+    switch (useOfNewWindow(*action.requestURL, Service::current())) {
+    case AddressUse::inTab:
+        webView.load({*action.requestURL});
+        break;
+    case AddressUse::withSystem:
+        NSWorkspace::shared().open(*action.requestURL);
+        break;
+    case AddressUse::none:
+        break;
+    }
+    return nullptr;
+}
+
+void Coordinator::runOpenPanel(WKWebView&, const platform::WKOpenPanelParameters& parameters,
+    std::function<void(const std::optional<std::vector<platform::URL>>&)> choose)
+{
+    const platform::NSOpenPanel panel{
+        .canChooseFiles = true,
+        .canChooseDirectories = false,
+        .allowsMultipleSelection = parameters.allowsMultipleSelection,
+    };
+    panel.begin(std::move(choose));
 }
 
 } // namespace velmaro

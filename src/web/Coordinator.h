@@ -1,6 +1,8 @@
 #pragma once
 
+#include "platform/webkit/WKNavigationDelegate.h"
 #include "platform/webkit/WKScriptMessageHandler.h"
+#include "platform/webkit/WKUIDelegate.h"
 #include "platform/webkit/WKWebView.h"
 #include "web/WebModel.h"
 
@@ -10,8 +12,10 @@
 namespace velmaro {
 
 // Stands between one web view and its tab's model. It keeps the model's mirrors of the web view up
-// to date and receives what pages post.
+// to date, receives what pages post, and decides where they may go.
 class Coordinator final : public platform::WKScriptMessageHandler,
+                          public platform::WKNavigationDelegate,
+                          public platform::WKUIDelegate,
                           public std::enable_shared_from_this<Coordinator> {
 public:
     explicit Coordinator(std::shared_ptr<WebModel> model)
@@ -28,6 +32,18 @@ public:
 
     void userContentControllerDidReceiveScriptMessage(
         const platform::WKScriptMessage& message) override;
+
+    // Decides at once.
+    void decidePolicy(platform::WKWebView& webView, const platform::WKNavigationAction& action,
+        const std::function<void(platform::WKNavigationActionPolicy)>& decide) override;
+
+    // Always null: what may be shown replaces the page of the same tab.
+    std::shared_ptr<platform::WKWebView> createWebView(
+        platform::WKWebView& webView, const platform::WKNavigationAction& action) override;
+
+    void runOpenPanel(platform::WKWebView& webView,
+        const platform::WKOpenPanelParameters& parameters,
+        std::function<void(const std::optional<std::vector<platform::URL>>&)> choose) override;
 };
 
 } // namespace velmaro

@@ -4,6 +4,7 @@
 
 #include <cassert>
 #include <charconv>
+#include <sstream>
 
 namespace velmaro {
 
@@ -40,6 +41,16 @@ bool Service::setServiceOrigin(const std::string& origin)
         return false;
     serviceOrigin_ = origin;
     serviceHost_ = *url->host();
+    return true;
+}
+
+bool Service::setPaymentCheckoutHosts(const std::string& hosts)
+{
+    std::istringstream words(hosts);
+    std::string checkout, sandbox, rest;
+    if (!(words >> checkout >> sandbox) || words >> rest)
+        return false;
+    paymentCheckoutHosts_ = {checkout, sandbox};
     return true;
 }
 

@@ -32,6 +32,10 @@ public:
     // a host and nothing after it but a port.
     bool setServiceOrigin(const std::string& origin);
 
+    // Takes other checkout hosts for this run, separated by a blank: the payment provider's and its
+    // sandbox's. False, and nothing changed, unless `hosts` names two.
+    bool setPaymentCheckoutHosts(const std::string& hosts);
+
 private:
     std::string serviceOrigin_;
     std::string serviceHost_;

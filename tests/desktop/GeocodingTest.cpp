@@ -346,11 +346,11 @@ TEST_F(GeocodingTest, theUsersCertificateCountsForItsHostOnly)
     };
     const auto path = environment.at("VELMARO_SERVICE_CERTIFICATE");
     const Case cases[] = {
-        {service.origin(), gtk::HostCertificate{host, path}, true},
-        {service.origin() + "/", gtk::HostCertificate{host, path}, true},
+        {service.origin(), gtk::HostCertificate{{host}, path}, true},
+        {service.origin() + "/", gtk::HostCertificate{{host}, path}, true},
         {service.origin(), std::nullopt, false},
-        {elsewhere, gtk::HostCertificate{host, path}, false},
-        {service.origin(), gtk::HostCertificate{"elsewhere.localhost", path}, false},
+        {elsewhere, gtk::HostCertificate{{host}, path}, false},
+        {service.origin(), gtk::HostCertificate{{"elsewhere.localhost"}, path}, false},
     };
     for (const auto& [address, certificate, isTrusted] : cases) {
         gtk::SearchCompleter completer(

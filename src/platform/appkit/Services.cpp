@@ -2,6 +2,7 @@
 
 #include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSApplication.h"
+#include "platform/appkit/NSOpenPanel.h"
 #include "platform/appkit/NSPrintInfo.h"
 #include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/appkit/NSWorkspace.h"
@@ -30,6 +31,11 @@ NSApplication& NSApplication::shared()
 NSPrintInfo& NSPrintInfo::shared()
 {
     return Platform::current().shared<NSPrintInfo>();
+}
+
+void NSOpenPanel::begin(Completion completion) const
+{
+    Platform::current().showOpenPanel(*this, std::move(completion));
 }
 
 NSScreen* NSScreen::main()

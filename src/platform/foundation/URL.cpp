@@ -1,5 +1,7 @@
 #include "platform/foundation/URL.h"
 
+#include "platform/foundation/PercentEncoding.h"
+
 #include <algorithm>
 #include <memory>
 #include <uriparser/Uri.h>
@@ -34,28 +36,6 @@ std::optional<std::string> textOf(const UriTextRangeA& range)
     return std::string(range.first, range.afterLast);
 }
 
-int hexValue(char digit)
-{
-    if (digit <= '9')
-        return digit - '0';
-    return (digit | 0x20) - 'a' + 10;
-}
-
-// The parser has made sure that two hexadecimal digits follow every percent sign.
-std::string percentDecoded(const std::string& text)
-{
-    std::string decoded;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '%') {
-            decoded += static_cast<char>(hexValue(text[i + 1]) * 16 + hexValue(text[i + 2]));
-            i += 2;
-        } else {
-            decoded += text[i];
-        }
-    }
-    return decoded;
-}
-
 std::vector<std::string> pathComponentsOf(const UriUriA& uri)
 {
     std::vector<std::string> components;
@@ -85,28 +65,6 @@ std::string pathOf(const UriUriA& uri)
     return path;
 }
 
-bool isUnescapedInPaths(char letter)
-{
-    constexpr std::string_view marks = "/-._~!$&'()*+,;=:@";
-    return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z')
-        || (letter >= '0' && letter <= '9') || marks.find(letter) != marks.npos;
-}
-
-std::string percentEncoded(std::string_view path)
-{
-    constexpr auto digits = "0123456789ABCDEF";
-    std::string encoded;
-    for (const char letter : path) {
-        if (isUnescapedInPaths(letter)) {
-            encoded += letter;
-            continue;
-        }
-        const auto byte = static_cast<unsigned char>(letter);
-        encoded += {'%', digits[byte >> 4], digits[byte & 15]};
-    }
-    return encoded;
-}
-
 } // namespace
 
 std::optional<URL> URL::fromString(std::string_view text)
@@ -133,9 +91,14 @@ std::optional<URL> URL::fromString(std::string_view text)
     return url;
 }
 
+std::optional<URL> URL::encodingInvalidCharacters(std::string_view text)
+{
+    return fromString(withInvalidCharactersEncoded(text));
+}
+
 URL URL::fileURL(std::string_view path)
 {
-    return *fromString("file://" + percentEncoded(path));
+    return *fromString("file://" + percentEncodedPath(path));
 }
 
 bool URL::isFileURL() const
@@ -169,7 +132,7 @@ URL URL::appendingPathComponent(std::string_view name) const
     auto text = text_;
     if (!text.ends_with('/'))
         text += '/';
-    return *fromString(text + percentEncoded(name));
+    return *fromString(text + percentEncodedPath(name));
 }
 
 } // namespace platform

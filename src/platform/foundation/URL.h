@@ -13,6 +13,11 @@ class URL {
 public:
     static std::optional<URL> fromString(std::string_view text);
 
+    // The address written by looser rules, such as those of web pages: whatever may not stand where
+    // it does is percent-escaped, which changes no part of the address. Absent when that does not
+    // make it valid.
+    static std::optional<URL> encodingInvalidCharacters(std::string_view text);
+
     // The address of a file or folder by its absolute path, whatever bytes it consists of.
     static URL fileURL(std::string_view path);
 

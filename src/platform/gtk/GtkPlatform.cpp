@@ -5,6 +5,7 @@
 #include "platform/gtk/appkit/Appearance.h"
 #include "platform/gtk/appkit/Application.h"
 #include "platform/gtk/appkit/OffscreenWindow.h"
+#include "platform/gtk/appkit/OpenPanel.h"
 #include "platform/gtk/appkit/PlainView.h"
 #include "platform/gtk/appkit/RendererPolicy.h"
 #include "platform/gtk/appkit/Screen.h"
@@ -200,6 +201,12 @@ void GtkPlatform::showSharingServices(const platform::NSSharingServicePicker& pi
     const platform::NSRect&, platform::NSView&, platform::NSRectEdge)
 {
     sharing_ = std::make_unique<SharePanel>(picker.items);
+}
+
+void GtkPlatform::showOpenPanel(
+    const platform::NSOpenPanel& panel, platform::NSOpenPanel::Completion completion)
+{
+    gtk::showOpenPanel(panel, std::move(completion));
 }
 
 void GtkPlatform::log(const std::string& line)

@@ -36,8 +36,8 @@ public:
     explicit GtkPlatform(Options options);
     ~GtkPlatform() override;
 
-    // Trusts a certificate for its host and no other. Why that cannot be done, when its file holds
-    // none. To be called before the application runs.
+    // Trusts a certificate for its hosts and no others. Why that cannot be done, when its file
+    // holds none. To be called before the application runs.
     std::optional<std::string> trust(HostCertificate certificate);
 
     // Tells whose pages will be shown first, so that its address is looked up while the program
@@ -70,6 +70,9 @@ public:
     void showSharingServices(const platform::NSSharingServicePicker& picker,
         const platform::NSRect& rectangle, platform::NSView& view,
         platform::NSRectEdge preferredEdge) override;
+    void showOpenPanel(const platform::NSOpenPanel& panel,
+        std::function<void(const std::optional<std::vector<platform::URL>>& files)> completion)
+        override;
     void log(const std::string& line) override;
 
     // What all web views share; made on first use.

@@ -9,6 +9,7 @@
 #include "platform/simulated/SimulatedApplication.h"
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedFileManager.h"
+#include "platform/simulated/SimulatedOpenPanels.h"
 #include "platform/simulated/SimulatedProcessInfo.h"
 #include "platform/simulated/SimulatedQueue.h"
 #include "platform/simulated/SimulatedScreen.h"
@@ -39,6 +40,7 @@ public:
     SimulatedProcessInfo& processInfo() override { return processInfo_; }
     SimulatedWorkspace& workspace() override { return workspace_; }
     SimulatedAlerts& alerts() { return alerts_; }
+    SimulatedOpenPanels& openPanels() { return openPanels_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
     std::shared_ptr<platform::NSTextField> makeTextField() override;
@@ -62,6 +64,12 @@ public:
         platform::NSRectEdge preferredEdge) override
     {
         shares.push_back({picker.items, rectangle, view.window(), preferredEdge});
+    }
+
+    void showOpenPanel(
+        const platform::NSOpenPanel& panel, platform::NSOpenPanel::Completion completion) override
+    {
+        openPanels_.begin(panel, std::move(completion));
     }
     void log(const std::string& line) override { logLines.push_back(line); }
 
@@ -117,6 +125,7 @@ private:
     SimulatedProcessInfo processInfo_;
     SimulatedWorkspace workspace_;
     SimulatedAlerts alerts_;
+    SimulatedOpenPanels openPanels_;
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;

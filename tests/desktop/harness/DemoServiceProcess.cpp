@@ -62,7 +62,11 @@ DemoServiceProcess::DemoServiceProcess(Options options)
 
 Process::Environment DemoServiceProcess::clientEnvironment() const
 {
-    return {{"VELMARO_SERVICE_ORIGIN", origin_}, {"VELMARO_SERVICE_CERTIFICATE", certificate_}};
+    return {
+        {"VELMARO_SERVICE_ORIGIN", origin_},
+        {"VELMARO_SERVICE_CERTIFICATE", certificate_},
+        {"VELMARO_CHECKOUT_HOSTS", "pay.localhost sandbox.pay.localhost"},
+    };
 }
 
 int DemoServiceProcess::port() const

@@ -97,7 +97,7 @@ protected:
         const gtk::StandardPaths paths{
             .config = folder_ / "config", .data = folder_ / "data", .cache = folder_ / "cache"};
         const gtk::HostCertificate certificate{
-            "localhost", writeFile("trusted.pem", trustedCertificate)};
+            {"localhost"}, writeFile("trusted.pem", trustedCertificate)};
         engine = std::make_unique<gtk::WebEngine>(paths, certificate, false);
         engine->setPatience(patience);
     }

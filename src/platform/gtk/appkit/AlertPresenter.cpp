@@ -1,8 +1,11 @@
 #include "platform/gtk/appkit/AlertPresenter.h"
 
+#include "platform/gtk/ui/AccessibleName.h"
+
 #include <algorithm>
 #include <glibmm/main.h>
 #include <gtkmm/application.h>
+#include <gtkmm/image.h>
 #include <gtkmm/messagedialog.h>
 
 namespace gtk {
@@ -10,6 +13,8 @@ namespace gtk {
 namespace {
 
 constexpr auto cancelTitle = "Cancel";
+constexpr int iconSize = 32; // points
+constexpr int iconMargin = 12; // points
 
 Gtk::MessageType messageType(platform::NSAlert::Style style)
 {
@@ -30,6 +35,29 @@ int cancelButton(const platform::NSAlert& alert)
     const auto found = std::ranges::find(alert.buttons, cancelTitle);
     const auto last = std::prev(alert.buttons.end());
     return static_cast<int>((found == alert.buttons.end() ? last : found) - alert.buttons.begin());
+}
+
+// The toolkit draws no sign of its own for any kind of message.
+const char* iconName(platform::NSAlert::Style style)
+{
+    switch (style) {
+    case platform::NSAlert::Style::warning:
+        return "dialog-warning-symbolic";
+    case platform::NSAlert::Style::informational:
+        return "dialog-information-symbolic";
+    case platform::NSAlert::Style::critical:
+        return "dialog-error-symbolic";
+    }
+    return "";
+}
+
+void addIcon(Gtk::MessageDialog& dialog, platform::NSAlert::Style style)
+{
+    auto& icon = *Gtk::make_managed<Gtk::Image>();
+    icon.set_from_icon_name(iconName(style));
+    icon.set_pixel_size(iconSize);
+    icon.set_margin_top(iconMargin);
+    dialog.get_message_area()->prepend(icon);
 }
 
 Gtk::Window* activeWindow()
@@ -63,6 +91,10 @@ void AlertPresenter::showFirst()
     for (std::size_t number = 0; number < alert.buttons.size(); ++number)
         dialog_->add_button(alert.buttons[number], static_cast<int>(number));
     dialog_->set_default_response(platform::NSAlert::firstButton);
+    dialog_->get_widget_for_response(platform::NSAlert::firstButton)
+        ->add_css_class("suggested-action");
+    addIcon(*dialog_, alert.alertStyle);
+    setAccessibleName(*dialog_, alert.messageText);
     if (auto* window = activeWindow())
         dialog_->set_transient_for(*window);
     dialog_->signal_response().connect([this](int response) { answered(response); });

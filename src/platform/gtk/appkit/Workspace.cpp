@@ -1,8 +1,5 @@
 #include "platform/gtk/appkit/Workspace.h"
 
-#include "platform/Platform.h"
-
-#include <gdk/gdk.h>
 #include <gio/gio.h>
 #include <string>
 
@@ -12,35 +9,20 @@ namespace {
 
 constexpr int fileManagerPatience = 5000; // milliseconds
 
-// Carries the token with which the other program may come forward.
-GAppLaunchContext* makeLaunchContext()
-{
-    auto* display = gdk_display_get_default();
-    return display ? G_APP_LAUNCH_CONTEXT(gdk_display_get_app_launch_context(display)) : nullptr;
-}
-
-void didOpen(GObject*, GAsyncResult* result, gpointer)
-{
-    g_autoptr(GError) error = nullptr;
-    if (!g_app_info_launch_default_for_uri_finish(result, &error))
-        platform::NSLog(std::string("No program opens this address: ") + error->message);
-}
-
-void openWithDefaultProgram(const std::string& address)
-{
-    g_autoptr(GAppLaunchContext) context = makeLaunchContext();
-    g_app_info_launch_default_for_uri_async(address.c_str(), context, nullptr, didOpen, nullptr);
-}
-
 // Where there is no file manager that selects, the folder will do.
+struct FolderToOpen {
+    std::shared_ptr<AddressLauncher> launcher;
+    std::string address;
+};
+
 void didReveal(GObject* bus, GAsyncResult* result, gpointer data)
 {
-    g_autofree char* folder = static_cast<char*>(data);
+    const std::unique_ptr<FolderToOpen> folder(static_cast<FolderToOpen*>(data));
     g_autoptr(GError) error = nullptr;
     g_autoptr(GVariant) reply =
         g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, &error);
     if (!reply)
-        openWithDefaultProgram(folder);
+        folder->launcher->launch(folder->address);
 }
 
 std::string folderOf(const platform::URL& file)
@@ -53,7 +35,7 @@ std::string folderOf(const platform::URL& file)
 
 void Workspace::open(const platform::URL& url)
 {
-    openWithDefaultProgram(url.absoluteString());
+    launcher_->launch(url.absoluteString());
 }
 
 void Workspace::activateFileViewerSelecting(const std::vector<platform::URL>& files)
@@ -68,16 +50,16 @@ void Workspace::activateFileViewerSelecting(const std::vector<platform::URL>& fi
         folder = folderOf(file);
     }
     auto* arguments = g_variant_ref_sink(g_variant_new("(ass)", &addresses, ""));
-    g_autoptr(GVariant) owned = arguments;
+    [[maybe_unused]] g_autoptr(GVariant) owned = arguments;
     if (folder.empty())
         return;
 
     g_autoptr(GDBusConnection) bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
     if (!bus)
-        return openWithDefaultProgram(folder);
+        return launcher_->launch(folder);
     g_dbus_connection_call(bus, "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
         "org.freedesktop.FileManager1", "ShowItems", arguments, nullptr, G_DBUS_CALL_FLAGS_NONE,
-        fileManagerPatience, nullptr, didReveal, g_strdup(folder.c_str()));
+        fileManagerPatience, nullptr, didReveal, new FolderToOpen{launcher_, folder});
 }
 
 } // namespace gtk

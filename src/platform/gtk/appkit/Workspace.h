@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/appkit/NSWorkspace.h"
+#include "platform/gtk/appkit/AddressLauncher.h"
 
 namespace gtk {
 
@@ -10,6 +11,9 @@ class Workspace final : public platform::NSWorkspace {
 public:
     void open(const platform::URL& url) override;
     void activateFileViewerSelecting(const std::vector<platform::URL>& files) override;
+
+private:
+    const std::shared_ptr<AddressLauncher> launcher_ = std::make_shared<AddressLauncher>();
 };
 
 } // namespace gtk

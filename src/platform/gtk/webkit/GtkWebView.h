@@ -3,6 +3,7 @@
 #include "platform/gtk/ui/NativeView.h"
 #include "platform/gtk/webkit/PageKeeper.h"
 #include "platform/gtk/webkit/PageOutput.h"
+#include "platform/gtk/webkit/PageRequests.h"
 #include "platform/gtk/webkit/PageSearch.h"
 #include "platform/gtk/webkit/PropertyObservers.h"
 #include "platform/gtk/webkit/UserContent.h"
@@ -77,6 +78,7 @@ private:
     PageKeeper keeper_;
     PageSearch search_;
     PageOutput output_;
+    PageRequests requests_;
     PropertyObservers observers_;
     SignalHandlers signals_;
 };

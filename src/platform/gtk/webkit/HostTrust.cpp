@@ -1,5 +1,7 @@
 #include "platform/gtk/webkit/HostTrust.h"
 
+#include <algorithm>
+
 namespace gtk {
 
 namespace {
@@ -14,8 +16,10 @@ std::string hostOf(const char* address)
 // The engine writes hosts in lower case.
 HostCertificate forEngine(HostCertificate certificate)
 {
-    g_autofree char* host = g_ascii_strdown(certificate.host.c_str(), -1);
-    certificate.host = host;
+    for (auto& host : certificate.hosts) {
+        g_autofree char* lower = g_ascii_strdown(host.c_str(), -1);
+        host = lower;
+    }
     return certificate;
 }
 
@@ -35,22 +39,24 @@ HostTrust::HostTrust(const std::optional<HostCertificate>& certificate)
 void HostTrust::apply(WebKitNetworkSession* session) const
 {
     webkit_network_session_set_tls_errors_policy(session, WEBKIT_TLS_ERRORS_POLICY_FAIL);
-    if (certificate_)
+    if (!certificate_)
+        return;
+    for (const auto& host : trusted_.hosts)
         webkit_network_session_allow_tls_certificate_for_host(
-            session, certificate_.get(), trusted_.host.c_str());
+            session, certificate_.get(), host.c_str());
 }
 
 bool HostTrust::vouchesFor(GTlsCertificate* refused, const char* address) const
 {
-    if (!certificate_ || hostOf(address) != trusted_.host)
+    const auto host = hostOf(address);
+    if (!certificate_ || std::ranges::find(trusted_.hosts, host) == trusted_.hosts.end())
         return false;
 
     const ObjectPointer<GTlsDatabase> authorities(
         g_tls_file_database_new(trusted_.path.c_str(), nullptr));
     if (!authorities)
         return false;
-    const ObjectPointer<GSocketConnectable> identity(
-        g_network_address_new(trusted_.host.c_str(), 443));
+    const ObjectPointer<GSocketConnectable> identity(g_network_address_new(host.c_str(), 443));
     const auto flaws = g_tls_database_verify_chain(authorities.get(), refused,
         G_TLS_DATABASE_PURPOSE_AUTHENTICATE_SERVER, identity.get(), nullptr,
         G_TLS_DATABASE_VERIFY_NONE, nullptr, nullptr);
@@ -62,7 +68,8 @@ bool HostTrust::accept(
 {
     if (!vouchesFor(refused, address))
         return false;
-    webkit_network_session_allow_tls_certificate_for_host(session, refused, trusted_.host.c_str());
+    webkit_network_session_allow_tls_certificate_for_host(
+        session, refused, hostOf(address).c_str());
     return true;
 }
 

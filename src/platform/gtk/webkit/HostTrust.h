@@ -8,7 +8,7 @@
 
 namespace gtk {
 
-// Makes network sessions trust the user's certificate, for its host and no other.
+// Makes network sessions trust the user's certificate, for its hosts and no others.
 class HostTrust {
 public:
     // A file that holds no certificate is told in one line of the log, and nothing is trusted.
@@ -16,8 +16,8 @@ public:
 
     void apply(WebKitNetworkSession* session) const;
 
-    // Whether a certificate that was refused at `address` was issued by the user's, and for that
-    // host.
+    // Whether a certificate that was refused at `address` was issued by the user's, and for a
+    // host of theirs.
     bool vouchesFor(GTlsCertificate* refused, const char* address) const;
 
     // Whether a certificate that the session has refused for the page at `address` was issued by

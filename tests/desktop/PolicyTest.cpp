@@ -1,0 +1,355 @@
+// Where the pages of a tab may go, and what they may have: the application's policy on the real
+// engine and desktop, with the pages of a service that tries everything.
+
+#include "harness/DefaultProgram.h"
+#include "harness/DemoServiceProcess.h"
+#include "harness/Desktop.h"
+#include "harness/UserInput.h"
+#include "platform/gtk/GtkPlatform.h"
+#include "web/Service.h"
+#include "web/WebView.h"
+#include "webview/WebViewTest.h"
+
+namespace desktop {
+
+namespace {
+
+using Addresses = std::vector<std::string>;
+
+constexpr auto windowTitle = "A tab";
+constexpr auto pointedAt = "Pointed at";
+
+// Does something that may come too early again and again, and leaves the program time for it.
+[[nodiscard]] bool repeatUntil(
+    const std::function<void()>& action, const std::function<bool()>& condition)
+{
+    constexpr gint64 pause = G_USEC_PER_SEC / 5;
+    gint64 next = 0;
+    return until([&] {
+        if (condition())
+            return true;
+        if (g_get_monotonic_time() >= next) {
+            action();
+            next = g_get_monotonic_time() + pause;
+        }
+        return false;
+    });
+}
+
+gboolean findNewWindowItem(
+    WebKitWebView*, WebKitContextMenu* menu, WebKitHitTestResult*, GAction** found)
+{
+    for (auto* item = webkit_context_menu_get_items(menu); item; item = item->next) {
+        auto* candidate = WEBKIT_CONTEXT_MENU_ITEM(item->data);
+        if (webkit_context_menu_item_get_stock_action(candidate)
+            == WEBKIT_CONTEXT_MENU_ACTION_OPEN_LINK_IN_NEW_WINDOW)
+            *found = G_ACTION(g_object_ref(webkit_context_menu_item_get_gaction(candidate)));
+    }
+    return FALSE;
+}
+
+// The panel in which files are chosen; null while there is none.
+GtkFileChooser* filePanel()
+{
+    GListModel* windows = gtk_window_get_toplevels();
+    for (guint index = 0; index < g_list_model_get_n_items(windows); ++index) {
+        const gtk::ObjectPointer<GObject> shown(G_OBJECT(g_list_model_get_item(windows, index)));
+        if (GTK_IS_FILE_CHOOSER(shown.get()) && gtk_widget_get_mapped(GTK_WIDGET(shown.get())))
+            return GTK_FILE_CHOOSER(shown.get());
+    }
+    return nullptr;
+}
+
+std::size_t chosenCount()
+{
+    const gtk::ObjectPointer<GListModel> files(gtk_file_chooser_get_files(filePanel()));
+    return g_list_model_get_n_items(files.get());
+}
+
+// A tab on the demo service, on a desktop whose default program is recorded.
+class PolicyTest : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        static const auto application = Gtk::Application::create();
+        ASSERT_TRUE(gtk_init_check());
+    }
+
+    PolicyTest()
+    {
+        auto& hosts = velmaro::Service::current();
+        hosts.setServiceOrigin(service.origin());
+        hosts.setPaymentCheckoutHosts("pay.localhost sandbox.pay.localhost");
+        platform_.trust({{"velmaro.localhost", "pay.localhost", "sandbox.pay.localhost"},
+            service.clientEnvironment().at("VELMARO_SERVICE_CERTIFICATE")});
+        const velmaro::WebView tab{std::make_shared<velmaro::WebModel>("fuel")};
+        coordinator_ = tab.makeCoordinator();
+        view = tab.makeNSView(*coordinator_);
+        auto& native = dynamic_cast<gtk::GtkWebView&>(*view);
+        window.set_title(windowTitle);
+        window.set_default_size(900, 700);
+        window.set_child(native.nativeWidget());
+        window.present();
+        native.setShown(true);
+    }
+
+    ~PolicyTest() override { window.unset_child(); }
+
+    // Whether a page of the service that misbehaves is there.
+    [[nodiscard]] bool loads(const std::string& path, const std::string& title)
+    {
+        view->load({*platform::URL::fromString(service.origin() + path)});
+        return shows(title);
+    }
+
+    [[nodiscard]] bool shows(const std::string& title)
+    {
+        return until([&] { return view->title() == title && !view->isLoading(); });
+    }
+
+    // Clicks on what covers the page, which says in its title that the pointer is over it.
+    void clickInWindow(int button)
+    {
+        view->evaluateJavaScript("document.title = 'Link'");
+        int move = 0;
+        const auto point = [&] {
+            if (const auto shown = Desktop::window(windowTitle)) {
+                const auto frame = shown->frame();
+                UserInput::movePointer(
+                    frame.x + frame.width / 2 + ++move % 9, frame.y + frame.height / 2);
+            }
+        };
+        ASSERT_TRUE(repeatUntil(point, [&] { return view->title() == pointedAt; }));
+        UserInput::click(button);
+    }
+
+    // Presses the right button, and "Open Link in New Window" in the menu that comes.
+    void openLinkInNewWindow()
+    {
+        GAction* item = nullptr;
+        const auto handler =
+            g_signal_connect(page(), "context-menu", G_CALLBACK(findNewWindowItem), &item);
+        clickInWindow(UserInput::rightButton);
+        ASSERT_TRUE(until([&] { return item && contextMenu(); }));
+        g_signal_handler_disconnect(page(), handler);
+        g_action_activate(item, nullptr);
+        g_object_unref(item);
+        gtk_popover_popdown(contextMenu());
+        ASSERT_TRUE(until([&] { return !contextMenu(); }));
+    }
+
+    GtkWidget* page() const
+    {
+        return gtk_overlay_get_child(
+            GTK_OVERLAY(dynamic_cast<gtk::GtkWebView&>(*view).nativeWidget().gobj()));
+    }
+
+    // The one that is open; null while there is none.
+    GtkPopover* contextMenu() const
+    {
+        for (auto* child = gtk_widget_get_first_child(page()); child;
+             child = gtk_widget_get_next_sibling(child)) {
+            if (GTK_IS_POPOVER(child) && gtk_widget_get_mapped(child))
+                return GTK_POPOVER(child);
+        }
+        return nullptr;
+    }
+
+    void click(const std::string& id)
+    {
+        view->evaluateJavaScript("document.getElementById('" + id + "').click()");
+    }
+
+    // Whether these addresses and no others have been opened since the last call, in any order:
+    // programs that are started one after the other run side by side.
+    [[nodiscard]] bool opened(Addresses expected)
+    {
+        expected.push_back("mailto:mark-" + std::to_string(++marks_));
+        view->evaluateJavaScript("window.open('" + expected.back() + "')");
+        std::ranges::sort(expected);
+        Addresses found;
+        EXPECT_TRUE(until([&] {
+            found = program.addresses();
+            found.erase(found.begin(), found.begin() + static_cast<std::ptrdiff_t>(seen_));
+            return found.size() >= expected.size();
+        })) << found.size()
+            << " of " << expected.size();
+        seen_ += found.size();
+        std::ranges::sort(found);
+        EXPECT_EQ(found, expected);
+        return found == expected;
+    }
+
+    std::string elsewhere(const std::string& suffix = "") const
+    {
+        return "https://elsewhere.localhost:" + std::to_string(service.port()) + "/elsewhere"
+            + suffix;
+    }
+
+    DefaultProgram program;
+    DemoServiceProcess service{{.isHostile = true}};
+    std::shared_ptr<platform::WKWebView> view;
+
+private:
+    gtk::GtkPlatform platform_{
+        {.identifier = "example.velmaro.PolicyTest", .address = {}, .geocoder = ""}};
+    std::shared_ptr<velmaro::Coordinator> coordinator_;
+    std::size_t seen_ = 0;
+    int marks_ = 0;
+
+protected:
+    Gtk::Window window;
+};
+
+} // namespace
+
+TEST_F(PolicyTest, linksAndWindowsStayInTheTabOrGoToTheDefaultProgram)
+{
+    constexpr auto here = "Links and new windows";
+    constexpr auto help = "Handbook — Velmaro Online";
+    struct Case {
+        const char* id;
+        Addresses opened;
+        const char* title = here;
+    };
+    const Case table[] = {
+        {"own-blank", {}, help},
+        {"named", {}, help},
+        {"self", {}, help},
+        {"open", {}, help},
+        {"foreign", {elsewhere()}},
+        {"foreign-blank", {elsewhere()}},
+        {"foreign-download", {elsewhere()}},
+        {"open-foreign", {elsewhere()}},
+        {"open-empty", {}},
+        {"mail", {"mailto:support@velmaro.example?subject=Hello"}},
+        {"mail-blank", {"mailto:support@velmaro.example"}},
+        {"tel", {"tel:+0005550142"}},
+        {"sms", {"sms:+0005550142"}},
+        {"sms-blank", {}},
+        {"facetime", {"facetime:robin@velmaro.example"}},
+        {"custom", {}},
+        {"unknown", {}},
+        {"data", {}},
+        {"blob", {}},
+        {"file", {}},
+    };
+    ASSERT_TRUE(loads("/hostile/windows", here));
+    for (const auto& [id, addresses, title] : table) {
+        SCOPED_TRACE(id);
+        click(id);
+        if (title != here) {
+            EXPECT_TRUE(shows(title));
+            EXPECT_TRUE(loads("/hostile/windows", here));
+        }
+        EXPECT_TRUE(opened(addresses));
+        EXPECT_EQ(view->title(), here);
+    }
+    for (const auto& start : program.starts())
+        EXPECT_NE(start.activationToken, "") << start.address;
+}
+
+TEST_F(PolicyTest, aMiddleClickAndTheContextMenuAskForAWindow)
+{
+    const auto showLink = [&](const std::string& address) {
+        ASSERT_TRUE(loads("/help", "Handbook — Velmaro Online"));
+        view->evaluateJavaScript(
+            "document.body.innerHTML = '<a style=\"position: fixed; inset: 0\" href=\"" + address
+            + "\">Link</a>'; document.title = 'Link';"
+              "document.querySelector('a').onmousemove = () => { document.title = '"
+            + pointedAt + "' }");
+        ASSERT_TRUE(shows("Link"));
+    };
+    showLink("sms:+1"); // is opened as a navigation, and is not as a window
+    clickInWindow(UserInput::middleButton);
+    EXPECT_TRUE(opened({}));
+    openLinkInNewWindow();
+    EXPECT_TRUE(opened({}));
+    clickInWindow(UserInput::leftButton);
+    EXPECT_TRUE(opened({"sms:+1"}));
+
+    for (const bool isMiddleClick : {true, false}) {
+        SCOPED_TRACE(isMiddleClick ? "middle click" : "context menu");
+        showLink(elsewhere());
+        isMiddleClick ? clickInWindow(UserInput::middleButton) : openLinkInNewWindow();
+        EXPECT_TRUE(opened({elsewhere()}));
+        EXPECT_EQ(view->title(), pointedAt);
+
+        showLink("/checkout");
+        isMiddleClick ? clickInWindow(UserInput::middleButton) : openLinkInNewWindow();
+        EXPECT_TRUE(shows("Checkout — Velmaro Online"));
+    }
+    EXPECT_EQ(Desktop::windows().size(), 1u);
+}
+
+TEST_F(PolicyTest, fileInputsOpenAPanel)
+{
+    const auto folder = std::filesystem::path(std::getenv("HOME")) / "files";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "a %23 b.csv") << "a,b\n";
+    const auto openPanel = [&](const std::string& id) {
+        view->evaluateJavaScript("document.title = 'Files'");
+        click(id);
+        ASSERT_TRUE(until([&] { return filePanel() && Desktop::window("Open"); }));
+    };
+    const auto closePanelWith = [](const char* key) {
+        const auto press = [&] { UserInput::press(key); };
+        EXPECT_TRUE(repeatUntil(press, [] { return !filePanel(); }));
+    };
+    // What the page says about the input, in its title.
+    const auto says = [&](const std::string& text) {
+        return until([&] {
+            view->evaluateJavaScript("document.title = document.body.lastElementChild.textContent");
+            return view->title() == text;
+        });
+    };
+    ASSERT_TRUE(loads("/hostile/files", "File inputs and a drop zone"));
+
+    openPanel("one");
+    EXPECT_FALSE(gtk_file_chooser_get_select_multiple(filePanel()));
+    const gtk::ObjectPointer<GFile> file(g_file_new_for_path((folder / "a %23 b.csv").c_str()));
+    gtk_file_chooser_set_file(filePanel(), file.get(), nullptr);
+    ASSERT_TRUE(until([&] { return chosenCount() == 1; }));
+    closePanelWith("Return");
+    EXPECT_TRUE(says("one: a %23 b.csv (4)"));
+
+    openPanel("several");
+    EXPECT_TRUE(gtk_file_chooser_get_select_multiple(filePanel()));
+    closePanelWith("Escape");
+    EXPECT_TRUE(says("several: cancelled"));
+}
+
+TEST_F(PolicyTest, framesStayOnTheServiceAndManyForeignOnesDoNotFreezeTheWindow)
+{
+    constexpr int count = 200;
+    Addresses expected = {"mailto:frame@velmaro.example"};
+    for (int frame = 0; frame < count; ++frame)
+        expected.push_back(elsewhere("?frame=" + std::to_string(frame)));
+
+    gint64 last = g_get_monotonic_time(), longestPause = 0;
+    gtk::Timer pulse;
+    const std::function<void()> beat = [&] {
+        const auto now = g_get_monotonic_time();
+        longestPause = std::max(longestPause, now - std::exchange(last, now));
+        pulse.start(0.01, beat);
+    };
+    beat();
+    ASSERT_TRUE(loads("/hostile/frames?foreign=" + std::to_string(count), "Frames of all kinds"));
+    EXPECT_TRUE(opened(expected));
+    EXPECT_EQ(service.requests("/checkout").size(), 1u);
+    EXPECT_EQ(service.requests("/elsewhere").size(), 0u);
+    EXPECT_LT(longestPause, G_USEC_PER_SEC);
+}
+
+TEST_F(PolicyTest, redirectsElsewhereLeaveThePageAlone)
+{
+    ASSERT_TRUE(loads("/help", "Handbook — Velmaro Online"));
+    view->load({*platform::URL::fromString(service.origin() + "/hostile/redirect-elsewhere")});
+    EXPECT_TRUE(until([&] { return !program.starts().empty(); }));
+    EXPECT_TRUE(opened({elsewhere()}));
+    EXPECT_EQ(view->title(), "Handbook — Velmaro Online");
+
+    EXPECT_TRUE(loads("/checkout", "Checkout — Velmaro Online"));
+}
+
+} // namespace desktop

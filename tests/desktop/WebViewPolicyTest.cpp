@@ -1,0 +1,276 @@
+// What the engine brings before the delegates of a web view, and what it makes of their decisions.
+
+#include "platform/webkit/WKUIDelegate.h"
+#include "shared/NavigationAddresses.h"
+#include "webview/WebViewTest.h"
+
+namespace desktop {
+
+using platform::URL;
+using platform::WKNavigationAction;
+using platform::WKNavigationActionPolicy;
+
+namespace {
+
+// Decides what it is told to, and keeps what it was asked.
+struct Delegate final : platform::WKNavigationDelegate, platform::WKUIDelegate {
+    void decidePolicy(platform::WKWebView&, const WKNavigationAction& action,
+        const std::function<void(WKNavigationActionPolicy)>& decide) override
+    {
+        navigations.push_back(action);
+        if (decidesLater)
+            decidesLater(decide);
+        else
+            decide(policy(action));
+    }
+
+    std::shared_ptr<platform::WKWebView> createWebView(
+        platform::WKWebView&, const WKNavigationAction& action) override
+    {
+        windows.push_back(action);
+        return nullptr;
+    }
+
+    void runOpenPanel(platform::WKWebView&, const platform::WKOpenPanelParameters& parameters,
+        std::function<void(const std::optional<std::vector<URL>>&)> answer) override
+    {
+        panel = parameters;
+        choose = std::move(answer);
+    }
+
+    // The addresses asked for so far, which are forgotten.
+    std::vector<std::string> take(std::vector<WKNavigationAction>& actions)
+    {
+        std::vector<std::string> addresses;
+        for (const auto& action : std::exchange(actions, {}))
+            addresses.push_back(action.requestURL ? action.requestURL->absoluteString() : "(none)");
+        return addresses;
+    }
+
+    std::function<WKNavigationActionPolicy(const WKNavigationAction&)> policy = [](const auto&) {
+        return WKNavigationActionPolicy::allow;
+    };
+    std::function<void(const std::function<void(WKNavigationActionPolicy)>&)> decidesLater;
+    std::vector<WKNavigationAction> navigations;
+    std::vector<WKNavigationAction> windows;
+    platform::WKOpenPanelParameters panel;
+    std::function<void(const std::optional<std::vector<URL>>&)> choose;
+};
+
+void noteDownload(
+    WebKitNetworkSession*, WebKitDownload* download, std::vector<std::string>* addresses)
+{
+    addresses->push_back(webkit_uri_request_get_uri(webkit_download_get_request(download)));
+}
+
+} // namespace
+
+class WebViewPolicyTest : public WebViewTest {
+protected:
+    void SetUp() override
+    {
+        configuration.preferences.javaScriptCanOpenWindowsAutomatically = true;
+        openView();
+        view->navigationDelegate = delegate;
+        view->uiDelegate = delegate;
+        ASSERT_TRUE(loads("/"));
+        delegate->navigations.clear();
+    }
+
+    std::shared_ptr<Delegate> delegate = std::make_shared<Delegate>();
+};
+
+TEST_F(WebViewPolicyTest, addressesArriveAsTheEngineUnderstandsThem)
+{
+    delegate->policy = [](const auto&) { return WKNavigationActionPolicy::cancel; };
+    for (const auto& expected : navigationAddresses()) {
+        const platform::Value written = expected.written;
+        view->evaluateJavaScript("var link = document.createElement('a'); link.href = "
+            + platform::JSONSerialization::encode(written).value()
+            + "; document.body.append(link); link.click();"
+              "link.href = 'about:after'; link.click()");
+        std::vector<std::string> delivered;
+        EXPECT_TRUE(until([&] {
+            for (auto& address : delegate->take(delegate->navigations))
+                delivered.push_back(std::move(address));
+            return !delivered.empty() && delivered.back() == "about:after";
+        }));
+        delivered.pop_back();
+        if (expected.delivered.empty()) {
+            EXPECT_TRUE(delivered.empty() || delivered.front() == "(none)") << expected.written;
+            continue;
+        }
+        const auto url = URL::encodingInvalidCharacters(expected.delivered);
+        EXPECT_EQ(delivered, std::vector{url->absoluteString()}) << expected.written;
+    }
+}
+
+TEST_F(WebViewPolicyTest, everyFrameAndEveryRedirectIsAsked)
+{
+    server.pages["/frames"] = {.body = "<title>Frames</title><iframe src=/inner></iframe>"
+                                       "<iframe></iframe><iframe srcdoc=x></iframe>"};
+    server.pages["/inner"] = {.body = "<iframe src=https://other.localhost/></iframe>"};
+    server.pages["/away"] = {
+        .body = "", .headers = {{"Location", "https://other.localhost/"}}, .status = 302};
+    delegate->policy = [](const auto& action) {
+        return action.requestURL->host() == "other.localhost" ? WKNavigationActionPolicy::cancel
+                                                              : WKNavigationActionPolicy::allow;
+    };
+
+    load("/frames");
+    ASSERT_TRUE(until([&] { return delegate->navigations.size() >= 5 && !view->isLoading(); }));
+    auto asked = delegate->take(delegate->navigations);
+    std::ranges::sort(asked);
+    EXPECT_EQ(asked,
+        (std::vector<std::string>{"about:blank", "about:srcdoc", server.url("/frames"),
+            server.url("/inner"), "https://other.localhost/"}));
+
+    view->evaluateJavaScript("location.href = '/away'");
+    ASSERT_TRUE(until([&] { return delegate->navigations.size() == 2 && !view->isLoading(); }));
+    EXPECT_EQ(delegate->take(delegate->navigations),
+        (std::vector<std::string>{server.url("/away"), "https://other.localhost/"}));
+    EXPECT_EQ(valueOf("document.title"), "Frames");
+    EXPECT_FALSE(panel()) << "what has been cancelled has not failed";
+}
+
+TEST_F(WebViewPolicyTest, newWindowsAreAskedForAndNotMade)
+{
+    const char* const table[] = {
+        "window.open('/next')",
+        "window.open('/next', 'named')",
+        "link.target = '_blank', link.click()",
+        "link.target = 'named', link.click()",
+        "form.submit()",
+    };
+    for (const auto* script : table) {
+        view->evaluateJavaScript(
+            std::string("var link = document.createElement('a'), "
+                        "form = document.createElement('form');"
+                        "link.href = form.action = '/next'; form.target = '_blank';"
+                        "form.method = 'post'; document.body.append(link, form);")
+            + script);
+        EXPECT_TRUE(until([&] { return !delegate->windows.empty(); })) << script;
+        EXPECT_EQ(delegate->take(delegate->windows), std::vector{server.url("/next")}) << script;
+    }
+    EXPECT_EQ(valueOf("window.open()"), nullptr);
+    EXPECT_EQ(delegate->take(delegate->windows), std::vector<std::string>{"(none)"});
+    EXPECT_TRUE(delegate->navigations.empty());
+    EXPECT_EQ(server.requestCount("/next"), 0u);
+}
+
+TEST_F(WebViewPolicyTest, decisionsMayComeLaterAndCountOnce)
+{
+    std::function<void(WKNavigationActionPolicy)> decide;
+    server.pages["/next"] = {.body = "<title>Next</title>"};
+    delegate->decidesLater = [&](const auto& later) { decide = later; };
+    const auto ask = [&] {
+        view->evaluateJavaScript("location.href = '/next'");
+        EXPECT_TRUE(until([&] { return decide != nullptr; }));
+    };
+
+    ask();
+    decide = nullptr; // nobody will ever decide
+    EXPECT_EQ(valueOf("document.title"), "Home");
+    EXPECT_EQ(server.requestCount("/next"), 0u);
+
+    ask();
+    decide(WKNavigationActionPolicy::allow);
+    decide(WKNavigationActionPolicy::cancel);
+    EXPECT_TRUE(isReadyWith("Next"));
+
+    ask();
+    closeView();
+    decide(WKNavigationActionPolicy::allow); // of a view that has gone
+}
+
+TEST_F(WebViewPolicyTest, whatIsToBeSavedBecomesADownloadAndNothingElseDoes)
+{
+    server.pages["/text"] = {.body = "a,b", .headers = {{"Content-Type", "text/csv"}}};
+    server.pages["/file"] = {
+        .body = "a,b", .headers = {{"Content-Disposition", "attachment; filename=a.csv"}}};
+    server.pages["/bytes"] = {
+        .body = "bytes", .headers = {{"Content-Type", "application/octet-stream"}}};
+    server.pages["/nothing"] = {.body = "", .status = 204};
+    server.pages["/failure"] = {
+        .body = "bytes", .headers = {{"Content-Type", "application/octet-stream"}}, .status = 500};
+    delegate->policy = [](const WKNavigationAction& action) {
+        if (action.shouldPerformDownload)
+            return WKNavigationActionPolicy::download;
+        return action.requestURL->scheme() == "https" ? WKNavigationActionPolicy::allow
+                                                      : WKNavigationActionPolicy::cancel;
+    };
+    std::vector<std::string> downloads;
+    g_signal_connect(webkit_web_view_get_network_session(native()), "download-started",
+        G_CALLBACK(noteDownload), &downloads);
+    const auto run = [&](const std::string& script) {
+        view->evaluateJavaScript(
+            "var blob = URL.createObjectURL(new Blob(['a'], { type: 'text/html' }));"
+            "function go(address, name) { const link = document.createElement('a');"
+            "  link.href = address; if (name) link.download = name;"
+            "  document.body.append(link); link.click(); }"
+            "function frame(address) { const frame = document.createElement('iframe');"
+            "  frame.src = address; document.body.append(frame); }"
+            + script);
+    };
+
+    for (const auto* script : {"go('data:text/html,a')", "go(blob)", "frame('data:text/html,a')",
+             "frame(blob)", "go('/nothing')", "go('/failure')"}) {
+        const auto count = delegate->navigations.size();
+        run(script);
+        EXPECT_TRUE(until([&] { return delegate->navigations.size() > count; })) << script;
+        EXPECT_TRUE(until([&] { return !view->isLoading(); })) << script;
+        EXPECT_EQ(valueOf("document.title"), "Home") << script;
+        EXPECT_FALSE(panel()) << script;
+    }
+
+    const std::pair<const char*, std::string> table[] = {
+        {"go('/text', 'b.csv')", server.url("/text")},
+        {"go('data:text/csv,a', 'b.csv')", "data:text/csv,a"},
+        {"go(blob, 'b.csv')", "blob:"},
+        {"go('/file')", server.url("/file")},
+        {"go('/bytes')", server.url("/bytes")},
+        {"frame('/bytes')", server.url("/bytes")},
+    };
+    std::size_t count = 0;
+    for (const auto& [script, address] : table) {
+        run(script);
+        ASSERT_TRUE(until([&] { return downloads.size() > count; })) << script;
+        EXPECT_EQ(downloads.size(), ++count) << script;
+        EXPECT_EQ(downloads.back().substr(0, address.size()), address) << script;
+        EXPECT_EQ(valueOf("document.title"), "Home") << script;
+        EXPECT_FALSE(panel()) << script;
+    }
+}
+
+TEST_F(WebViewPolicyTest, fileInputsGetTheFilesThatAreChosen)
+{
+    const std::vector<std::string> names = {"a b.csv", "50% %23 #?.csv", "caf\u00e9.csv"};
+    std::vector<URL> files;
+    for (const auto& name : names)
+        files.push_back(URL::fileURL(writeFile(name, "bytes")));
+    const auto choose = [&](const std::string& attributes, auto chosen) {
+        view->evaluateJavaScript("document.body.innerHTML = '<input type=file " + attributes
+            + ">';"
+              "var input = document.querySelector('input');"
+              "var say = text => webkit.messageHandlers.probe.postMessage(text);"
+              "input.onchange = () => Promise.all([...input.files].map(async file =>"
+              "  file.name + '=' + await file.text())).then(texts => say(texts.join('|')));"
+              "input.oncancel = () => say('cancelled');"
+              "input.click()");
+        EXPECT_TRUE(until([&] { return delegate->choose != nullptr; }));
+        const auto count = probe->messages.size();
+        std::exchange(delegate->choose, nullptr)(chosen);
+        EXPECT_TRUE(until([&] { return probe->messages.size() > count; }));
+        return probe->last();
+    };
+
+    using Files = std::optional<std::vector<URL>>;
+    EXPECT_EQ(choose("", Files(std::vector{files[1]})), names[1] + "=bytes");
+    EXPECT_FALSE(delegate->panel.allowsMultipleSelection);
+    EXPECT_EQ(choose("multiple", Files(files)),
+        names[0] + "=bytes|" + names[1] + "=bytes|" + names[2] + "=bytes");
+    EXPECT_TRUE(delegate->panel.allowsMultipleSelection);
+    EXPECT_EQ(choose("multiple", Files()), "cancelled");
+}
+
+} // namespace desktop
