@@ -14,4 +14,12 @@ bool isCanonicallyEquivalent(std::string_view left, std::string_view right);
 // stay.
 std::string trimmingWhitespace(std::string_view text);
 
+// `text` with the letters A to Z in lower case and all else as it is.
+std::string lowercasingASCII(std::string_view text);
+
+bool isUTF8(std::string_view bytes);
+
+// The UTF-8 text for bytes of which each is a letter of ISO 8859-1.
+std::string fromLatin1(std::string_view bytes);
+
 } // namespace platform
