@@ -1,17 +1,22 @@
 #pragma once
 
+#include "platform/webkit/WKDownload.h"
+#include "platform/webkit/WKNavigationDelegate.h"
 #include "platform/webkit/WKScriptMessageHandler.h"
 #include "platform/webkit/WKWebView.h"
 #include "web/WebModel.h"
 
+#include <map>
 #include <memory>
 #include <vector>
 
 namespace velmaro {
 
 // Stands between one web view and its tab's model. It keeps the model's mirrors of the web view up
-// to date and receives what pages post.
+// to date, receives what pages post, and saves what they offer for download.
 class Coordinator final : public platform::WKScriptMessageHandler,
+                          public platform::WKNavigationDelegate,
+                          public platform::WKDownloadDelegate,
                           public std::enable_shared_from_this<Coordinator> {
 public:
     explicit Coordinator(std::shared_ptr<WebModel> model)
@@ -28,6 +33,20 @@ public:
 
     void userContentControllerDidReceiveScriptMessage(
         const platform::WKScriptMessage& message) override;
+
+    // Where the running downloads are to be found at their end.
+    std::map<const platform::WKDownload*, platform::URL> downloadDestinations;
+
+    void navigationActionDidBecomeDownload(
+        platform::WKWebView&, const std::shared_ptr<platform::WKDownload>& download) override;
+    void navigationResponseDidBecomeDownload(
+        platform::WKWebView&, const std::shared_ptr<platform::WKDownload>& download) override;
+    void decideDestination(const std::shared_ptr<platform::WKDownload>& download,
+        const std::string& suggestedFilename,
+        const std::function<void(const std::optional<platform::URL>&)>& decide) override;
+    void downloadDidFinish(const std::shared_ptr<platform::WKDownload>& download) override;
+    void downloadDidFail(const std::shared_ptr<platform::WKDownload>& download,
+        const platform::NSError& error) override;
 };
 
 } // namespace velmaro

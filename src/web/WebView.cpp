@@ -64,6 +64,7 @@ std::shared_ptr<WKWebView> WebView::makeNSView(Coordinator& coordinator) const
     webView->setAllowsMagnification(true);
     webView->setCustomUserAgent(userAgentString());
 
+    webView->navigationDelegate = coordinator.weak_from_this();
     coordinator.observe(webView);
     model->webView = webView;
     styleScrollViews(*webView);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/gtk/ui/NativeView.h"
+#include "platform/gtk/webkit/PageDownloads.h"
 #include "platform/gtk/webkit/PageKeeper.h"
 #include "platform/gtk/webkit/PageSearch.h"
 #include "platform/gtk/webkit/PropertyObservers.h"
@@ -62,6 +63,7 @@ private:
     Gtk::Overlay area_;
     PageKeeper keeper_;
     PageSearch search_;
+    PageDownloads downloads_;
     PropertyObservers observers_;
     SignalHandlers signals_;
 };
