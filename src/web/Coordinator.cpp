@@ -2,6 +2,7 @@
 
 #include "platform/foundation/DispatchQueue.h"
 #include "web/PageMessages.h"
+#include "web/PageScripts.h"
 
 namespace velmaro {
 
@@ -44,6 +45,12 @@ void Coordinator::userContentControllerDidReceiveScriptMessage(
         if (const auto self = weakSelf.lock())
             action(*self->model);
     });
+}
+
+void Coordinator::didDropFile(
+    WKWebView& webView, const platform::URL& file, const std::string& text)
+{
+    webView.evaluateJavaScript(PageScripts::importText(file.lastPathComponent(), text));
 }
 
 } // namespace velmaro

@@ -4,6 +4,7 @@
 #include "platform/webkit/WKNavigationDelegate.h"
 #include "platform/webkit/WKScriptMessageHandler.h"
 #include "platform/webkit/WKWebView.h"
+#include "web/DroppableWebView.h"
 #include "web/WebModel.h"
 
 #include <map>
@@ -13,10 +14,12 @@
 namespace velmaro {
 
 // Stands between one web view and its tab's model. It keeps the model's mirrors of the web view up
-// to date, receives what pages post, and saves what they offer for download.
+// to date, receives what pages post and the files that are dropped on them, and saves what they
+// offer for download.
 class Coordinator final : public platform::WKScriptMessageHandler,
                           public platform::WKNavigationDelegate,
                           public platform::WKDownloadDelegate,
+                          public DroppableWebViewDelegate,
                           public std::enable_shared_from_this<Coordinator> {
 public:
     explicit Coordinator(std::shared_ptr<WebModel> model)
@@ -33,6 +36,9 @@ public:
 
     void userContentControllerDidReceiveScriptMessage(
         const platform::WKScriptMessage& message) override;
+
+    void didDropFile(
+        platform::WKWebView& webView, const platform::URL& file, const std::string& text) override;
 
     // Where the running downloads are to be found at their end.
     std::map<const platform::WKDownload*, platform::URL> downloadDestinations;

@@ -26,6 +26,10 @@ std::string reloadKeepingRoute();
 // Selects nothing in the page any more.
 std::string clearSelection();
 
+// Hands a file's name and text to the page that imports files. Any other page is left for that one,
+// and is to tell the user to drop the file again. What is not UTF-8 is handed over as empty.
+std::string importText(std::string_view fileName, std::string_view text);
+
 } // namespace PageScripts
 
 } // namespace velmaro

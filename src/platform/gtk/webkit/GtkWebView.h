@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/gtk/ui/NativeView.h"
+#include "platform/gtk/webkit/FileDrop.h"
 #include "platform/gtk/webkit/PageDownloads.h"
 #include "platform/gtk/webkit/PageKeeper.h"
 #include "platform/gtk/webkit/PageSearch.h"
@@ -64,6 +65,7 @@ private:
     PageKeeper keeper_;
     PageSearch search_;
     PageDownloads downloads_;
+    FileDrop drop_;
     PropertyObservers observers_;
     SignalHandlers signals_;
 };
