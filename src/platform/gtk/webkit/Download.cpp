@@ -35,7 +35,7 @@ Download::Download(WebKitDownload* download, std::function<void(Download&)> onEn
 
 Download::~Download()
 {
-    fail("The program has ended");
+    stop("The program has ended");
 }
 
 void Download::watch()
@@ -93,7 +93,7 @@ void Download::receiveInto(const std::optional<URL>& destination)
     destination_ = destination->path();
     folder_ = makeFolder(destination_.parent_path());
     if (folder_.empty())
-        return fail("The folder " + destination_.parent_path().string()
+        return stop("The folder " + destination_.parent_path().string()
             + " cannot be written to: " + g_strerror(errno));
     webkit_download_set_destination(download_.get(), (folder_ / unfinishedName).c_str());
 }
@@ -127,12 +127,20 @@ void Download::finish()
     onEnd(*this);
 }
 
+void Download::stop(const std::string& reason)
+{
+    if (!onEnd_)
+        return;
+    const ObjectPointer<WebKitDownload> download = retain(download_.get());
+    fail(reason); // before the engine tells a reason of its own
+    webkit_download_cancel(download.get());
+}
+
 void Download::fail(const std::string& reason)
 {
     const auto onEnd = std::exchange(onEnd_, nullptr);
     if (!onEnd)
         return;
-    webkit_download_cancel(download_.get());
     std::error_code error;
     if (!folder_.empty())
         std::filesystem::remove_all(folder_, error);

@@ -19,10 +19,10 @@ public:
     Download(const Download&) = delete;
     Download& operator=(const Download&) = delete;
 
-    void cancel() override { fail("The download was cancelled"); }
+    void cancel() override { stop("The download was cancelled"); }
 
     // Ends it in the failure path, unless it has ended.
-    void fail(const std::string& reason);
+    void stop(const std::string& reason);
 
 private:
     void watch();
@@ -31,6 +31,7 @@ private:
     void receiveInto(const std::optional<platform::URL>& destination);
     void moveToDestination();
     void finish();
+    void fail(const std::string& reason); // the engine has done with it
 
     const ObjectPointer<WebKitDownload> download_;
     std::function<void(Download&)> onEnd_; // empty once it has ended

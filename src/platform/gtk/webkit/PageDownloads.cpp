@@ -31,7 +31,7 @@ PageDownloads::~PageDownloads()
 {
     const auto running = running_; // each leaves the list
     for (const auto& download : running)
-        download->fail("The tab was closed");
+        download->stop("The tab was closed");
 }
 
 void PageDownloads::begin(WebKitDownload* download)
@@ -41,14 +41,9 @@ void PageDownloads::begin(WebKitDownload* download)
     });
     running_.push_back(begun);
 
-    const auto delegate = owner_.navigationDelegate.lock();
-    if (!delegate)
-        return;
-    // The answer is known already when it was what became a download.
-    if (webkit_download_get_response(download))
+    // The engine does not tell whether it was the question or the answer that became a download.
+    if (const auto delegate = owner_.navigationDelegate.lock())
         delegate->navigationResponseDidBecomeDownload(owner_, begun);
-    else
-        delegate->navigationActionDidBecomeDownload(owner_, begun);
 }
 
 void PageDownloads::refuseOthers(WebKitNetworkSession* session)
