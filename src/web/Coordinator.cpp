@@ -47,10 +47,11 @@ void Coordinator::userContentControllerDidReceiveScriptMessage(
     });
 }
 
-void Coordinator::didDropFile(
-    WKWebView& webView, const platform::URL& file, const std::string& text)
+void Coordinator::didDropFile(WKWebView& webView, const platform::URL& file, std::string text)
 {
-    webView.evaluateJavaScript(PageScripts::importText(file.lastPathComponent(), text));
+    // A statement of its own, after which the text has gone: the engine copies the script.
+    const auto script = PageScripts::importText(file.lastPathComponent(), std::move(text));
+    webView.evaluateJavaScript(script);
 }
 
 } // namespace velmaro

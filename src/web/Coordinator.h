@@ -38,7 +38,7 @@ public:
         const platform::WKScriptMessage& message) override;
 
     void didDropFile(
-        platform::WKWebView& webView, const platform::URL& file, const std::string& text) override;
+        platform::WKWebView& webView, const platform::URL& file, std::string text) override;
 
     // Where the running downloads are to be found at their end.
     std::map<const platform::WKDownload*, platform::URL> downloadDestinations;

@@ -47,11 +47,11 @@ bool DroppableWebView::takesDrag(const NSDraggingInfo& dragging) const
 bool DroppableWebView::performDragOperation(const NSDraggingInfo& dragging)
 {
     const auto file = acceptableDroppedFile(dragging);
-    const auto text = file ? textOf(*file) : std::nullopt;
+    auto text = file ? textOf(*file) : std::nullopt;
     if (!text)
         return false;
     if (const auto router = dropRouter.lock())
-        router->didDropFile(webView_, *file, *text);
+        router->didDropFile(webView_, *file, std::move(*text));
     return true;
 }
 

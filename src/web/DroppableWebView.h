@@ -16,7 +16,7 @@ public:
 
     // `text` is all that is in `file`, which was dropped on `webView`.
     virtual void didDropFile(
-        platform::WKWebView& webView, const platform::URL& file, const std::string& text) = 0;
+        platform::WKWebView& webView, const platform::URL& file, std::string text) = 0;
 };
 
 // What makes a web view take text files that are dropped on it. All other drops reach its page.

@@ -80,7 +80,7 @@ std::string clearSelection()
     return "window.getSelection && window.getSelection().removeAllRanges();";
 }
 
-std::string importText(std::string_view fileName, std::string_view text)
+std::string importText(std::string_view fileName, std::string text)
 {
     constexpr std::string_view beforeName = R"js((function(){
   if (typeof impLoadTextFromNative === 'function') {
@@ -92,7 +92,6 @@ std::string importText(std::string_view fileName, std::string_view text)
   }
 })();)js";
 
-    // The text may be most of the memory there is: it is copied once, to its place in the script.
     std::string script(beforeName);
     appendLiteral(script, fileName);
     script += ", ";
