@@ -1,5 +1,7 @@
 #include "app/DeepLink.h"
 
+#include "platform/foundation/Unicode.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -26,16 +28,6 @@ constexpr std::array newItems{
     NewItem{"report", "reports", "loadReports"},
 };
 
-// Schemes, hosts and item names are ASCII.
-std::string lowercased(std::string text)
-{
-    for (char& character : text) {
-        if (character >= 'A' && character <= 'Z')
-            character = static_cast<char>(character - 'A' + 'a');
-    }
-    return text;
-}
-
 // An optional sign and digits, nothing else, within 64 bits.
 std::optional<std::int64_t> parseInteger(std::string_view text)
 {
@@ -54,7 +46,7 @@ std::optional<std::int64_t> parseInteger(std::string_view text)
 
 std::optional<DeepLink> newItemLink(const std::string& name)
 {
-    const auto item = std::ranges::find(newItems, lowercased(name), &NewItem::name);
+    const auto item = std::ranges::find(newItems, platform::lowercasingASCII(name), &NewItem::name);
     if (item == newItems.end())
         return std::nullopt;
     return DeepLink{std::string(item->route), std::string(item->function), std::nullopt};
@@ -64,13 +56,13 @@ std::optional<DeepLink> newItemLink(const std::string& name)
 
 std::optional<DeepLink> parseDeepLink(const platform::URL& url)
 {
-    if (lowercased(url.scheme().value_or("")) != "velmaro")
+    if (platform::lowercasingASCII(url.scheme().value_or("")) != "velmaro")
         return std::nullopt;
 
     auto parts = url.pathComponents();
     std::erase(parts, "/");
 
-    const auto host = lowercased(url.host().value_or(""));
+    const auto host = platform::lowercasingASCII(url.host().value_or(""));
     if (host.empty())
         return std::nullopt;
     if (host != "page" && host != "drive" && host != "new")

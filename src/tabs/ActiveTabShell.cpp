@@ -3,12 +3,14 @@
 #include "app/WindowSizer.h"
 #include "location/LocationPickerView.h"
 #include "platform/ui/Views.h"
+#include "tabs/DownloadsButton.h"
 #include "tabs/TabBar.h"
 #include "tabs/WindowToolbar.h"
 #include "web/TabContent.h"
 
 namespace velmaro {
 
+using ui::HStack;
 using ui::View;
 using ui::VStack;
 using ui::ZStack;
@@ -49,7 +51,9 @@ View ActiveTabShell::body() const
     return VStack{{.spacing = 0}, TabBar{app}, layers(*app, active)}
         .background(WindowSizer{})
         .sheet(target ? picker(*target) : View(), closePicker)
-        .toolbar(NavigationToolbar{active}, StationToolbar{active, pickerTarget.binding()});
+        .toolbar(NavigationToolbar{active},
+            HStack{
+                {.spacing = 6}, DownloadsButton{}, StationToolbar{active, pickerTarget.binding()}});
 }
 
 } // namespace velmaro

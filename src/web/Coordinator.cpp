@@ -5,6 +5,7 @@
 #include "platform/foundation/DispatchQueue.h"
 #include "web/NavigationPolicy.h"
 #include "web/PageMessages.h"
+#include "web/PageScripts.h"
 
 namespace velmaro {
 
@@ -94,6 +95,13 @@ void Coordinator::runOpenPanel(WKWebView&, const platform::WKOpenPanelParameters
         .allowsMultipleSelection = parameters.allowsMultipleSelection,
     };
     panel.begin(std::move(choose));
+}
+
+void Coordinator::didDropFile(WKWebView& webView, const platform::URL& file, std::string text)
+{
+    // A statement of its own, after which the text has gone: the engine copies the script.
+    const auto script = PageScripts::importText(file.lastPathComponent(), std::move(text));
+    webView.evaluateJavaScript(script);
 }
 
 } // namespace velmaro

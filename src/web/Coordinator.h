@@ -1,21 +1,27 @@
 #pragma once
 
+#include "platform/webkit/WKDownload.h"
 #include "platform/webkit/WKNavigationDelegate.h"
 #include "platform/webkit/WKScriptMessageHandler.h"
 #include "platform/webkit/WKUIDelegate.h"
 #include "platform/webkit/WKWebView.h"
+#include "web/DroppableWebView.h"
 #include "web/WebModel.h"
 
+#include <map>
 #include <memory>
 #include <vector>
 
 namespace velmaro {
 
 // Stands between one web view and its tab's model. It keeps the model's mirrors of the web view up
-// to date, receives what pages post, and decides where they may go.
+// to date, receives what pages post and the files that are dropped on them, decides where they may
+// go, and saves what they offer for download.
 class Coordinator final : public platform::WKScriptMessageHandler,
                           public platform::WKNavigationDelegate,
                           public platform::WKUIDelegate,
+                          public platform::WKDownloadDelegate,
+                          public DroppableWebViewDelegate,
                           public std::enable_shared_from_this<Coordinator> {
 public:
     explicit Coordinator(std::shared_ptr<WebModel> model)
@@ -44,6 +50,23 @@ public:
     void runOpenPanel(platform::WKWebView& webView,
         const platform::WKOpenPanelParameters& parameters,
         std::function<void(const std::optional<std::vector<platform::URL>>&)> choose) override;
+
+    void didDropFile(
+        platform::WKWebView& webView, const platform::URL& file, std::string text) override;
+
+    // Where the running downloads are to be found at their end.
+    std::map<const platform::WKDownload*, platform::URL> downloadDestinations;
+
+    void navigationActionDidBecomeDownload(
+        platform::WKWebView&, const std::shared_ptr<platform::WKDownload>& download) override;
+    void navigationResponseDidBecomeDownload(
+        platform::WKWebView&, const std::shared_ptr<platform::WKDownload>& download) override;
+    void decideDestination(const std::shared_ptr<platform::WKDownload>& download,
+        const std::string& suggestedFilename,
+        const std::function<void(const std::optional<platform::URL>&)>& decide) override;
+    void downloadDidFinish(const std::shared_ptr<platform::WKDownload>& download) override;
+    void downloadDidFail(const std::shared_ptr<platform::WKDownload>& download,
+        const platform::NSError& error) override;
 };
 
 } // namespace velmaro

@@ -1,9 +1,13 @@
 #include "web/NavigationPolicy.h"
 
+#include "platform/foundation/Unicode.h"
+
 #include <algorithm>
 #include <string_view>
 
 namespace velmaro {
+
+using platform::lowercasingASCII; // host names and schemes have no other letters
 
 namespace {
 
@@ -23,19 +27,6 @@ constexpr SchemeRule schemeRules[] = {
     {"about", AddressUse::inTab, AddressUse::none},
 };
 
-// Host names and schemes have no other letters: the web view turns names in other scripts into
-// these.
-char lowerLetter(char letter)
-{
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter | 0x20) : letter;
-}
-
-std::string lower(std::string text)
-{
-    std::ranges::transform(text, text.begin(), lowerLetter);
-    return text;
-}
-
 bool isHostOrSubdomain(std::string_view host, std::string_view of)
 {
     if (!host.ends_with(of))
@@ -46,7 +37,7 @@ bool isHostOrSubdomain(std::string_view host, std::string_view of)
 
 AddressUse use(const platform::URL& url, const Service& service, AddressUse SchemeRule::*column)
 {
-    const auto scheme = lower(url.scheme().value_or(""));
+    const auto scheme = lowercasingASCII(url.scheme().value_or(""));
     if (scheme == "https" || scheme == "http")
         return isAllowedHost(url.host(), service) ? AddressUse::inTab : AddressUse::withSystem;
     const auto* rule = std::ranges::find(schemeRules, scheme, &SchemeRule::scheme);
@@ -59,11 +50,12 @@ bool isAllowedHost(const std::optional<std::string>& host, const Service& servic
 {
     if (!host)
         return false;
-    const auto lowerHost = lower(*host);
-    if (isHostOrSubdomain(lowerHost, lower(service.serviceHost())))
+    const auto lowerHost = lowercasingASCII(*host);
+    if (isHostOrSubdomain(lowerHost, lowercasingASCII(service.serviceHost())))
         return true;
-    return std::ranges::any_of(service.paymentCheckoutHosts(),
-        [&](const auto& allowed) { return isHostOrSubdomain(lowerHost, lower(allowed)); });
+    return std::ranges::any_of(service.paymentCheckoutHosts(), [&](const auto& allowed) {
+        return isHostOrSubdomain(lowerHost, lowercasingASCII(allowed));
+    });
 }
 
 AddressUse useOfNavigation(const platform::URL& url, const Service& service)

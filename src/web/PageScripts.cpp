@@ -1,5 +1,7 @@
 #include "web/PageScripts.h"
 
+#include "platform/foundation/JSONSerialization.h"
+
 #include <algorithm>
 
 namespace velmaro::PageScripts {
@@ -11,6 +13,13 @@ std::string withoutApostrophes(std::string_view text)
     std::string result(text);
     std::erase(result, '\'');
     return result;
+}
+
+// Appends `text` as a string of the script.
+void appendLiteral(std::string& script, std::string_view text)
+{
+    if (!platform::JSONSerialization::appendString(script, text))
+        script += R"("")";
 }
 
 std::string showRouteAndCallWith(
@@ -69,6 +78,26 @@ std::string reloadKeepingRoute()
 std::string clearSelection()
 {
     return "window.getSelection && window.getSelection().removeAllRanges();";
+}
+
+std::string importText(std::string_view fileName, std::string text)
+{
+    constexpr std::string_view beforeName = R"js((function(){
+  if (typeof impLoadTextFromNative === 'function') {
+    impLoadTextFromNative()js";
+    constexpr std::string_view afterText = R"js();
+  } else if (typeof showPage === 'function') {
+    showPage('import');
+    alert('Open the Import page, pick what you\'re importing, then drop the file again.');
+  }
+})();)js";
+
+    std::string script(beforeName);
+    appendLiteral(script, fileName);
+    script += ", ";
+    appendLiteral(script, text);
+    script += afterText;
+    return script;
 }
 
 } // namespace velmaro::PageScripts

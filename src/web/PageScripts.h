@@ -26,6 +26,11 @@ std::string reloadKeepingRoute();
 // Selects nothing in the page any more.
 std::string clearSelection();
 
+// Hands a file's name and text to the page that imports files. Any other page is left for that one,
+// and is to tell the user to drop the file again. What is not UTF-8 is handed over as empty.
+// The text may be most of the memory there is, and is gone when the script is made.
+std::string importText(std::string_view fileName, std::string text);
+
 } // namespace PageScripts
 
 } // namespace velmaro

@@ -4,6 +4,7 @@
 #include "platform/foundation/UserDefaults.h"
 #include "platform/Platform.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
+#include "web/DroppableWebView.h"
 #include "web/OnboardingKeys.h"
 #include "web/PageMessages.h"
 #include "web/Service.h"
@@ -66,6 +67,10 @@ std::shared_ptr<WKWebView> WebView::makeNSView(Coordinator& coordinator) const
 
     webView->navigationDelegate = coordinator.weak_from_this();
     webView->uiDelegate = coordinator.weak_from_this();
+    const auto droppable = std::make_shared<DroppableWebView>(*webView);
+    droppable->dropRouter = coordinator.weak_from_this();
+    webView->draggingDestination = droppable;
+
     coordinator.observe(webView);
     model->webView = webView;
     styleScrollViews(*webView);

@@ -67,7 +67,7 @@ TEST_F(WebViewMannersTest, aPageBehindAPasswordShowsWhatTheServerSaysWithoutOne)
     EXPECT_TRUE(loads("/secret", "Password needed"));
 }
 
-TEST_F(WebViewMannersTest, filesAreNotTakenYet)
+TEST_F(WebViewMannersTest, filesThatNobodyTakesAreNotSaved)
 {
     server.pages["/file"] = {
         .body = "bytes", .headers = {{"Content-Disposition", "attachment; filename=file.csv"}}};

@@ -1,6 +1,10 @@
 #include "platform/foundation/JSONSerialization.h"
 
+#include "platform/foundation/Unicode.h"
+
+#include <array>
 #include <cmath>
+#include <cstdint>
 #include <nlohmann/json.hpp>
 
 namespace platform::JSONSerialization {
@@ -75,6 +79,53 @@ std::optional<Json> jsonFrom(const Value& value)
     return Json();
 }
 
+// The escape that has a letter of its own; 0 where there is none.
+constexpr char shortEscape(char character)
+{
+    switch (character) {
+    case '"':
+    case '\\':
+        return character;
+    case '\b':
+        return 'b';
+    case '\f':
+        return 'f';
+    case '\n':
+        return 'n';
+    case '\r':
+        return 'r';
+    case '\t':
+        return 't';
+    default:
+        return 0;
+    }
+}
+
+constexpr auto escapedLengths = [] {
+    std::array<std::uint8_t, 256> lengths = {};
+    for (std::size_t byte = 0; byte < lengths.size(); ++byte)
+        lengths[byte] = shortEscape(static_cast<char>(byte)) ? 2 : byte < 0x20 ? 6 : 1;
+    return lengths;
+}();
+
+std::size_t escapedLength(char character)
+{
+    return escapedLengths[static_cast<unsigned char>(character)];
+}
+
+void appendEscaped(std::string& json, char character)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    json += '\\';
+    if (const char letter = shortEscape(character)) {
+        json += letter;
+        return;
+    }
+    json += "u00";
+    json += digits[static_cast<std::size_t>(character) >> 4];
+    json += digits[static_cast<std::size_t>(character) & 0xF];
+}
+
 } // namespace
 
 std::optional<Value> decode(std::string_view text)
@@ -100,6 +151,29 @@ std::optional<std::string> encode(const Value& value)
     } catch (const Json::type_error&) { // a text that is not UTF-8
         return std::nullopt;
     }
+}
+
+bool appendString(std::string& json, std::string_view text)
+{
+    if (!isUTF8(text))
+        return false;
+    std::size_t length = 2;
+    for (const char character : text)
+        length += escapedLength(character);
+    json.reserve(json.size() + length);
+
+    json += '"';
+    const auto* plain = text.begin(); // where what needs no escape begins
+    for (const auto* at = text.begin(); at != text.end(); ++at) {
+        if (escapedLength(*at) == 1)
+            continue;
+        json.append(plain, at);
+        appendEscaped(json, *at);
+        plain = at + 1;
+    }
+    json.append(plain, text.end());
+    json += '"';
+    return true;
 }
 
 } // namespace platform::JSONSerialization

@@ -17,6 +17,10 @@ std::optional<Value> decode(std::string_view text);
 // One line of UTF-8. Absent when a text inside `value` is not UTF-8, or a number is not finite.
 std::optional<std::string> encode(const Value& value);
 
+// Appends `text` as a JSON string to `json`. A text that is not UTF-8 appends nothing, and is
+// false.
+[[nodiscard]] bool appendString(std::string& json, std::string_view text);
+
 } // namespace JSONSerialization
 
 } // namespace platform

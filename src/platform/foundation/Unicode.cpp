@@ -1,5 +1,6 @@
 #include "platform/foundation/Unicode.h"
 
+#include <algorithm>
 #include <glib.h>
 #include <memory>
 #include <optional>
@@ -104,6 +105,42 @@ std::string trimmingWhitespace(std::string_view text)
 std::string trimmingWhitespaceAndNewlines(std::string_view text)
 {
     return trimming(text, isBlankOrNewline);
+}
+
+std::string lowercasingASCII(std::string_view text)
+{
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), g_ascii_tolower);
+    return result;
+}
+
+bool isUTF8(std::string_view bytes)
+{
+    // GLib takes a NUL for the end, so what stands between them is looked at piece by piece.
+    while (true) {
+        const auto piece = bytes.substr(0, bytes.find('\0'));
+        if (!g_utf8_validate(piece.data(), static_cast<gssize>(piece.size()), nullptr))
+            return false;
+        if (piece.size() == bytes.size())
+            return true;
+        bytes.remove_prefix(piece.size() + 1);
+    }
+}
+
+std::string fromLatin1(std::string_view bytes)
+{
+    std::string text;
+    text.reserve(bytes.size() + bytes.size() / 8);
+    for (const char byte : bytes) {
+        const auto letter = static_cast<unsigned char>(byte);
+        if (letter < 0x80) {
+            text += byte;
+        } else {
+            text += static_cast<char>(0xC0 | (letter >> 6));
+            text += static_cast<char>(0x80 | (letter & 0x3F));
+        }
+    }
+    return text;
 }
 
 } // namespace platform

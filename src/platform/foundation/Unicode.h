@@ -16,5 +16,12 @@ std::string trimmingWhitespace(std::string_view text);
 
 // The same, line and paragraph breaks included.
 std::string trimmingWhitespaceAndNewlines(std::string_view text);
+// `text` with the letters A to Z in lower case and all else as it is.
+std::string lowercasingASCII(std::string_view text);
+
+bool isUTF8(std::string_view bytes);
+
+// The UTF-8 text for bytes of which each is a letter of ISO 8859-1.
+std::string fromLatin1(std::string_view bytes);
 
 } // namespace platform

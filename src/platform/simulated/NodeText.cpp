@@ -206,6 +206,8 @@ std::string nodeText(const ui::Node& node)
         return "scrollArea";
     case ui::Kind::sheet:
         return "sheet";
+    case ui::Kind::popover:
+        return "popover";
     case ui::Kind::toolbar:
         return "toolbar";
     case ui::Kind::applicationIcon:

@@ -108,6 +108,13 @@ View View::sheet(View content, std::function<void()> onDismiss) const
     return overlay(View(std::make_shared<SheetNode>(std::move(content), std::move(onDismiss))));
 }
 
+View View::popover(View content, std::function<void()> onDismiss) const
+{
+    if (!content.node())
+        return overlay(View());
+    return overlay(View(std::make_shared<PopoverNode>(std::move(content), std::move(onDismiss))));
+}
+
 View View::toolbar(View leading, View trailing) const
 {
     // Each stands in a group of its own, so that both are there even when there is nothing in one.

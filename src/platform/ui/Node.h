@@ -38,6 +38,7 @@ enum class Kind {
     textField,
     scrollArea,
     sheet,
+    popover,
     toolbar,
 };
 

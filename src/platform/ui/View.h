@@ -104,6 +104,10 @@ public:
     // keyboard focus and gives it back. Escape and whatever else dismisses it calls `onDismiss`.
     View sheet(View content, std::function<void()> onDismiss) const;
 
+    // A small panel that points at this view while `content` is something. A click beside it,
+    // Escape and whatever else dismisses it calls `onDismiss`.
+    View popover(View content, std::function<void()> onDismiss) const;
+
     // Puts `leading` and `trailing` into the window's bar.
     View toolbar(View leading, View trailing) const;
 

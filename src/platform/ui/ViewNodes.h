@@ -188,6 +188,16 @@ struct SheetNode : Node {
     std::function<void()> onDismiss;
 };
 
+struct PopoverNode : Node {
+    PopoverNode(View content, std::function<void()> onDismiss)
+        : Node(Kind::popover, {std::move(content)})
+        , onDismiss(std::move(onDismiss))
+    {
+    }
+
+    std::function<void()> onDismiss;
+};
+
 // Its two children stand in the window's bar, at its beginning and its end.
 struct ToolbarNode : Node {
     ToolbarNode(View leading, View trailing)

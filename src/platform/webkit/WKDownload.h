@@ -2,6 +2,7 @@
 
 #include "platform/foundation/NSError.h"
 #include "platform/foundation/URL.h"
+#include "platform/ui/Published.h"
 
 #include <functional>
 #include <memory>
@@ -12,14 +13,17 @@ namespace platform {
 
 class WKDownloadDelegate;
 
-// A file on its way to the disk. It lives until it has ended, whatever becomes of the page it was
-// started from. Main thread only.
+// A file on its way to the disk. It ends with the web view that it was started in, in the failure
+// path. Main thread only.
 class WKDownload {
 public:
     virtual ~WKDownload() = default;
 
     // Asked for a destination when the answer has begun; without one the download is cancelled.
     std::weak_ptr<WKDownloadDelegate> delegate;
+
+    // How much has arrived, from 0 to 1; absent while nobody knows how much there will be.
+    ui::Published<std::optional<double>> fractionCompleted;
 
     // Ends in the failure path. Nothing when it has ended already.
     virtual void cancel() = 0;
@@ -32,8 +36,9 @@ public:
     virtual ~WKDownloadDelegate() = default;
 
     // `suggestedFilename` is one name without slashes that the file system can hold, and never
-    // empty. `decide` is to be called once; absent cancels. What is at the destination by the end
-    // is never replaced, and no half of a file ever stands under its name.
+    // empty. `decide` is to be called once; absent cancels. No half of a file ever stands at the
+    // destination, and what is there already is never replaced: when something has come there in
+    // the meantime, the question is asked again at the end.
     virtual void decideDestination(const std::shared_ptr<WKDownload>&,
         const std::string& suggestedFilename,
         const std::function<void(const std::optional<URL>&)>& decide) = 0;

@@ -16,6 +16,7 @@
 
 namespace platform {
 
+class NSDraggingDestination;
 class WKNavigationDelegate;
 class WKUIDelegate;
 
@@ -33,6 +34,9 @@ public:
 
     std::weak_ptr<WKNavigationDelegate> navigationDelegate;
     std::weak_ptr<WKUIDelegate> uiDelegate;
+
+    // Comes before the page with every drag of files; null leaves all of them to the page.
+    std::shared_ptr<NSDraggingDestination> draggingDestination;
 
     virtual void load(const URLRequest& request) = 0;
 

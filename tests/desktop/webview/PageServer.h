@@ -21,6 +21,7 @@ public:
         int status = 200;
         bool isSilent = false; // takes the request and never answers
         bool isCutOff = false; // announces more than it sends, then hangs up
+        bool isStalled = false; // sends its body and never comes to the end
     };
 
     struct Request {
@@ -94,8 +95,15 @@ private:
         auto* headers = soup_server_message_get_response_headers(message);
         for (const auto& [name, value] : page.headers)
             soup_message_headers_replace(headers, name.c_str(), value.c_str());
+        if (page.isStalled) {
+            soup_server_message_set_status(message, static_cast<guint>(page.status), nullptr);
+            soup_message_headers_set_encoding(headers, SOUP_ENCODING_CHUNKED);
+            soup_message_body_append(soup_server_message_get_response_body(message),
+                SOUP_MEMORY_COPY, page.body.data(), page.body.size());
+            return;
+        }
         if (page.isCutOff) {
-            soup_message_headers_set_content_length(headers, 1'000'000);
+            soup_message_headers_set_content_length(headers, 10'000'000);
             soup_message_headers_replace(headers, "Connection", "close");
             g_signal_connect(message, "wrote-body-data", G_CALLBACK(&PageServer::hangUp), nullptr);
         }

@@ -214,3 +214,32 @@ TEST(PageScripts, reloadOnThePageThatIsShown)
         EXPECT_EQ(page.value("location.hash"), Value(hashAfter)) << currentPage;
     }
 }
+
+TEST(PageScripts, anImportedTextArrivesUnchanged)
+{
+    const std::string texts[] = {"", "a,\"b\"\r\n\\", "</script>", "\u2028\u2029\u0085", "Zo\u00eb",
+        "\U0001F697", std::string("a\0b\x01\x1f\x7f", 6), "\ufeff", "it's ${1} `"};
+    for (const auto& text : texts) {
+        ScriptEngine page("var calls = [];"
+                          "function impLoadTextFromNative(...given) { calls.push(given); }"
+                          "function showPage(...route) { calls.push(route); }");
+        page.evaluate(PageScripts::importText(text, text));
+        EXPECT_EQ(page.value("calls"), noted({{Value(text), Value(text)}}));
+    }
+}
+
+TEST(PageScripts, aFileForAnotherPageOnlyShowsTheImportPage)
+{
+    constexpr auto notes = "var calls = [];"
+                           "function alert(...said) { calls.push(said); }";
+    ScriptEngine page(std::string(notes) + "function showPage(...route) { calls.push(route); }");
+    page.evaluate(PageScripts::importText("a.csv", "text"));
+    EXPECT_EQ(page.value("calls"),
+        noted({{"import"},
+            {"Open the Import page, pick what you're importing, then drop the file again."}}));
+
+    ScriptEngine bare(notes);
+    bare.evaluate(PageScripts::importText("a.csv", "\xff"));
+    EXPECT_EQ(bare.value("calls"), noted({}));
+    EXPECT_EQ(bare.exception(), "");
+}

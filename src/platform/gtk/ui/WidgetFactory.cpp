@@ -5,6 +5,7 @@
 #include "platform/gtk/ui/Drawing.h"
 #include "platform/gtk/ui/HostWidget.h"
 #include "platform/gtk/ui/Leaves.h"
+#include "platform/gtk/ui/PopoverWidget.h"
 #include "platform/gtk/ui/ScrollAreaWidget.h"
 #include "platform/gtk/ui/SheetWidget.h"
 #include "platform/gtk/ui/TextFieldWidget.h"
@@ -50,6 +51,8 @@ std::unique_ptr<ui::Widget> WidgetFactory::makeWidget(const ui::Node& node)
         return std::make_unique<ScrollAreaWidget>();
     case ui::Kind::sheet:
         return std::make_unique<SheetWidget>();
+    case ui::Kind::popover:
+        return std::make_unique<PopoverWidget>();
     case ui::Kind::toolbar:
         return std::make_unique<ToolbarWidget>(toolbar_);
     case ui::Kind::applicationIcon:

@@ -66,6 +66,8 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
     , search_(view_.get())
     , output_(view_.get(), engine.printChoice())
     , requests_(view_.get(), *this)
+    , downloads_(view_.get(), *this)
+    , drop_(view_.get(), *this)
 {
     gtk_overlay_set_child(area_.gobj(), GTK_WIDGET(view_.get()));
     teachManners(view_.get());

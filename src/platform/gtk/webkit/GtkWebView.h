@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/gtk/ui/NativeView.h"
+#include "platform/gtk/webkit/FileDrop.h"
+#include "platform/gtk/webkit/PageDownloads.h"
 #include "platform/gtk/webkit/PageKeeper.h"
 #include "platform/gtk/webkit/PageOutput.h"
 #include "platform/gtk/webkit/PageRequests.h"
@@ -79,6 +81,8 @@ private:
     PageSearch search_;
     PageOutput output_;
     PageRequests requests_;
+    PageDownloads downloads_;
+    FileDrop drop_;
     PropertyObservers observers_;
     SignalHandlers signals_;
 };

@@ -1,5 +1,6 @@
 #include "platform/gtk/webkit/WebEngine.h"
 
+#include "platform/gtk/webkit/PageDownloads.h"
 #include "platform/gtk/webkit/Sandbox.h"
 
 #include <clocale>
@@ -47,12 +48,6 @@ ObjectPointer<WebKitNetworkSession> makePersistentSession(const StandardPaths& p
     return session;
 }
 
-// Left alone, the engine would put files where the user's are, and might do away with one of those.
-void refuseDownload(WebKitNetworkSession*, WebKitDownload* download)
-{
-    webkit_download_cancel(download);
-}
-
 } // namespace
 
 WebEngine::WebEngine(
@@ -98,7 +93,7 @@ ObjectPointer<WebKitNetworkSession> WebEngine::session(platform::WKWebsiteDataSt
         ? makePersistentSession(paths_)
         : ObjectPointer<WebKitNetworkSession>(webkit_network_session_new_ephemeral());
     trust()->apply(session.get());
-    g_signal_connect(session.get(), "download-started", G_CALLBACK(refuseDownload), nullptr);
+    PageDownloads::refuseOthers(session.get());
     if (isPersistent)
         session_ = retain(session.get());
     return session;

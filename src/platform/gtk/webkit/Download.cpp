@@ -1,0 +1,154 @@
+#include "platform/gtk/webkit/Download.h"
+
+#include "platform/foundation/FileName.h"
+#include "platform/gtk/foundation/Renaming.h"
+
+#include <cerrno>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+namespace gtk {
+
+using platform::URL;
+
+namespace {
+
+constexpr auto folderPattern = ".velmaro-download-XXXXXX";
+constexpr auto unfinishedName = "unfinished";
+
+// A new folder that only this user can look into; empty, with `errno` set, when it cannot be made.
+std::filesystem::path makeFolder(const std::filesystem::path& parent)
+{
+    auto path = (parent / folderPattern).string();
+    return mkdtemp(path.data()) ? path : "";
+}
+
+} // namespace
+
+Download::Download(WebKitDownload* download, std::function<void(Download&)> onEnd)
+    : download_(retain(download))
+    , onEnd_(std::move(onEnd))
+{
+    watch();
+}
+
+Download::~Download()
+{
+    stop("The program has ended");
+}
+
+void Download::watch()
+{
+    const auto connect = [this](const char* signal, auto handler) {
+        signals_.connect(download_.get(), signal, G_CALLBACK(+handler), this);
+    };
+    connect("decide-destination", [](WebKitDownload*, const char* suggestedName, Download* self) {
+        self->suggestedName_ = platform::safeFileName(suggestedName ? suggestedName : "");
+        self->askForDestination([weakSelf = self->weak_from_this()](const auto& destination) {
+            if (const auto self = weakSelf.lock())
+                self->receiveInto(destination);
+        });
+        return TRUE;
+    });
+    connect("notify::estimated-progress",
+        [](GObject*, GParamSpec*, Download* self) { self->progressed(); });
+    connect("failed", [](WebKitDownload*, GError* error, Download* self) {
+        const auto alive = self->shared_from_this(); // its end may let it go
+        self->fail(error->message);
+    });
+    connect("finished", [](WebKitDownload*, Download* self) {
+        const auto alive = self->shared_from_this();
+        if (self->onEnd_) // the engine tells this after a failure too
+            self->moveToDestination();
+    });
+}
+
+// In whole hundredths, each of which is told once.
+void Download::progressed()
+{
+    auto* response = webkit_download_get_response(download_.get());
+    if (!response || webkit_uri_response_get_content_length(response) == 0)
+        return;
+    const double fraction =
+        std::floor(webkit_download_get_estimated_progress(download_.get()) * 100) / 100;
+    if (fractionCompleted() != fraction)
+        fractionCompleted = fraction;
+}
+
+void Download::askForDestination(const std::function<void(const std::optional<URL>&)>& decide)
+{
+    if (const auto owner = delegate.lock())
+        owner->decideDestination(shared_from_this(), suggestedName_, decide);
+    else
+        decide(std::nullopt);
+}
+
+void Download::receiveInto(const std::optional<URL>& destination)
+{
+    if (!onEnd_)
+        return;
+    if (!destination || !destination->isFileURL())
+        return cancel();
+    destination_ = destination->path();
+    folder_ = makeFolder(destination_.parent_path());
+    if (folder_.empty())
+        return stop("The folder " + destination_.parent_path().string()
+            + " cannot be written to: " + g_strerror(errno));
+    webkit_download_set_destination(download_.get(), (folder_ / unfinishedName).c_str());
+}
+
+void Download::moveToDestination()
+{
+    const int error = renameWithoutReplacing(folder_ / unfinishedName, destination_);
+    if (error == 0)
+        return finish();
+    if (error != EEXIST)
+        return fail(g_strerror(error));
+
+    askForDestination([weakSelf = weak_from_this()](const std::optional<URL>& destination) {
+        const auto self = weakSelf.lock();
+        if (!self || !self->onEnd_)
+            return;
+        if (!destination || destination->path() == self->destination_)
+            return self->fail(g_strerror(EEXIST));
+        self->destination_ = destination->path();
+        self->moveToDestination();
+    });
+}
+
+void Download::finish()
+{
+    const auto onEnd = std::exchange(onEnd_, nullptr);
+    std::error_code error; // a folder that stays is empty and hidden
+    std::filesystem::remove(folder_, error);
+    if (const auto owner = delegate.lock())
+        owner->downloadDidFinish(shared_from_this());
+    onEnd(*this);
+}
+
+void Download::stop(const std::string& reason)
+{
+    if (!onEnd_)
+        return;
+    const ObjectPointer<WebKitDownload> download = retain(download_.get());
+    fail(reason); // before the engine tells a reason of its own
+    webkit_download_cancel(download.get());
+}
+
+void Download::fail(const std::string& reason)
+{
+    const auto onEnd = std::exchange(onEnd_, nullptr);
+    if (!onEnd)
+        return;
+    std::error_code error;
+    if (!folder_.empty())
+        std::filesystem::remove_all(folder_, error);
+    const auto owner = delegate.lock();
+    const auto self = weak_from_this().lock(); // null on its way out
+    if (owner && self)
+        owner->downloadDidFail(self, {reason});
+    onEnd(*this);
+}
+
+} // namespace gtk

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/gtk/webkit/SignalHandlers.h"
+#include "platform/webkit/WKWebView.h"
+
+#include <webkit/webkit.h>
+
+namespace gtk {
+
+// Shows every drag of files over a web view to its dragging destination first. What that does not
+// take goes on to the engine, and so to the page.
+class FileDrop {
+public:
+    FileDrop(WebKitWebView* view, platform::WKWebView& owner);
+
+    FileDrop(const FileDrop&) = delete;
+    FileDrop& operator=(const FileDrop&) = delete;
+
+private:
+    void look();
+    bool drop(const GValue* files);
+
+    platform::WKWebView& owner_;
+    GtkDropTarget* const target_; // belongs to the view
+    SignalHandlers signals_;
+};
+
+} // namespace gtk

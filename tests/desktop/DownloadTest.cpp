@@ -1,0 +1,261 @@
+// Files that pages offer, from the server to the user's folder.
+
+#include "platform/gtk/GtkPlatform.h"
+#include "web/Coordinator.h"
+#include "web/DownloadList.h"
+#include "webview/WebViewTest.h"
+
+#include <set>
+
+namespace desktop {
+
+namespace {
+
+using State = velmaro::DownloadItem::State;
+
+std::string contentsOf(const std::filesystem::path& path)
+{
+    std::ostringstream text;
+    text << std::ifstream(path).rdbuf();
+    return text.str();
+}
+
+// Makes the folder the one for downloads, as a user does who has set up the desktop so.
+void setDownloadsFolder(const std::filesystem::path& folder)
+{
+    std::filesystem::create_directories(g_get_user_config_dir());
+    std::ofstream(std::filesystem::path(g_get_user_config_dir()) / "user-dirs.dirs")
+        << "XDG_DOWNLOAD_DIR=\"" << folder.string() << "\"\n";
+    g_reload_user_special_dirs_cache();
+}
+
+// Puts something of its own under the name that was just chosen for a download.
+class Interloper final : public platform::WKNavigationDelegate,
+                         public platform::WKDownloadDelegate,
+                         public std::enable_shared_from_this<Interloper> {
+public:
+    Interloper(std::shared_ptr<velmaro::Coordinator> coordinator,
+        std::function<void(const std::string& path)> intrude)
+        : coordinator_(std::move(coordinator))
+        , intrude_(std::move(intrude))
+    {
+    }
+
+    void navigationResponseDidBecomeDownload(
+        platform::WKWebView&, const std::shared_ptr<platform::WKDownload>& download) override
+    {
+        download->delegate = weak_from_this();
+    }
+
+    void decideDestination(const std::shared_ptr<platform::WKDownload>& download,
+        const std::string& name,
+        const std::function<void(const std::optional<platform::URL>&)>& decide) override
+    {
+        coordinator_->decideDestination(download, name, [&](const auto& destination) {
+            if (const auto intrude = std::exchange(intrude_, nullptr))
+                intrude(destination->path());
+            decide(destination);
+        });
+    }
+
+    void downloadDidFinish(const std::shared_ptr<platform::WKDownload>& download) override
+    {
+        coordinator_->downloadDidFinish(download);
+    }
+    void downloadDidFail(const std::shared_ptr<platform::WKDownload>& download,
+        const platform::NSError& error) override
+    {
+        coordinator_->downloadDidFail(download, error);
+    }
+
+private:
+    const std::shared_ptr<velmaro::Coordinator> coordinator_;
+    std::function<void(const std::string& path)> intrude_;
+};
+
+} // namespace
+
+// A tab whose downloads go to an empty folder.
+class DownloadTest : public WebViewTest {
+protected:
+    DownloadTest()
+    {
+        g_autofree char* path = g_dir_make_tmp("velmaro-downloads-XXXXXX", nullptr);
+        folder = path;
+        setDownloadsFolder(folder);
+    }
+
+    ~DownloadTest() override
+    {
+        closeView();
+        std::filesystem::remove_all(folder);
+    }
+
+    void SetUp() override
+    {
+        openView();
+        view->navigationDelegate = coordinator;
+        ASSERT_TRUE(loads("/"));
+    }
+
+    // The page goes to a file that the server sends as an attachment.
+    void offer(const std::string& name, PageServer::Page page = {.body = "bytes"})
+    {
+        page.headers = {{"Content-Disposition", "attachment" + name},
+            {"Content-Type", "application/octet-stream"}};
+        server.pages["/file"] = page;
+        view->evaluateJavaScript("location.href = '/file'");
+    }
+
+    const std::vector<velmaro::DownloadItem>& items() const
+    {
+        return velmaro::DownloadList::shared().items();
+    }
+
+    // Whether the download in that place of the list comes to this end.
+    [[nodiscard]] bool ends(std::size_t place, State state)
+    {
+        const bool hasEnded =
+            until([&] { return items().size() > place && items()[place].state != State::running; });
+        return hasEnded && items()[place].state == state;
+    }
+
+    // The names of all that is in the folder, hidden things too.
+    std::set<std::string> names() const
+    {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder))
+            names.insert(entry.path().filename());
+        return names;
+    }
+
+    // What the alert says; empty while there is none.
+    static std::string alertText()
+    {
+        std::string text;
+        g_autoptr(GList) windows = gtk_window_list_toplevels();
+        for (auto* window = windows; window; window = window->next) {
+            g_autofree char* secondary = nullptr;
+            if (GTK_IS_MESSAGE_DIALOG(window->data))
+                g_object_get(window->data, "secondary-text", &secondary, nullptr);
+            text += secondary ? secondary : "";
+        }
+        return text;
+    }
+
+    std::filesystem::path folder;
+    gtk::GtkPlatform platform{
+        {.identifier = "example.velmaro.Test", .address = std::nullopt, .geocoder = ""}};
+    std::shared_ptr<velmaro::Coordinator> coordinator =
+        std::make_shared<velmaro::Coordinator>(std::make_shared<velmaro::WebModel>());
+};
+
+TEST_F(DownloadTest, savesWholeFilesUnderTheNamesOfTheServerMadeSafe)
+{
+    struct Case {
+        std::string suggestion;
+        std::string name;
+    };
+    const Case cases[] = {
+        {R"(; filename="report.csv")", "report.csv"},
+        {R"(; filename="report.csv")", "report (2).csv"},
+        {R"(; filename="..")", "download"},
+        {R"(; filename="")", "download (2)"},
+        {"", "file"},
+        {R"(; filename=".....")", "download (3)"},
+        {R"(; filename="../../x/data.csv")", "data.csv"},
+        {"; filename*=UTF-8''..%2F..%2Fencoded.csv", "encoded.csv"},
+        {R"(; filename="slash.csv/")", "download (4)"},
+        {R"(; filename=".hidden.csv")", "hidden.csv"},
+        {R"(; filename="CON")", "CON"},
+        {R"(; filename="-rf dash.csv")", "-rf dash.csv"},
+        {R"(; filename="data.desktop")", "data.desktop"},
+        {"; filename*=UTF-8''turned_%E2%80%AEvsc.desktop", "turned__vsc.desktop"},
+        {"; filename*=UTF-8''line_%0Adata.csv", "line__data.csv"},
+        {"; filename*=UTF-8''caf%C3%A9.csv", "caf\u00e9.csv"},
+        {"; filename*=UTF-8''cafe%CC%81.csv", "cafe\u0301.csv"},
+        {"; filename=\"latin_caf\xE9.csv\"", "latin_caf\ufffd.csv"},
+        {"; filename=\"" + std::string(400, 'a') + ".csv\"", std::string(236, 'a') + ".csv"},
+    };
+    std::set<std::string> expected;
+    for (std::size_t place = 0; const auto& [suggestion, name] : cases) {
+        offer(suggestion);
+        ASSERT_TRUE(ends(place, State::finished)) << suggestion;
+        EXPECT_EQ(items()[place].file.lastPathComponent(), name) << suggestion;
+        EXPECT_EQ(contentsOf(folder / name), "bytes") << suggestion;
+        expected.insert(name);
+        ++place;
+    }
+    EXPECT_EQ(names(), expected) << "nothing else is left in the folder";
+}
+
+TEST_F(DownloadTest, takesWhatPagesMakeThemselves)
+{
+    view->evaluateJavaScript("const link = document.createElement('a');"
+                             "link.href = URL.createObjectURL(new Blob(['made here']));"
+                             "link.download = 'made.csv';"
+                             "link.click()");
+
+    ASSERT_TRUE(ends(0, State::finished));
+    EXPECT_EQ(contentsOf(folder / "made.csv"), "made here");
+}
+
+TEST_F(DownloadTest, neverReplacesWhatHasComeUnderItsNameMeanwhile)
+{
+    const auto path = folder / "velmaro_data.csv";
+    const std::function<void(const std::string&)> intrusions[] = {
+        [](const std::string& path) { std::ofstream(path) << "the user's"; },
+        [](const std::string& path) { std::filesystem::create_symlink("/nowhere", path); },
+        [](const std::string& path) { std::filesystem::create_directory(path); },
+    };
+    for (std::size_t place = 0; const auto& intrude : intrusions) {
+        const auto interloper = std::make_shared<Interloper>(coordinator, intrude);
+        view->navigationDelegate = interloper;
+        offer(R"(; filename="velmaro_data.csv")");
+
+        ASSERT_TRUE(ends(place, State::finished));
+        EXPECT_EQ(contentsOf(folder / "velmaro_data (2).csv"), "bytes");
+        EXPECT_EQ(names(), (std::set<std::string>{"velmaro_data.csv", "velmaro_data (2).csv"}));
+        EXPECT_TRUE(until([&] { return !alertText().empty(); }));
+        EXPECT_EQ(alertText(), "Saved velmaro_data (2).csv to your Downloads folder.");
+        EXPECT_EQ(contentsOf(path), place == 0 ? "the user's" : "");
+        std::filesystem::remove(path);
+        std::filesystem::remove(folder / "velmaro_data (2).csv");
+        ++place;
+    }
+}
+
+TEST_F(DownloadTest, leavesNothingBehindWhenItFails)
+{
+    const std::string half(1 << 20, 'x');
+    offer("", {.body = half, .isCutOff = true});
+    EXPECT_TRUE(ends(0, State::failed));
+    EXPECT_FALSE(items()[0].failureReason.empty());
+    EXPECT_EQ(names(), std::set<std::string>());
+
+    offer("", {.body = half, .isStalled = true});
+    ASSERT_TRUE(until([&] { return items().size() == 2 && !names().empty(); }));
+    EXPECT_FALSE(names().contains("file"));
+    items()[1].download->cancel();
+    EXPECT_TRUE(ends(1, State::failed));
+    EXPECT_EQ(names(), std::set<std::string>());
+
+    offer("", {.body = half, .isStalled = true});
+    ASSERT_TRUE(until([&] { return items().size() == 3 && !names().empty(); }));
+    closeView();
+    EXPECT_TRUE(ends(2, State::failed));
+    EXPECT_EQ(names(), std::set<std::string>());
+    EXPECT_TRUE(coordinator->downloadDestinations.empty());
+}
+
+TEST_F(DownloadTest, failsWhereNothingCanBeWritten)
+{
+    setDownloadsFolder("/proc/downloads");
+    offer("");
+
+    EXPECT_TRUE(ends(0, State::failed));
+    EXPECT_NE(items()[0].failureReason.find("cannot be written to"), std::string::npos)
+        << items()[0].failureReason;
+}
+
+} // namespace desktop
