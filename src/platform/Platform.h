@@ -19,6 +19,7 @@ class NSScreen;
 class NSTextField;
 class NSView;
 class NSWorkspace;
+class UNUserNotificationCenter;
 class URLCache;
 class UserDefaults;
 class WKWebView;
@@ -47,6 +48,7 @@ public:
     virtual URLCache& urlCache() = 0;
     virtual FileManager& fileManager() = 0;
     virtual NSWorkspace& workspace() = 0;
+    virtual UNUserNotificationCenter& userNotificationCenter() = 0;
 
     // The screen that holds the key window, else the first one; null on a machine without a screen.
     virtual NSScreen* mainScreen() = 0;

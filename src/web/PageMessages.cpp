@@ -1,6 +1,9 @@
 #include "web/PageMessages.h"
 
+#include "notifications/NotificationCenterBridge.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/foundation/UUID.h"
+#include "platform/usernotifications/UNUserNotificationCenter.h"
 #include "tabs/TabbedAppModel.h"
 #include "web/OnboardingKeys.h"
 #include "web/WebModel.h"
@@ -23,6 +26,15 @@ std::optional<std::string> stringMember(const Value& body, const char* name)
     return text ? std::optional(*text) : std::nullopt;
 }
 
+// Early, so that the first notification finds the question answered.
+void askForNotifications()
+{
+    platform::UNUserNotificationCenter::currentNotificationCenter().getNotificationSettings(
+        [](const auto& settings) {
+            NotificationCenterBridge::shared().ensureAuthorized(settings, [](bool) {});
+        });
+}
+
 // An object is a signed-in user, whatever it holds; anything else means that nobody is.
 PageAction reportUser(const Value& body)
 {
@@ -31,7 +43,12 @@ PageAction reportUser(const Value& body)
         identity = UserIdentity{.firstname = stringMember(body, "firstname").value_or(""),
             .lastname = stringMember(body, "lastname").value_or("")};
     }
-    return [identity](WebModel& model) { model.setUser(identity); };
+    return [identity](WebModel& model) {
+        const bool signsIn = identity && !model.user();
+        model.setUser(identity);
+        if (signsIn)
+            askForNotifications();
+    };
 }
 
 PageAction reportRoute(const Value& body)
@@ -48,6 +65,17 @@ PageAction finishOnboarding(const Value&)
         UserDefaults::standard().setBoolean(OnboardingKeys::completed, true);
         UserDefaults::standard().setBoolean(OnboardingKeys::shown, true);
     };
+}
+
+PageAction notify(const Value& body)
+{
+    if (!body.object())
+        return {};
+    return
+        [title = stringMember(body, "title").value_or("Velmaro"),
+            text = stringMember(body, "body").value_or(""), link = stringMember(body, "url"),
+            identifier = stringMember(body, "id").value_or(platform::UUID().string())](
+            WebModel&) { NotificationCenterBridge::shared().post(title, text, link, identifier); };
 }
 
 PageAction logOut(const Value&)
@@ -75,6 +103,7 @@ constexpr std::array messageRules{
     MessageRule{"authBridge", reportUser},
     MessageRule{"routeBridge", reportRoute},
     MessageRule{"onboardingBridge", finishOnboarding},
+    MessageRule{"notifyBridge", notify},
     MessageRule{"logoutBridge", logOut},
     MessageRule{"tabBridge", openTab},
 };

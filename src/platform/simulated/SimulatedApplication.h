@@ -18,6 +18,7 @@ public:
     std::vector<std::shared_ptr<platform::NSWindow>> windows() const override;
     std::shared_ptr<platform::NSWindow> keyWindow() const override;
     bool hasApplicationIconImage() const override { return hasIcon; }
+    void activateIgnoringOtherApps(bool) override { ++activations; }
     void terminate() override;
 
     // Launches, lets the prepared session use the program, and quits it if the session has not.
@@ -54,6 +55,7 @@ public:
     void simulateQuit();
 
     bool hasIcon = false;
+    int activations = 0; // how often it came forward
 
 private:
     friend class SimulatedPlatform;

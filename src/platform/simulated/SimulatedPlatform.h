@@ -15,6 +15,7 @@
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedWebView.h"
 #include "platform/simulated/SimulatedWorkspace.h"
+#include "platform/simulated/usernotifications/SimulatedNotificationCenter.h"
 
 #include <string>
 #include <vector>
@@ -35,6 +36,7 @@ public:
     SimulatedURLCache& urlCache() override { return urlCache_; }
     SimulatedFileManager& fileManager() override { return fileManager_; }
     SimulatedWorkspace& workspace() override { return workspace_; }
+    SimulatedNotificationCenter& userNotificationCenter() override { return notifications_; }
     SimulatedAlerts& alerts() { return alerts_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
@@ -88,6 +90,7 @@ private:
     SimulatedFileManager fileManager_;
     SimulatedWorkspace workspace_;
     SimulatedAlerts alerts_;
+    SimulatedNotificationCenter notifications_{queue_};
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;

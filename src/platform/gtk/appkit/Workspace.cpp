@@ -10,6 +10,7 @@ namespace gtk {
 
 namespace {
 
+constexpr auto ownScheme = "velmaro";
 constexpr int fileManagerPatience = 5000; // milliseconds
 
 // Carries the token with which the other program may come forward.
@@ -49,10 +50,28 @@ std::string folderOf(const platform::URL& file)
     return platform::URL::fileURL(folder).absoluteString();
 }
 
+// The program's own addresses need no detour through the desktop, which may not know them.
+void openHere(const std::string& address)
+{
+    auto* program = g_application_get_default();
+    g_autoptr(GFile) file = g_file_new_for_uri(address.c_str());
+    GFile* files[] = {file};
+    g_application_open(program, files, 1, "");
+}
+
+bool isOwn(const platform::URL& url)
+{
+    const auto scheme = url.scheme();
+    return scheme && g_ascii_strcasecmp(scheme->c_str(), ownScheme) == 0
+        && g_application_get_default();
+}
+
 } // namespace
 
 void Workspace::open(const platform::URL& url)
 {
+    if (isOwn(url))
+        return openHere(url.absoluteString());
     openWithDefaultProgram(url.absoluteString());
 }
 
