@@ -83,7 +83,7 @@ void DesktopNotifications::connect()
         try {
             connection_ = Gio::DBus::Connection::get_finish(result);
         } catch (const Glib::Error& error) {
-            return finish(platform::NSError{error.what()});
+            return finish(notificationError(error));
         }
         listen();
         start();
@@ -164,7 +164,7 @@ void DesktopNotifications::call(
         try {
             values = connection_->call_finish(result);
         } catch (const Glib::Error& error) {
-            return finish(platform::NSError{error.what()});
+            return finish(notificationError(error));
         }
         const auto kept = then;
         kept(values);

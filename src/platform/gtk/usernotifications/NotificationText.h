@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/foundation/NSError.h"
+
+#include <glibmm/error.h>
 #include <string>
 
 namespace gtk {
@@ -10,5 +13,8 @@ std::string notificationText(std::string text);
 
 // The same for services that read markup.
 std::string notificationMarkup(std::string text);
+
+// What a service or the bus has to say, without the bus's name for it.
+platform::NSError notificationError(const Glib::Error& error);
 
 } // namespace gtk

@@ -63,7 +63,7 @@ void PortalNotifications::post(
         try {
             finish();
         } catch (const Glib::Error& error) {
-            completion(platform::NSError{error.what()});
+            completion(notificationError(error));
         }
     };
     const auto send = [values = arguments(request, clickAction_), cancellable = cancellable_, tell,
