@@ -14,40 +14,15 @@ using platform::Value;
 constexpr std::size_t mostLevels = 512;
 constexpr std::size_t mostValues = 100'000;
 
-std::string bytesOf(JSCValue* text)
+std::string textFrom(JSCValue* value)
 {
-    g_autoptr(GBytes) bytes = jsc_value_to_string_as_bytes(text);
+    // A text with half a surrogate pair has no UTF-8 form; it would end there.
+    const ObjectPointer<JSCValue> wellFormed(
+        jsc_value_object_invoke_method(value, "toWellFormed", G_TYPE_NONE));
+    g_autoptr(GBytes) bytes = jsc_value_to_string_as_bytes(wellFormed.get());
     gsize size = 0;
     const auto* data = static_cast<const char*>(g_bytes_get_data(bytes, &size));
     return size ? std::string(data, size) : std::string();
-}
-
-// In the units that scripts count: two for each character of four bytes.
-double scriptLength(const std::string& text)
-{
-    std::size_t length = 0;
-    for (const unsigned char byte : text)
-        length += (byte & 0xC0) != 0x80;
-    for (const unsigned char byte : text)
-        length += byte >= 0xF0;
-    return static_cast<double>(length);
-}
-
-double lengthOf(JSCValue* textOrArray)
-{
-    const ObjectPointer<JSCValue> length(jsc_value_object_get_property(textOrArray, "length"));
-    return jsc_value_to_double(length.get());
-}
-
-std::string textFrom(JSCValue* value)
-{
-    auto text = bytesOf(value);
-    if (scriptLength(text) == lengthOf(value))
-        return text;
-    // Half a surrogate pair has no UTF-8 form: the text has ended there.
-    const ObjectPointer<JSCValue> wellFormed(
-        jsc_value_object_invoke_method(value, "toWellFormed", G_TYPE_NONE));
-    return bytesOf(wellFormed.get());
 }
 
 class Reader {
@@ -80,7 +55,9 @@ private:
 
     Value::Array elements(JSCValue* array)
     {
-        const double count = lengthOf(array);
+        const ObjectPointer<JSCValue> length(jsc_value_object_get_property(array, "length"));
+        const double count = jsc_value_to_double(length.get());
+
         Value::Array elements;
         for (guint index = 0; index < count && takeOne(); ++index) {
             const ObjectPointer<JSCValue> element(
