@@ -115,7 +115,8 @@ void DesktopNotifications::askForCapabilities()
 {
     call("GetCapabilities", {}, "(as)", [this](const auto& result) {
         const auto capabilities = child<std::vector<Glib::ustring>>(result, 0);
-        readsMarkup_ = std::ranges::find(capabilities, "body-markup") != capabilities.end();
+        readsMarkup_ = std::find(capabilities.begin(), capabilities.end(), "body-markup")
+            != capabilities.end();
         notify();
     });
 }

@@ -4,6 +4,8 @@
 #include "platform/appkit/NSApplication.h"
 #include "platform/usernotifications/UNUserNotificationCenterDelegate.h"
 
+#include <utility>
+
 namespace gtk {
 
 using platform::NSAlert;
