@@ -12,6 +12,10 @@ namespace {
 
 constexpr int usageError = 2;
 
+// How the session bus starts the program to hand it something, such as a click on a notification.
+// The toolkit reads it in place of an address.
+constexpr auto serviceOption = "--gapplication-service";
+
 constexpr auto help = R"(Usage: velmaro-online [ADDRESS]
 
 Opens Velmaro Online, or brings it forward where it runs already. ADDRESS is a
@@ -45,7 +49,7 @@ int main(int argumentCount, char** arguments)
         std::puts("Velmaro Online " VELMARO_VERSION);
         return EXIT_SUCCESS;
     }
-    if (argument.starts_with("-"))
+    if (argument.starts_with("-") && argument != serviceOption)
         return fail("there is no option " + argument + "; --help tells which there are");
 
     // Texts for people follow the user's language; numbers, which stand in scripts and files, do

@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "notifications/NotificationCenterBridge.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/foundation/DispatchQueue.h"
 
@@ -37,6 +38,7 @@ void AppDelegate::applicationWillFinishLaunching(NSApplication&)
 
 void AppDelegate::applicationDidFinishLaunching(NSApplication&)
 {
+    NotificationCenterBridge::shared(); // a click on a notification of an earlier run waits for it
     DispatchQueue::main().asyncAfter(duplicateWindowSweepDelay, closeDuplicateWindows);
 }
 

@@ -26,6 +26,7 @@ class NSWindow;
 class NSWorkspace;
 class ProcessInfo;
 class URL;
+class UNUserNotificationCenter;
 class URLCache;
 class UserDefaults;
 class WKWebView;
@@ -57,6 +58,7 @@ public:
     virtual FileManager& fileManager() = 0;
     virtual ProcessInfo& processInfo() = 0;
     virtual NSWorkspace& workspace() = 0;
+    virtual UNUserNotificationCenter& userNotificationCenter() = 0;
 
     // The screen that holds the key window, else the first one; null on a machine without a screen.
     virtual NSScreen* mainScreen() = 0;

@@ -1,6 +1,9 @@
 #include "web/PageMessages.h"
 
+#include "notifications/NotificationCenterBridge.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/foundation/UUID.h"
+#include "platform/usernotifications/UNUserNotificationCenter.h"
 #include "reports/ReportDownloader.h"
 #include "tabs/TabbedAppModel.h"
 #include "web/OnboardingKeys.h"
@@ -24,6 +27,15 @@ std::optional<std::string> stringMember(const Value& body, const char* name)
     return text ? std::optional(*text) : std::nullopt;
 }
 
+// Early, so that the first notification finds the question answered.
+void askForNotifications()
+{
+    platform::UNUserNotificationCenter::currentNotificationCenter().getNotificationSettings(
+        [](const auto& settings) {
+            NotificationCenterBridge::shared().ensureAuthorized(settings, [](bool) {});
+        });
+}
+
 // An object is a signed-in user, whatever it holds; anything else means that nobody is.
 PageAction reportUser(const Value& body)
 {
@@ -32,7 +44,12 @@ PageAction reportUser(const Value& body)
         identity = UserIdentity{.firstname = stringMember(body, "firstname").value_or(""),
             .lastname = stringMember(body, "lastname").value_or("")};
     }
-    return [identity](WebModel& model) { model.setUser(identity); };
+    return [identity](WebModel& model) {
+        const bool signsIn = identity && !model.user();
+        model.setUser(identity);
+        if (signsIn)
+            askForNotifications();
+    };
 }
 
 constexpr auto defaultReportTitle = "Velmaro Report";
@@ -72,6 +89,17 @@ PageAction finishOnboarding(const Value&)
     };
 }
 
+PageAction notify(const Value& body)
+{
+    if (!body.object())
+        return {};
+    return
+        [title = stringMember(body, "title").value_or("Velmaro"),
+            text = stringMember(body, "body").value_or(""), link = stringMember(body, "url"),
+            identifier = stringMember(body, "id").value_or(platform::UUID().string())](
+            WebModel&) { NotificationCenterBridge::shared().post(title, text, link, identifier); };
+}
+
 PageAction logOut(const Value&)
 {
     return [](WebModel&) {
@@ -99,6 +127,7 @@ constexpr std::array messageRules{
     MessageRule{"printBridge", printReport},
     MessageRule{"routeBridge", reportRoute},
     MessageRule{"onboardingBridge", finishOnboarding},
+    MessageRule{"notifyBridge", notify},
     MessageRule{"logoutBridge", logOut},
     MessageRule{"tabBridge", openTab},
 };

@@ -1,5 +1,7 @@
 #include "webview/WebViewTest.h"
 
+#include <set>
+
 namespace desktop {
 
 using platform::Value;
@@ -85,11 +87,43 @@ TEST_F(WebViewMessageTest, hugeAndTangledObjectsEndInTime)
     EXPECT_EQ(valueOf("new Array(1e6)").array()->size(), 100'000u);
 }
 
+TEST_F(WebViewMessageTest, noMemberOfAMessageIsLostToAnother)
+{
+    for (const auto* message : {
+             "({list: new Array(2e5).fill(0), page: 'kept'})",
+             "({list: {deep: {list: new Array(2e5).fill({})}}, more: {}, page: 'kept'})",
+             "(() => { const o = {}; for (let i = 0; i < 2e5; ++i) o['m' + i] = i;"
+             " o.page = 'kept'; return o; })()",
+         }) {
+        const auto value = valueOf(message);
+        ASSERT_TRUE(value.member("page")) << message;
+        EXPECT_EQ(*value.member("page"), "kept") << message;
+    }
+}
+
+TEST_F(WebViewMessageTest, framesOfAllKindsPostAlike)
+{
+    const auto post = [](const std::string& what) {
+        return "<script>webkit.messageHandlers.probe.postMessage('" + what + "')</script>";
+    };
+    server.pages["/frame"] = {.body = post("frame")};
+    server.pages["/frames"] = {.body = "<title>Frames</title>" + post("page")
+            + "<iframe src='/frame'></iframe>" + "<iframe srcdoc=\"" + post("srcdoc")
+            + "\"></iframe>" + "<iframe sandbox='allow-scripts' srcdoc=\"" + post("sandboxed")
+            + "\"></iframe>"};
+    ASSERT_TRUE(loads("/frames", "Frames"));
+    ASSERT_TRUE(until([&] { return probe->messages.size() == 4; }));
+    std::set<std::string> posted;
+    for (const auto& message : probe->messages)
+        posted.insert(*message.body.string());
+    EXPECT_EQ(posted, (std::set<std::string>{"frame", "page", "sandboxed", "srcdoc"}));
+}
+
 TEST_F(WebViewMessageTest, aLongTextArrivesWhole)
 {
-    const auto value = valueOf("({html: '\\u00e9'.repeat(16 << 20)})");
+    const auto value = valueOf("({html: '\\u00e9'.repeat(64 << 20)})");
     ASSERT_TRUE(value.member("html"));
-    EXPECT_EQ(value.member("html")->string()->size(), 32u << 20);
+    EXPECT_EQ(value.member("html")->string()->size(), 128u << 20);
 }
 
 TEST_F(WebViewMessageTest, messagesKeepTheirOrder)

@@ -42,6 +42,10 @@ public:
     // ends. Returns the exit status. Both arguments must outlive the call.
     virtual int run(NSApplicationDelegate& delegate, const ui::Scene& scene) = 0;
 
+    // Puts the application in front of all others, as far as the desktop lets it: where only
+    // windows come forward, the next one to be ordered front does.
+    virtual void activateIgnoringOtherApps(bool ignoresOthers) = 0;
+
     // Ends the program in the orderly way, once the current event is handled.
     virtual void terminate() = 0;
 };

@@ -22,6 +22,9 @@
 #include "platform/gtk/foundation/StandardPaths.h"
 #include "platform/gtk/mapkit/PlaceSearch.h"
 #include "platform/gtk/mapkit/SearchCompleter.h"
+#include "platform/gtk/usernotifications/DesktopNotifications.h"
+#include "platform/gtk/usernotifications/PortalNotifications.h"
+#include "platform/gtk/usernotifications/UserNotificationCenter.h"
 #include "platform/gtk/webkit/GtkWebView.h"
 #include "platform/gtk/webkit/OffscreenWebView.h"
 #include "platform/gtk/webkit/WebEngine.h"
@@ -248,16 +251,49 @@ void GtkPlatform::saveSettings()
         permissions_->flush();
 }
 
+SettingsFile& GtkPlatform::permissions()
+{
+    if (!permissions_) {
+        permissions_ = std::make_unique<SettingsFile>(
+            standardPaths().config / permissionsName, *mainQueue_, platform::NSLog);
+    }
+    return *permissions_;
+}
+
 LocationServices& GtkPlatform::locationServices()
 {
     if (!locationServices_) {
-        permissions_ = std::make_unique<SettingsFile>(
-            standardPaths().config / permissionsName, *mainQueue_, platform::NSLog);
         locationServices_ = std::make_unique<LocationServices>(
             LocationServices::Options{.identifier = options_.identifier}, *mainQueue_,
-            *permissions_, askForLocation);
+            permissions(), askForLocation);
     }
     return *locationServices_;
+}
+
+platform::UNUserNotificationCenter& GtkPlatform::userNotificationCenter()
+{
+    return notificationCenter();
+}
+
+UserNotificationCenter& GtkPlatform::notificationCenter()
+{
+    if (notificationCenter_)
+        return *notificationCenter_;
+    if (LocationServices::isInsideSandbox()) {
+        notificationCenter_ = std::make_unique<UserNotificationCenter>(*mainQueue_, nullptr,
+            std::make_unique<PortalNotifications>(Program::notificationAction));
+        return *notificationCenter_;
+    }
+    auto permission = std::make_unique<Permission>(*mainQueue_, permissions(),
+        UserNotificationCenter::permissionKey, UserNotificationCenter::askUser);
+    auto service = std::make_unique<DesktopNotifications>(
+        options_.identifier, [this](const auto& userInfo, const auto& activationToken) {
+            application_->allowToComeForward(activationToken);
+            notificationCenter_->receiveClick(userInfo);
+        });
+    notificationCenter_ = std::make_unique<UserNotificationCenter>(
+        *mainQueue_, std::move(permission), std::move(service));
+    return *notificationCenter_;
 }
 
 } // namespace gtk

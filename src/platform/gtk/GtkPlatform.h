@@ -19,6 +19,7 @@ class ProgramBundle;
 class ResponseCache;
 class SettingsFile;
 class SharePanel;
+class UserNotificationCenter;
 class WebEngine;
 class Workspace;
 
@@ -52,6 +53,7 @@ public:
     platform::FileManager& fileManager() override;
     platform::ProcessInfo& processInfo() override;
     platform::NSWorkspace& workspace() override;
+    platform::UNUserNotificationCenter& userNotificationCenter() override;
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
     std::shared_ptr<platform::NSTextField> makeTextField() override;
@@ -78,6 +80,8 @@ public:
     // What all web views share; made on first use.
     WebEngine& webEngine();
 
+    UserNotificationCenter& notificationCenter();
+
     // Sets the web engine going while the window has yet to be made. Returns why the program cannot
     // run; absent when it can.
     std::optional<std::string> prepare();
@@ -90,6 +94,7 @@ public:
     void saveSettings();
 
 private:
+    SettingsFile& permissions();
     LocationServices& locationServices();
 
     const Options options_;
@@ -107,8 +112,9 @@ private:
     std::optional<HostCertificate> certificate_;
     std::string expectedHost_;
     std::unique_ptr<WebEngine> webEngine_;
-    std::unique_ptr<SettingsFile> permissions_; // with the location services, on first use
+    std::unique_ptr<SettingsFile> permissions_; // on first use, like the two below
     std::unique_ptr<LocationServices> locationServices_;
+    std::unique_ptr<UserNotificationCenter> notificationCenter_;
     std::unique_ptr<ResponseCache> responseCache_; // made on first use, like the service below
     std::shared_ptr<GeocodingService> geocodingService_;
     std::unique_ptr<Application> application_;

@@ -19,6 +19,7 @@ public:
     std::shared_ptr<platform::NSWindow> keyWindow() const override;
     std::shared_ptr<platform::NSWindow> mainWindow() const override { return mainWindow_.lock(); }
     bool hasApplicationIconImage() const override { return hasIcon; }
+    void activateIgnoringOtherApps(bool) override { ++activations; }
     void terminate() override;
 
     // Launches, lets the prepared session use the program, and quits it if the session has not.
@@ -58,6 +59,7 @@ public:
     void simulateQuit();
 
     bool hasIcon = false;
+    int activations = 0; // how often it came forward
 
 private:
     friend class SimulatedPlatform;

@@ -18,6 +18,7 @@
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedWebView.h"
 #include "platform/simulated/SimulatedWorkspace.h"
+#include "platform/simulated/usernotifications/SimulatedNotificationCenter.h"
 
 #include <string>
 #include <vector>
@@ -39,6 +40,7 @@ public:
     SimulatedFileManager& fileManager() override { return fileManager_; }
     SimulatedProcessInfo& processInfo() override { return processInfo_; }
     SimulatedWorkspace& workspace() override { return workspace_; }
+    SimulatedNotificationCenter& userNotificationCenter() override { return notifications_; }
     SimulatedAlerts& alerts() { return alerts_; }
     SimulatedOpenPanels& openPanels() { return openPanels_; }
     platform::NSScreen* mainScreen() override;
@@ -126,6 +128,7 @@ private:
     SimulatedWorkspace workspace_;
     SimulatedAlerts alerts_;
     SimulatedOpenPanels openPanels_;
+    SimulatedNotificationCenter notifications_{queue_};
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;

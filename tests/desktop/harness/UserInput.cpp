@@ -37,4 +37,9 @@ void UserInput::click(int button)
     run({"click", std::to_string(button)});
 }
 
+void UserInput::click(int x, int y, int button)
+{
+    run({"mousemove", std::to_string(x), std::to_string(y), "click", std::to_string(button)});
+}
+
 } // namespace desktop

@@ -17,6 +17,8 @@ public:
     static void movePointer(int x, int y);
 
     static void click(int button = leftButton);
+    // Moves the pointer there, in pixels from the upper left corner of the screen, and clicks.
+    static void click(int x, int y, int button = leftButton);
 
     static constexpr int leftButton = 1;
     static constexpr int middleButton = 2;

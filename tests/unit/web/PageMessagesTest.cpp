@@ -1,5 +1,6 @@
 #include "web/PageMessages.h"
 
+#include "platform/foundation/UUID.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "reports/LoadDelegate.h"
 #include "reports/PrintDelegate.h"
@@ -68,6 +69,59 @@ TEST_F(PageMessages, reportTheRouteAsItIs)
     EXPECT_EQ(model.currentRoute(), "");
 }
 
+TEST_F(PageMessages, askForNotificationsWhenSomebodySignsIn)
+{
+    const Value::Object ada{{"firstname", "Ada"}};
+    const auto questionsAfter = [&](const Value& body) {
+        post("authBridge", body);
+        platform.mainQueue().runUntilIdle();
+        return platform.userNotificationCenter().questions.size();
+    };
+    EXPECT_EQ(questionsAfter(Value()), 0u);
+    EXPECT_FALSE(platform.userNotificationCenter().hasDelegate());
+    EXPECT_EQ(questionsAfter(ada), 1u);
+    EXPECT_TRUE(platform.userNotificationCenter().hasDelegate());
+
+    simulated::SimulatedPlatform later; // somebody is signed in from the start
+    later.userDefaults().setData(WebModel::userDefaultsKey, *UserIdentity{"Ada", ""}.encoded());
+    WebModel tab{"drives"};
+    for (const auto& body : {Value(ada), Value(Value::Object{{"firstname", "Eve"}})}) {
+        velmaro::actionForPageMessage({"authBridge", body})(tab);
+        later.mainQueue().runUntilIdle();
+    }
+    EXPECT_EQ(tab.user()->firstname, "Eve");
+    EXPECT_TRUE(later.userNotificationCenter().questions.empty());
+}
+
+TEST_F(PageMessages, postNotificationsWithWhatIsText)
+{
+    auto& center = platform.userNotificationCenter();
+    center.status = platform::UNAuthorizationStatus::authorized;
+    for (const auto& body : {Value(), Value("text"), Value(Value::Array{}), Value(true)})
+        EXPECT_FALSE(post("notifyBridge", body));
+
+    post("notifyBridge",
+        Value::Object{{"title", ""}, {"body", "b"}, {"url", "velmaro://page/fuel"}, {"id", ""}});
+    post("notifyBridge",
+        Value::Object{{"title", 1}, {"body", nullptr}, {"url", Value::Object{}}, {"id", false}});
+    post("notifyBridge", Value::Object{});
+    platform.mainQueue().runUntilIdle();
+
+    ASSERT_EQ(center.shown.size(), 3u);
+    EXPECT_EQ(center.shown[0].identifier, "");
+    EXPECT_EQ(center.shown[0].content.title, "");
+    EXPECT_EQ(center.shown[0].content.body, "b");
+    EXPECT_EQ(center.shown[0].content.userInfo.at("vlDeepLink"), "velmaro://page/fuel");
+    for (const auto index : {1u, 2u}) {
+        const auto& [identifier, content] = center.shown[index];
+        EXPECT_EQ(content.title, "Velmaro");
+        EXPECT_EQ(content.body, "");
+        EXPECT_TRUE(content.userInfo.empty());
+        EXPECT_TRUE(platform::UUID::fromString(identifier));
+    }
+    EXPECT_NE(center.shown[1].identifier, center.shown[2].identifier);
+}
+
 TEST_F(PageMessages, finishTheWelcomeTour)
 {
     post("onboardingBridge", Value());
@@ -124,6 +178,36 @@ TEST_F(PageMessages, handOverReports)
         EXPECT_EQ(platform.webViews().back().lock()->documents[0].html, *body.at("html").string());
         pending.clear();
     }
+}
+
+TEST_F(PageMessages, bearEveryValueInEveryMember)
+{
+    struct Bridge {
+        const char* name;
+        const char* required; // the member without which nothing is done; null: none
+        std::vector<const char*> members;
+    };
+    const Bridge bridges[] = {
+        {"authBridge", nullptr, {"firstname", "lastname"}},
+        {"routeBridge", "page", {"page"}},
+        {"onboardingBridge", nullptr, {"x"}},
+        {"notifyBridge", nullptr, {"title", "body", "url", "id"}},
+        {"logoutBridge", nullptr, {"x"}},
+        {"tabBridge", nullptr, {"x"}},
+    };
+    const Value values[] = {nullptr, true, 0, -1.5e300, "", "text", std::string("a\0b", 3),
+        "\uFFFD", Value::Array{"page"}, Value::Object{{"page", "x"}}};
+    const auto app = velmaro::TabbedAppModel::make();
+    for (const auto& [name, required, members] : bridges) {
+        for (const auto* member : members) {
+            for (const auto& value : values) {
+                const bool acts = post(name, Value::Object{{member, value}});
+                EXPECT_EQ(acts, !required || value.string()) << name << "." << member;
+            }
+        }
+    }
+    platform.mainQueue().runUntilIdle();
+    EXPECT_EQ(app->tabs().size(), 11u) << "ten new ones after the others were closed";
 }
 
 TEST_F(PageMessages, underUnknownNamesAreDropped)

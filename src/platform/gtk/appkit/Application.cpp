@@ -7,6 +7,7 @@
 #include "platform/gtk/appkit/TerminationSignals.h"
 #include "platform/gtk/GtkPlatform.h"
 #include "platform/gtk/ui/ApplicationIcon.h"
+#include "platform/gtk/usernotifications/UserNotificationCenter.h"
 #include "platform/gtk/webkit/WebEngine.h"
 
 #include <algorithm>
@@ -25,6 +26,8 @@ Application::Application(
               .startup = [&platform] { return platform.prepare(); },
               .activate = [this] { activate(); },
               .open = [this](const auto& addresses) { open(addresses); },
+              .notificationClicked =
+                  [this](const auto& userInfo) { receiveNotificationClick(userInfo); },
               .shutdown = [this] { finish(); },
           })
     , address_(std::move(address))
@@ -115,6 +118,22 @@ void Application::open(const std::vector<std::string>& addresses)
     launchOnce();
     for (const auto& address : addresses)
         openURLQueue_.enqueue(address);
+}
+
+void Application::receiveNotificationClick(const Program::UserInfo& userInfo)
+{
+    if (isTerminating_)
+        return;
+    launchOnce();
+    platform_.notificationCenter().receiveClick(userInfo);
+}
+
+void Application::allowToComeForward(const std::string& activationToken)
+{
+    if (activationToken.empty())
+        return;
+    for (auto* window : program_.windows())
+        gtk_window_set_startup_id(window, activationToken.c_str());
 }
 
 void Application::launchOnce()

@@ -28,11 +28,17 @@ public:
     // In a start that is not the user's first, hands the address to the running program and returns
     // at once.
     int run(platform::NSApplicationDelegate& delegate, const ui::Scene& scene) override;
+    void activateIgnoringOtherApps(bool) override { } // windows come forward, one by one
     void terminate() override;
+
+    // The next window to be ordered front may take the keyboard from another program. An empty
+    // token changes nothing.
+    void allowToComeForward(const std::string& activationToken);
 
 private:
     void activate();
     void open(const std::vector<std::string>& addresses);
+    void receiveNotificationClick(const Program::UserInfo& userInfo);
 
     void launchOnce();
     void reopen();

@@ -22,6 +22,26 @@ const Program::Handlers& handlersOf(GApplication* object)
     std::_Exit(EXIT_FAILURE);
 }
 
+void notificationClicked(GSimpleAction*, GVariant* target, gpointer object)
+{
+    Program::UserInfo userInfo;
+    GVariantIter entries;
+    g_variant_iter_init(&entries, target);
+    const char* key = nullptr;
+    const char* value = nullptr;
+    while (g_variant_iter_next(&entries, "{&s&s}", &key, &value))
+        userInfo[key] = value;
+    handlersOf(G_APPLICATION(object)).notificationClicked(userInfo);
+}
+
+void addNotificationAction(GApplication* object)
+{
+    auto* action = g_simple_action_new(Program::notificationAction, G_VARIANT_TYPE("a{ss}"));
+    g_signal_connect(action, "activate", G_CALLBACK(notificationClicked), object);
+    g_action_map_add_action(G_ACTION_MAP(object), G_ACTION(action));
+    g_object_unref(action);
+}
+
 void startup(GApplication* object)
 {
     gtk_disable_setlocale(); // the program has chosen its locale
@@ -79,6 +99,7 @@ Program::Program(std::string identifier, Handlers handlers)
           "flags", G_APPLICATION_HANDLES_OPEN, "register-session", TRUE, nullptr)))
 {
     g_object_set_data(G_OBJECT(object_), programKey, this);
+    addNotificationAction(G_APPLICATION(object_)); // before it can be asked for
 }
 
 Program::~Program()

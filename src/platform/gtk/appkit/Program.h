@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <gtkmm/window.h>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,6 +14,11 @@ namespace gtk {
 // the first.
 class Program {
 public:
+    // The application's action behind its notifications, whose target is what they carry. Services
+    // activate it over the bus, and start the program for it if need be.
+    static constexpr auto notificationAction = "notification";
+    using UserInfo = std::map<std::string, std::string>;
+
     struct Handlers {
         // The display is open. May return a reason why the program cannot run. With one, and where
         // there is no display to open, the program says so in one line and exits with status 1.
@@ -22,6 +28,10 @@ public:
 
         // Addresses as their senders wrote them.
         std::function<void(const std::vector<std::string>& addresses)> open;
+
+        // The user has clicked a notification, and a service other than the one of this run says
+        // so. The program may have been started for it alone: neither of the above is called then.
+        std::function<void(const UserInfo&)> notificationClicked;
 
         // The main loop has ended.
         std::function<void()> shutdown;

@@ -7,6 +7,7 @@ namespace gtk {
 
 namespace {
 
+constexpr auto ownScheme = "velmaro";
 constexpr int fileManagerPatience = 5000; // milliseconds
 
 // Where there is no file manager that selects, the folder will do.
@@ -31,11 +32,30 @@ std::string folderOf(const platform::URL& file)
     return platform::URL::fileURL(folder).absoluteString();
 }
 
+// The program's own addresses need no detour through the desktop, which may not know them.
+void openHere(const std::string& address)
+{
+    auto* program = g_application_get_default();
+    g_autoptr(GFile) file = g_file_new_for_uri(address.c_str());
+    GFile* files[] = {file};
+    g_application_open(program, files, 1, "");
+}
+
+bool isOwn(const platform::URL& url)
+{
+    const auto scheme = url.scheme();
+    return scheme && g_ascii_strcasecmp(scheme->c_str(), ownScheme) == 0
+        && g_application_get_default();
+}
+
 } // namespace
 
 void Workspace::open(const platform::URL& url)
 {
-    launcher_->launch(url.absoluteString());
+    if (isOwn(url))
+        openHere(url.absoluteString());
+    else
+        launcher_->launch(url.absoluteString());
 }
 
 void Workspace::activateFileViewerSelecting(const std::vector<platform::URL>& files)

@@ -67,15 +67,24 @@ private:
         return elements;
     }
 
+    // Members that are no objects come first, so that none is lost to the size of another. Those of
+    // the message itself are all read.
     Value::Object members(JSCValue* object)
     {
+        const bool isMessage = path_.size() == 1;
         g_auto(GStrv) names = jsc_value_object_enumerate_properties(object);
 
         Value::Object members;
-        for (auto name = names; name && *name && takeOne(); ++name) {
-            const ObjectPointer<JSCValue> member(jsc_value_object_get_property(object, *name));
-            members.emplace(*name, read(member.get()));
+        std::vector<std::pair<const char*, ObjectPointer<JSCValue>>> objects;
+        for (auto name = names; name && *name && (isMessage || takeOne()); ++name) {
+            ObjectPointer<JSCValue> member(jsc_value_object_get_property(object, *name));
+            if (jsc_value_is_object(member.get()))
+                objects.emplace_back(*name, std::move(member));
+            else
+                members.emplace(*name, read(member.get()));
         }
+        for (const auto& [name, member] : objects)
+            members.emplace(name, read(member.get()));
         return members;
     }
 

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/foundation/DispatchQueue.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/foundation/UserDefaults.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace gtk {
+
+// Whether the user lets the application do something. Desktops leave such questions to programs
+// that run outside a sandbox, so each is asked here, once, and the answer is kept.
+class Permission {
+public:
+    // Puts the question to the user and calls `answer` once they have decided, there and then or
+    // later. Until then, and for good if it is never called, nothing is decided.
+    using Prompt = std::function<void(std::function<void(bool isAllowed)> answer)>;
+
+    // The question is put in a task of `queue`, the answer kept in `store` under `key`. Both must
+    // outlive this.
+    Permission(platform::DispatchQueue& queue, platform::UserDefaults& store, std::string key,
+        Prompt prompt);
+
+    // Absent until the user has decided.
+    std::optional<bool> isAllowed() const;
+
+    // Asks, unless the user has decided or is being asked.
+    void request();
+
+    // Calls `handler` after each decision.
+    [[nodiscard]] platform::NotificationCenter::Observer observe(std::function<void()> handler);
+
+private:
+    void ask();
+    void decide(bool isAllowed);
+
+    platform::DispatchQueue& queue_;
+    platform::UserDefaults& store_;
+    const std::string key_;
+    const Prompt prompt_;
+    bool isAsking_ = false;
+    platform::NotificationCenter changes_;
+    std::shared_ptr<void> life_ = std::make_shared<char>();
+};
+
+} // namespace gtk

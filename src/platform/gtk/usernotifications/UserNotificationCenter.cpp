@@ -1,0 +1,112 @@
+#include "platform/gtk/usernotifications/UserNotificationCenter.h"
+
+#include "platform/appkit/NSAlert.h"
+#include "platform/appkit/NSApplication.h"
+#include "platform/usernotifications/UNUserNotificationCenterDelegate.h"
+
+#include <utility>
+
+namespace gtk {
+
+using platform::NSAlert;
+using platform::NSError;
+using platform::UNAuthorizationStatus;
+
+void UserNotificationCenter::askUser(std::function<void(bool isAllowed)> answer)
+{
+    const NSAlert alert{
+        .messageText = "Allow Velmaro Online to show notifications?",
+        .informativeText = "Notifications remind you of what is due and tell you what has changed.",
+        .alertStyle = NSAlert::Style::informational,
+        .buttons = {"Allow", "Don\u2019t Allow"},
+    };
+    alert.runModal(
+        [answer = std::move(answer)](int button) { answer(button == NSAlert::firstButton); });
+}
+
+UserNotificationCenter::UserNotificationCenter(platform::DispatchQueue& queue,
+    std::unique_ptr<Permission> permission, std::unique_ptr<NotificationService> service)
+    : queue_(queue)
+    , permission_(std::move(permission))
+    , service_(std::move(service))
+{
+    if (permission_)
+        decisions_ = permission_->observe([this] { tellDecision(); });
+}
+
+void UserNotificationCenter::setDelegate(platform::UNUserNotificationCenterDelegate* delegate)
+{
+    delegate_ = delegate;
+    deliverClicks();
+}
+
+std::optional<bool> UserNotificationCenter::isAllowed() const
+{
+    return permission_ ? permission_->isAllowed() : true;
+}
+
+void UserNotificationCenter::getNotificationSettings(
+    std::function<void(const platform::UNNotificationSettings&)> completion)
+{
+    queue_.async([this, completion = std::move(completion)] {
+        const auto decision = isAllowed();
+        completion({!decision ? UNAuthorizationStatus::notDetermined
+                : *decision   ? UNAuthorizationStatus::authorized
+                              : UNAuthorizationStatus::denied});
+    });
+}
+
+void UserNotificationCenter::requestAuthorization(platform::UNAuthorizationOptions,
+    std::function<void(bool granted, const std::optional<NSError>&)> completion)
+{
+    waiting_.push_back(std::move(completion));
+    if (isAllowed())
+        queue_.async([this] { tellDecision(); });
+    else
+        permission_->request();
+}
+
+void UserNotificationCenter::tellDecision()
+{
+    for (auto waiting = std::exchange(waiting_, {}); auto& completion : waiting)
+        completion(*isAllowed(), std::nullopt);
+}
+
+void UserNotificationCenter::add(const platform::UNNotificationRequest& request,
+    std::function<void(const std::optional<NSError>&)> completion)
+{
+    const bool isInFront = platform::NSApplication::shared().keyWindow() != nullptr;
+    if (!isInFront)
+        return service_->post(request, std::move(completion));
+
+    const auto present = [&](platform::UNNotificationPresentationOptions options) {
+        auto presented = request;
+        if (!(options & platform::unNotificationPresentationOptionSound))
+            presented.content.sound.reset();
+        if (options & platform::unNotificationPresentationOptionBanner)
+            service_->post(presented, completion);
+        else
+            queue_.async([completion] { completion({}); });
+    };
+    if (delegate_)
+        delegate_->userNotificationCenterWillPresentNotification(*this, request, present);
+    else
+        present({});
+}
+
+void UserNotificationCenter::receiveClick(const std::map<std::string, std::string>& userInfo)
+{
+    clicks_.push_back({userInfo});
+    deliverClicks();
+}
+
+void UserNotificationCenter::deliverClicks()
+{
+    while (delegate_ && !clicks_.empty()) {
+        const auto click = std::move(clicks_.front());
+        clicks_.pop_front();
+        delegate_->userNotificationCenterDidReceiveNotificationResponse(*this, click, [] {});
+    }
+}
+
+} // namespace gtk

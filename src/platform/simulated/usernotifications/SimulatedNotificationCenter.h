@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/foundation/DispatchQueue.h"
+#include "platform/usernotifications/UNUserNotificationCenter.h"
+#include "platform/usernotifications/UNUserNotificationCenterDelegate.h"
+
+#include <deque>
+#include <vector>
+
+namespace simulated {
+
+// A desktop whose user, who has not been asked yet, is the test.
+class SimulatedNotificationCenter final : public platform::UNUserNotificationCenter {
+public:
+    // All completions are called from tasks of `queue`.
+    explicit SimulatedNotificationCenter(platform::DispatchQueue& queue)
+        : queue_(queue)
+    {
+    }
+
+    void setDelegate(platform::UNUserNotificationCenterDelegate* delegate) override;
+    void getNotificationSettings(
+        std::function<void(const platform::UNNotificationSettings&)> completion) override;
+    void requestAuthorization(platform::UNAuthorizationOptions options,
+        std::function<void(bool granted, const std::optional<platform::NSError>&)> completion)
+        override;
+    void add(const platform::UNNotificationRequest& request,
+        std::function<void(const std::optional<platform::NSError>&)> completion) override;
+
+    // The user answers the oldest question that waits; fails the test when none does.
+    void simulateAnswer(bool granted);
+
+    // The user clicks a notification; fails the test when nobody listens.
+    void simulateClick(const platform::UNNotificationRequest& notification);
+
+    // How a notification would show in front.
+    platform::UNNotificationPresentationOptions presentationOf(
+        const platform::UNNotificationRequest& notification);
+
+    bool hasDelegate() const { return delegate_; }
+
+    platform::UNAuthorizationStatus status = platform::UNAuthorizationStatus::notDetermined;
+    std::optional<platform::NSError> postError; // of all that is added from now on
+    std::vector<platform::UNAuthorizationOptions> questions; // all that were ever asked
+    std::vector<platform::UNNotificationRequest> shown;
+    int finishedClicks = 0; // whose completion handler was called
+
+private:
+    platform::DispatchQueue& queue_;
+    platform::UNUserNotificationCenterDelegate* delegate_ = nullptr;
+    std::deque<std::function<void(bool granted, const std::optional<platform::NSError>&)>> waiting_;
+};
+
+} // namespace simulated

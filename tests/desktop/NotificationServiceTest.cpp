@@ -1,0 +1,175 @@
+// The desktop's services that show notifications.
+
+#include "harness/Eventually.h"
+#include "harness/FakeNotificationDaemon.h"
+#include "platform/gtk/usernotifications/DesktopNotifications.h"
+#include "platform/gtk/usernotifications/PortalNotifications.h"
+
+#include <giomm/init.h>
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+using Manner = FakeNotificationDaemon::Manner;
+using gtk::DesktopNotifications;
+
+// The portal for notifications; it notes what it is asked to add.
+class FakeNotificationPortal final : public FakeService {
+public:
+    FakeNotificationPortal()
+        : FakeService("DBUS_SESSION_BUS_ADDRESS", "org.freedesktop.portal.Desktop")
+    {
+        start();
+    }
+    ~FakeNotificationPortal() override { stop(); }
+
+private:
+    void registerObjects() override
+    {
+        registerObject("/org/freedesktop/portal/desktop",
+            R"(<node><interface name="org.freedesktop.portal.Notification">
+                 <method name="AddNotification">
+                   <arg direction="in" type="s"/><arg direction="in" type="a{sv}"/>
+                 </method>
+               </interface></node>)");
+    }
+
+    void handle(const std::string&, GVariant* arguments, GDBusMethodInvocation* invocation) override
+    {
+        char* text = g_variant_print(arguments, FALSE);
+        note(text);
+        g_free(text);
+        g_dbus_method_invocation_return_value(invocation, nullptr);
+    }
+};
+
+struct Click {
+    std::map<std::string, std::string> userInfo;
+    std::string token;
+
+    bool operator==(const Click&) const = default;
+};
+
+class NotificationServiceTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() { Gio::init(); }
+
+    // Posts and returns the error; "" means that it was shown, nothing that no answer came.
+    static std::optional<std::string> post(
+        gtk::NotificationService& service, const platform::UNNotificationRequest& request)
+    {
+        std::optional<std::string> outcome;
+        service.post(request, [&](const auto& error) {
+            outcome = error ? error->localizedDescription : std::string();
+        });
+        EXPECT_FALSE(outcome) << "told inside the call";
+        EXPECT_TRUE(inLoop([&] { return outcome.has_value(); }));
+        return outcome;
+    }
+
+    // Hears everything that the bus has said so far.
+    static void catchUp()
+    {
+        const auto bus = Gio::DBus::Connection::get_sync(Gio::DBus::BusType::SESSION);
+        bus->call_sync(
+            "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetId", {}, "org.freedesktop.DBus");
+        while (g_main_context_iteration(nullptr, FALSE)) { }
+    }
+
+    static bool inLoop(const std::function<bool()>& condition)
+    {
+        return eventually([&] {
+            while (g_main_context_iteration(nullptr, FALSE)) { }
+            return condition();
+        });
+    }
+
+    std::vector<Click> clicks;
+    DesktopNotifications notifications{
+        "example.velmaro.Online", [this](const auto& userInfo, const auto& token) {
+            clicks.push_back({userInfo, token});
+        }};
+};
+
+} // namespace
+
+TEST_F(NotificationServiceTest, textsAreShownAsTheyAre)
+{
+    const std::string nul("a\0b", 3);
+    struct Case {
+        Manner manner;
+        std::string body;
+        std::string shown;
+    };
+    for (const auto& [manner, body, shown] : {
+             Case{Manner::showsMarkup, "<b>Tom & Eve</b>", "&lt;b&gt;Tom &amp; Eve&lt;/b&gt;"},
+             Case{Manner::showsPlainText, "<b>Tom & Eve</b>", "<b>Tom & Eve</b>"},
+             Case{Manner::showsPlainText, nul, "ab"},
+             Case{Manner::showsPlainText, "", ""},
+         }) {
+        FakeNotificationDaemon daemon(manner);
+        catchUp();
+        EXPECT_EQ(post(notifications, {body, {.title = "<i>" + nul, .body = body}}), "");
+        ASSERT_EQ(daemon.shown().size(), 1u);
+        EXPECT_EQ(daemon.shown()[0].body, shown);
+        EXPECT_EQ(daemon.shown()[0].title, "<i>ab");
+        EXPECT_EQ(daemon.shown()[0].hints.at("suppress-sound"), "true");
+        EXPECT_EQ(daemon.shown()[0].replaced, 0u) << "a number of an earlier service";
+    }
+}
+
+TEST_F(NotificationServiceTest, aHugeTextIsCutBetweenCharacters)
+{
+    FakeNotificationDaemon daemon(Manner::showsPlainText);
+    std::string text = "x";
+    while (text.size() < (64u << 20))
+        text += "\u00e9";
+    EXPECT_EQ(post(notifications, {"id", {.title = text, .body = text}}), "");
+    EXPECT_GT(daemon.shown().at(0).body.size(), 1000u);
+    EXPECT_LT(daemon.shown()[0].body.size(), 10000u);
+}
+
+TEST_F(NotificationServiceTest, failuresComeWithTheirReason)
+{
+    EXPECT_NE(post(notifications, {"id", {}}).value_or("").find("org.freedesktop.Notifications"),
+        std::string::npos);
+    FakeNotificationDaemon daemon(Manner::refuses);
+    EXPECT_EQ(post(notifications, {"id", {}}), "too many");
+}
+
+TEST_F(NotificationServiceTest, aClickTellsWhatTheNotificationCarries)
+{
+    FakeNotificationDaemon daemon;
+    post(notifications, {"first", {.userInfo = {{"key", "1"}}}});
+    post(notifications, {"second", {.userInfo = {{"key", "2"}}}});
+    post(notifications, {"first", {.userInfo = {{"key", "3"}}}});
+    const auto shown = daemon.shown();
+    EXPECT_EQ(shown[2].replaced, shown[0].number);
+
+    daemon.click(7); // somebody else's
+    daemon.expire(shown[1].number);
+    daemon.click(shown[1].number);
+    daemon.click(shown[1].number); // gone
+    daemon.click(shown[0].number);
+    EXPECT_TRUE(inLoop([&] { return clicks.size() == 2; }));
+    EXPECT_EQ(clicks, (std::vector<Click>{{{{"key", "2"}}, "token"}, {{{"key", "3"}}, "token"}}));
+}
+
+TEST_F(NotificationServiceTest, insideASandboxThePortalKeepsTheAction)
+{
+    gtk::PortalNotifications portalNotifications("notification");
+    const platform::UNNotificationRequest request{
+        "id", {.title = "<i>", .body = "b", .userInfo = {{"vlDeepLink", "velmaro://page/fuel"}}}};
+    EXPECT_NE(post(portalNotifications, request), "");
+
+    FakeNotificationPortal portal;
+    EXPECT_EQ(post(portalNotifications, request), "");
+    EXPECT_EQ(portal.calls(),
+        std::vector<std::string>{"('id', {'body': <'b'>, 'default-action': <'app.notification'>, "
+                                 "'default-action-target': <{'vlDeepLink': "
+                                 "'velmaro://page/fuel'}>, 'title': <'<i>'>})"});
+}
+
+} // namespace desktop

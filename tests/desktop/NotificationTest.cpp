@@ -1,0 +1,167 @@
+// What pages have to tell, from the service's page to the desktop's notifications and back.
+
+#include "harness/AccessibleObject.h"
+#include "harness/AppProcess.h"
+#include "harness/FakeNotificationDaemon.h"
+#include "harness/SavedSettings.h"
+#include "harness/UserInput.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+constexpr auto busName = "example.velmaro.Online";
+constexpr auto busPath = "/example/velmaro/Online";
+
+class NotificationTest : public testing::Test {
+protected:
+    NotificationTest()
+    {
+        SavedSettings::write({{"vl.open.routes", {"dashboard"}}});
+        std::filesystem::remove(permissions()); // of an earlier test in this home
+    }
+
+    static std::filesystem::path permissions()
+    {
+        return SavedSettings::path().parent_path() / "permissions.json";
+    }
+
+    static nlohmann::json savedPermissions()
+    {
+        std::ifstream file(permissions());
+        return nlohmann::json::parse(file, nullptr, false);
+    }
+
+    bool isAsked(const std::string& path) const
+    {
+        return eventually([&] { return !service.requests(path).empty(); });
+    }
+
+    // Signs in on the page that asks for it, whose first control does that.
+    static void signIn(const DesktopWindow& window)
+    {
+        const auto frame = window.frame();
+        UserInput::click(frame.x + frame.width / 2, frame.y + frame.height - 40);
+        UserInput::press("Tab");
+        UserInput::press("Return");
+    }
+
+    // Answers the alert, whose first button is "Allow", as soon as it takes keys.
+    static bool allow(AppProcess& app)
+    {
+        const bool isAsked = eventually(
+            [&] { return AccessibleObject::find(app.process().pid(), "Allow").has_value(); });
+        const nlohmann::json allowed = {{"notificationsAllowed", true}};
+        const auto isAllowed = [&] { return savedPermissions() == allowed; };
+        return isAsked && eventually([&] {
+            UserInput::press("Return");
+            return eventually(isAllowed, std::chrono::seconds(1));
+        });
+    }
+
+    // Goes through the controls of the dashboard, links and reminders, and presses the reminders.
+    static bool pressReminder(const FakeNotificationDaemon& daemon)
+    {
+        const auto count = daemon.shown().size();
+        for (int control = 0; control < 60; ++control) {
+            UserInput::press("Tab");
+            UserInput::press("space");
+            if (eventually(
+                    [&] { return daemon.shown().size() > count; }, std::chrono::milliseconds(300)))
+                return true;
+        }
+        return false;
+    }
+
+    // Lets the session bus start the application, as an installed one is.
+    void install() const
+    {
+        const std::filesystem::path data = std::getenv("XDG_DATA_HOME");
+        const auto program = data / "start-velmaro";
+        std::filesystem::create_directories(data / "dbus-1/services");
+        std::ofstream script(program);
+        script << "#!/bin/sh\nexec env";
+        for (const auto& [name, value] : service.clientEnvironment())
+            script << " '" << name << '=' << value << '\'';
+        script << " " VELMARO_ONLINE " --gapplication-service\n";
+        script.close();
+        std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+        std::ofstream(data / "dbus-1/services/example.velmaro.Online.service")
+            << "[D-BUS Service]\nName=" << busName << "\nExec=" << program.string() << '\n';
+        call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+            "ReloadConfig", nullptr);
+    }
+
+    static void call(const char* destination, const char* path, const char* interface,
+        const char* method, GVariant* arguments)
+    {
+        GError* error = nullptr;
+        GDBusConnection* bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+        GVariant* reply = g_dbus_connection_call_sync(bus, destination, path, interface, method,
+            arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, 30'000, nullptr, &error);
+        EXPECT_TRUE(reply) << error->message;
+        g_clear_pointer(&reply, g_variant_unref);
+        g_clear_error(&error);
+        g_object_unref(bus);
+    }
+
+    DemoServiceProcess service;
+};
+
+} // namespace
+
+TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsBackToItsPage)
+{
+    FakeNotificationDaemon daemon;
+    {
+        AppProcess app(service);
+        ASSERT_TRUE(app.waitForPage());
+        const auto window = *app.waitForWindow();
+        signIn(window);
+        ASSERT_TRUE(allow(app));
+        ASSERT_TRUE(pressReminder(daemon));
+
+        const auto first = daemon.shown().back();
+        EXPECT_TRUE(first.title.starts_with("Service for ")) << first.title;
+        EXPECT_TRUE(first.body.starts_with("Due on ")) << first.body;
+        EXPECT_EQ(first.replaced, 0u);
+        EXPECT_EQ(first.actions, (std::vector<std::string>{"default", "Open"}));
+        EXPECT_EQ(first.hints,
+            (std::map<std::string, std::string>{{"desktop-entry", "'example.velmaro.Online'"},
+                {"sound-name", "'message-new-instant'"}}));
+
+        UserInput::press("space"); // the same reminder
+        ASSERT_TRUE(eventually([&] { return daemon.shown().size() == 2; }));
+        EXPECT_EQ(daemon.shown()[1].replaced, first.number);
+
+        service.forgetRequests();
+        daemon.click(first.number);
+        EXPECT_TRUE(isAsked("/online/api/vehicles"));
+        window.close();
+        EXPECT_EQ(app.process().waitForExit(), 0);
+    }
+    EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"vehicles"}));
+    EXPECT_TRUE(SavedSettings::read().contains("vl.user.identity"));
+}
+
+TEST_F(NotificationTest, aClickStartsTheApplicationAndLeadsToThePage)
+{
+    install();
+    GVariantBuilder target;
+    g_variant_builder_init(&target, G_VARIANT_TYPE("av"));
+    g_variant_builder_add(
+        &target, "v", g_variant_new_parsed("{'vlDeepLink': 'velmaro://page/fuel'}"));
+    call(busName, busPath, "org.freedesktop.Application", "ActivateAction",
+        g_variant_new("(sava{sv})", "notification", &target, nullptr));
+
+    EXPECT_TRUE(isAsked("/online/api/fuel"));
+    const auto window = Desktop::window("Velmaro Online");
+    ASSERT_TRUE(window);
+    window->close();
+    EXPECT_TRUE(eventually([] { return Desktop::windows().empty(); }));
+}
+
+} // namespace desktop
