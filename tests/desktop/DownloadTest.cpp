@@ -3,6 +3,7 @@
 #include "platform/gtk/GtkPlatform.h"
 #include "web/Coordinator.h"
 #include "web/DownloadList.h"
+#include "web/Service.h"
 #include "webview/WebViewTest.h"
 
 #include <set>
@@ -93,6 +94,7 @@ protected:
 
     void SetUp() override
     {
+        ASSERT_TRUE(velmaro::Service::current().setServiceOrigin(server.url("")));
         openView();
         view->navigationDelegate = coordinator;
         ASSERT_TRUE(loads("/"));
