@@ -26,6 +26,7 @@ class WKWebView;
 struct MKLocalSearchRequest;
 struct NSAlert;
 struct WKWebViewConfiguration;
+enum class WKWebsiteDataStore;
 
 // Everything the application asks of the desktop it runs on. One platform is current at a time: the
 // real one in the program, a fresh simulated one in each test. Services keep their platform names
@@ -72,6 +73,9 @@ public:
 
     // See `NSAlert::runModal`.
     virtual void runModal(const NSAlert& alert, std::function<void(int button)> completion) = 0;
+
+    // See `removeAllData`.
+    virtual void removeAllData(WKWebsiteDataStore store, std::function<void()> completion) = 0;
 
     // Writes one line to the system log.
     virtual void log(const std::string& line) = 0;

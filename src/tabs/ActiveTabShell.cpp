@@ -3,6 +3,7 @@
 #include "app/WindowSizer.h"
 #include "location/LocationPickerView.h"
 #include "platform/ui/Views.h"
+#include "tabs/FocusedValueKeys.h"
 #include "tabs/TabBar.h"
 #include "tabs/WindowToolbar.h"
 #include "web/TabContent.h"
@@ -48,6 +49,8 @@ View ActiveTabShell::body() const
 
     return VStack{{.spacing = 0}, TabBar{app}, layers(*app, active)}
         .background(WindowSizer{})
+        .focusedSceneValue<WebModelFocusedKey>(active)
+        .focusedSceneValue<TabbedAppModelFocusedKey>(app)
         .sheet(target ? picker(*target) : View(), closePicker)
         .toolbar(NavigationToolbar{active}, StationToolbar{active, pickerTarget.binding()});
 }

@@ -1,5 +1,6 @@
 #include "platform/gtk/GtkPlatform.h"
 
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/gtk/appkit/AlertPresenter.h"
 #include "platform/gtk/appkit/Application.h"
 #include "platform/gtk/appkit/PlainView.h"
@@ -19,6 +20,7 @@
 #include "platform/gtk/mapkit/SearchCompleter.h"
 #include "platform/gtk/webkit/GtkWebView.h"
 #include "platform/gtk/webkit/WebEngine.h"
+#include "platform/gtk/webkit/WebsiteData.h"
 
 #include <future>
 #include <gio/gio.h>
@@ -51,6 +53,10 @@ GtkPlatform::GtkPlatform(Options options)
     , workspace_(std::make_unique<Workspace>())
     , alerts_(std::make_unique<AlertPresenter>())
 {
+    settings_->whenChanged([] {
+        platform::NotificationCenter::defaultCenter().post(
+            platform::UserDefaults::didChangeNotification);
+    });
     chooseRenderer();
     // Desktops find the program's windows, and its desktop entry from them, by this name.
     g_set_prgname(options_.identifier.c_str());
@@ -173,6 +179,12 @@ void GtkPlatform::runModal(
     const platform::NSAlert& alert, std::function<void(int button)> completion)
 {
     alerts_->run(alert, std::move(completion));
+}
+
+void GtkPlatform::removeAllData(
+    platform::WKWebsiteDataStore store, std::function<void()> completion)
+{
+    removeWebsiteData(webEngine().session(store).get(), std::move(completion));
 }
 
 void GtkPlatform::log(const std::string& line)

@@ -61,6 +61,8 @@ public:
         const platform::MKLocalSearchRequest& request) override;
     void runModal(
         const platform::NSAlert& alert, std::function<void(int button)> completion) override;
+    void removeAllData(
+        platform::WKWebsiteDataStore store, std::function<void()> completion) override;
     void log(const std::string& line) override;
 
     // What all web views share; made on first use.

@@ -14,6 +14,7 @@
 #include "platform/simulated/SimulatedTextField.h"
 #include "platform/simulated/SimulatedURLCache.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
+#include "platform/simulated/SimulatedWebsiteData.h"
 #include "platform/simulated/SimulatedWebView.h"
 #include "platform/simulated/SimulatedWorkspace.h"
 
@@ -38,6 +39,7 @@ public:
     SimulatedProcessInfo& processInfo() override { return processInfo_; }
     SimulatedWorkspace& workspace() override { return workspace_; }
     SimulatedAlerts& alerts() { return alerts_; }
+    SimulatedWebsiteData& websiteData() { return websiteData_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
     std::shared_ptr<platform::NSTextField> makeTextField() override;
@@ -51,6 +53,11 @@ public:
         const platform::NSAlert& alert, std::function<void(int button)> completion) override
     {
         alerts_.run(alert, std::move(completion));
+    }
+    void removeAllData(
+        platform::WKWebsiteDataStore store, std::function<void()> completion) override
+    {
+        websiteData_.remove(store, std::move(completion));
     }
     void log(const std::string& line) override { logLines.push_back(line); }
 
@@ -91,6 +98,7 @@ private:
     SimulatedProcessInfo processInfo_;
     SimulatedWorkspace workspace_;
     SimulatedAlerts alerts_;
+    SimulatedWebsiteData websiteData_;
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;
