@@ -12,8 +12,8 @@ enum class WKWebsiteDataStore {
 
 // Removes everything of every kind that pages have ever left in the store: cookies, storage,
 // databases, service workers, caches, and what the engine has learnt about their hosts. Pages that
-// are shown go on without it. `completion` is called on the main thread when nothing is left on the
-// disk, which may be much later; never when the program ends first.
+// are shown go on without it. `completion` is called on the main thread when it has been done,
+// which may be much later; never when the program ends first.
 void removeAllData(WKWebsiteDataStore store, std::function<void()> completion);
 
 } // namespace platform
