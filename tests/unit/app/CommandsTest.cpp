@@ -242,6 +242,17 @@ TEST_F(Commands, knowNoPageWhileNoTabIsActive)
     EXPECT_TRUE(menus().item("Reload").isEnabled);
 }
 
+TEST_F(Commands, ofThePlatformAreAlwaysThere)
+{
+    openPanel();
+    press(command("q"));
+    press({.key = ui::Key::f11});
+    EXPECT_EQ(menus().standardCommands,
+        (std::vector{ui::StandardCommand::quit, ui::StandardCommand::toggleFullScreen}));
+    EXPECT_TRUE(menus().item("Copy").leavesKeysToViews);
+    EXPECT_FALSE(menus().item("Quit").leavesKeysToViews);
+}
+
 TEST_F(Commands, switchTheRestoringOfTheActiveTabAtOnce)
 {
     const auto isOn = [this] { return menus().item("Restore Last Active Tab on Launch").isOn; };
