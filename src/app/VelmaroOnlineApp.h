@@ -10,7 +10,7 @@ class VelmaroOnlineApp {
 public:
     AppDelegate appDelegate;
 
-    // The window group.
+    // The window group and the menus.
     ui::Scene body() const;
 
     // Runs on the current platform until the application quits. Returns the exit status.

@@ -35,6 +35,7 @@ struct NSAlert;
 struct NSSharingServicePicker;
 struct NSOpenPanel;
 struct WKWebViewConfiguration;
+enum class WKWebsiteDataStore;
 
 // Everything the application asks of the desktop it runs on. One platform is current at a time: the
 // real one in the program, a fresh simulated one in each test. Services keep their platform names
@@ -102,6 +103,9 @@ public:
     // See `NSOpenPanel::begin`.
     virtual void showOpenPanel(const NSOpenPanel& panel,
         std::function<void(const std::optional<std::vector<URL>>& files)> completion) = 0;
+
+    // See `removeAllData`.
+    virtual void removeAllData(WKWebsiteDataStore store, std::function<void()> completion) = 0;
 
     // Writes one line to the system log.
     virtual void log(const std::string& line) = 0;

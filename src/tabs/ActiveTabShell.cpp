@@ -4,6 +4,7 @@
 #include "location/LocationPickerView.h"
 #include "platform/ui/Views.h"
 #include "tabs/DownloadsButton.h"
+#include "tabs/FocusedValueKeys.h"
 #include "tabs/TabBar.h"
 #include "tabs/WindowToolbar.h"
 #include "web/TabContent.h"
@@ -50,6 +51,8 @@ View ActiveTabShell::body() const
 
     return VStack{{.spacing = 0}, TabBar{app}, layers(*app, active)}
         .background(WindowSizer{})
+        .focusedSceneValue<WebModelFocusedKey>(active)
+        .focusedSceneValue<TabbedAppModelFocusedKey>(app)
         .sheet(target ? picker(*target) : View(), closePicker)
         .toolbar(NavigationToolbar{active},
             HStack{

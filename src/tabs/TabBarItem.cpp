@@ -67,7 +67,8 @@ View TabBarItem::body() const
         .accessibility(
             {.role = ui::Accessibility::Role::tab, .label = title, .isSelected = isActive})
         .onHover(isHovered.setter())
-        .onTapGesture(onSelect);
+        .onTapGesture(onSelect)
+        .onMiddleClick(canClose ? onClose : nullptr);
 }
 
 std::string tabTitle(const std::string& pageTitle)

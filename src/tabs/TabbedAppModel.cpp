@@ -16,6 +16,8 @@ using platform::UserDefaults;
 
 namespace {
 
+constexpr std::size_t mostClosedTabs = 25; // that can come back
+
 struct SharedModel {
     std::weak_ptr<TabbedAppModel> model;
 };
@@ -95,8 +97,33 @@ void TabbedAppModel::closeTab(int index)
             window->close();
         return;
     }
+    noteClosedTab(index);
     tabs.mutate([&](auto& tabs) { tabs.erase(tabs.begin() + index); });
     activeIndex = std::clamp(activeIndex(), 0, count() - 1);
+}
+
+void TabbedAppModel::noteClosedTab(int index)
+{
+    const auto& route = tabs()[static_cast<std::size_t>(index)]->currentRoute();
+    closedTabs_.mutate([&](auto& closed) {
+        closed.push_back({route, index});
+        if (closed.size() > mostClosedTabs)
+            closed.erase(closed.begin());
+    });
+}
+
+void TabbedAppModel::reopenClosedTab()
+{
+    if (!canReopenTab())
+        return;
+    const auto closed = closedTabs_().back();
+    closedTabs_.mutate([](auto& closed) { closed.pop_back(); });
+
+    const int index = std::min(closed.index, count());
+    const auto route = closed.route.empty() ? std::nullopt : std::optional(closed.route);
+    tabs.mutate(
+        [&](auto& tabs) { tabs.insert(tabs.begin() + index, std::make_shared<WebModel>(route)); });
+    activeIndex = index;
 }
 
 void TabbedAppModel::nextTab()
@@ -132,6 +159,7 @@ void TabbedAppModel::keepOnlyActiveTab()
     const auto active = activeTab();
     if (!active)
         return;
+    closedTabs_ = ClosedTabs(); // of somebody who has signed out
     tabs = Tabs{active};
     activeIndex = 0;
 }

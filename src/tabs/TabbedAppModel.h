@@ -50,13 +50,35 @@ public:
     // Drops every tab but the active one.
     void keepOnlyActiveTab();
 
+    // Whether a tab was closed that can come back.
+    bool canReopenTab() const { return !closedTabs_().empty(); }
+
+    // Brings the tab closed last back to where it was, on the route that it showed, and shows it.
+    void reopenClosedTab();
+
+    // Asks the user, and then forgets everything that is kept on this computer for the service, but
+    // for the identity, which goes when the page tells. In the end there is one tab, on the welcome
+    // page.
+    void clearAllCache();
+
     void handleAppWillTerminate(const platform::Notification& notification);
 
 private:
+    struct ClosedTab {
+        std::string route; // empty: the start page
+        int index = 0; // where it was
+    };
+    using ClosedTabs = std::vector<ClosedTab>; // the one closed last stands last
+
     TabbedAppModel();
 
+    void noteClosedTab(int index);
+    void forgetEverything();
+    void startAfresh();
     int count() const { return static_cast<int>(tabs().size()); }
 
+    ui::Published<ClosedTabs> closedTabs_;
+    int clearings_ = 0; // of all data, that were begun
     platform::NotificationCenter::Observer terminationObserver_;
     std::shared_ptr<TabPreloader> preloader_;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/ui/Views.h"
 #include "web/FindBar.h"
+#include "web/PageZoom.h"
 #include "web/TabLoadingSplash.h"
 #include "web/WebView.h"
 
@@ -62,7 +63,7 @@ struct FindBarPlace {
 
 View TabContent::body() const
 {
-    return ZStack{{}, WebView{.model = model}, Splash{model}}
+    return ZStack{{}, WebView{.model = model, .zoomPercent = PageZoom().percent()}, Splash{model}}
         .overlay(ProgressLine{model}, Alignment::top)
         .overlay(FindBarPlace{model}, Alignment::topTrailing);
 }

@@ -73,6 +73,7 @@ std::shared_ptr<WKWebView> WebView::makeNSView(Coordinator& coordinator) const
 
     coordinator.observe(webView);
     model->webView = webView;
+    webView->setPageZoom(zoomPercent / 100.0);
     styleScrollViews(*webView);
     webView->load({startURL(*model), URLRequest::CachePolicy::reloadRevalidatingCacheData,
         startRequestTimeout});
@@ -82,6 +83,7 @@ std::shared_ptr<WKWebView> WebView::makeNSView(Coordinator& coordinator) const
 void WebView::updateNSView(WKWebView& webView, Coordinator&) const
 {
     styleScrollViews(webView);
+    webView.setPageZoom(zoomPercent / 100.0);
 }
 
 URL startURL(const WebModel& model)

@@ -17,6 +17,7 @@ struct WebView {
     static constexpr bool waitsForFirstFrame = true;
 
     std::shared_ptr<WebModel> model;
+    int zoomPercent = 100;
 
     std::shared_ptr<Coordinator> makeCoordinator() const;
     std::shared_ptr<platform::WKWebView> makeNSView(Coordinator& coordinator) const;

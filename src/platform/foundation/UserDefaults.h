@@ -15,6 +15,9 @@ namespace platform {
 // logged, and what was stored before stays. Main thread only.
 class UserDefaults {
 public:
+    // Posted after every change of the standard store.
+    static constexpr auto didChangeNotification = "NSUserDefaultsDidChangeNotification";
+
     static UserDefaults& standard();
 
     virtual ~UserDefaults() = default;

@@ -1,6 +1,7 @@
 #include "platform/gtk/GtkPlatform.h"
 
 #include "platform/appkit/NSSharingServicePicker.h"
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/gtk/appkit/AlertPresenter.h"
 #include "platform/gtk/appkit/Appearance.h"
 #include "platform/gtk/appkit/Application.h"
@@ -28,6 +29,7 @@
 #include "platform/gtk/webkit/GtkWebView.h"
 #include "platform/gtk/webkit/OffscreenWebView.h"
 #include "platform/gtk/webkit/WebEngine.h"
+#include "platform/gtk/webkit/WebsiteData.h"
 
 #include <cassert>
 #include <future>
@@ -62,6 +64,10 @@ GtkPlatform::GtkPlatform(Options options)
     , workspace_(std::make_unique<Workspace>())
     , alerts_(std::make_unique<AlertPresenter>())
 {
+    settings_->whenChanged([] {
+        platform::NotificationCenter::defaultCenter().post(
+            platform::UserDefaults::didChangeNotification);
+    });
     chooseRenderer();
     // Desktops find the program's windows, and its desktop entry from them, by this name.
     g_set_prgname(options_.identifier.c_str());
@@ -210,6 +216,12 @@ void GtkPlatform::showOpenPanel(
     const platform::NSOpenPanel& panel, platform::NSOpenPanel::Completion completion)
 {
     gtk::showOpenPanel(panel, std::move(completion));
+}
+
+void GtkPlatform::removeAllData(
+    platform::WKWebsiteDataStore store, std::function<void()> completion)
+{
+    removeWebsiteData(webEngine().session(store).get(), std::move(completion));
 }
 
 void GtkPlatform::log(const std::string& line)

@@ -75,6 +75,8 @@ public:
     void showOpenPanel(const platform::NSOpenPanel& panel,
         std::function<void(const std::optional<std::vector<platform::URL>>& files)> completion)
         override;
+    void removeAllData(
+        platform::WKWebsiteDataStore store, std::function<void()> completion) override;
     void log(const std::string& line) override;
 
     // What all web views share; made on first use.

@@ -3,6 +3,7 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/simulated/Failure.h"
 #include "platform/simulated/SimulatedPlatform.h"
+#include "platform/ui/FocusedScene.h"
 
 #include <algorithm>
 #include <utility>
@@ -41,6 +42,7 @@ void SimulatedApplication::launch(platform::NSApplicationDelegate& delegate, con
 {
     delegate_ = &delegate;
     scene_ = &scene;
+    menus_.show(scene);
     delegate.applicationWillFinishLaunching(*this);
     simulateNewWindow();
     delegate.applicationDidFinishLaunching(*this);
@@ -73,6 +75,7 @@ SimulatedWindow& SimulatedApplication::simulateBareWindow(SimulatedWindow::Optio
     windows_.push_back(std::make_shared<SimulatedWindow>(platform_, std::move(options)));
     keyWindow_ = windows_.back();
     mainWindow_ = keyWindow_;
+    followFocus();
     return *windows_.back();
 }
 
@@ -117,6 +120,14 @@ void SimulatedApplication::windowBecameKey(SimulatedWindow& window)
 {
     keyWindow_ = std::static_pointer_cast<SimulatedWindow>(window.shared_from_this());
     mainWindow_ = keyWindow_;
+    followFocus();
+}
+
+// Another program may have the keyboard without a change for the menus.
+void SimulatedApplication::followFocus()
+{
+    const auto window = keyWindow_.lock();
+    ui::FocusedScene::current().values = window ? window->focusedValues() : nullptr;
 }
 
 // What the window shows may be what has closed it, so it is taken down only after the event.
@@ -130,6 +141,7 @@ void SimulatedApplication::windowClosed(SimulatedWindow& window)
     windows_.erase(found);
     keyWindow_ = windows_.empty() ? nullptr : windows_.front();
     mainWindow_ = keyWindow_;
+    followFocus();
     platform_.mainQueue().async([this] { removeClosedWindows(); });
 }
 
@@ -153,6 +165,7 @@ void SimulatedApplication::finish()
 
 void SimulatedApplication::abandon()
 {
+    menus_.takeDown();
     windows_.clear();
     closedWindows_.clear();
 }

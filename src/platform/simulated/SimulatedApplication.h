@@ -3,6 +3,7 @@
 #include "platform/appkit/NSApplication.h"
 #include "platform/appkit/NSApplicationDelegate.h"
 #include "platform/foundation/URL.h"
+#include "platform/simulated/SimulatedMenus.h"
 #include "platform/simulated/SimulatedWindow.h"
 #include "platform/ui/Scene.h"
 
@@ -47,6 +48,8 @@ public:
     // The user starts the program once more. Tells whether the platform did its default.
     bool simulateReopen();
 
+    SimulatedMenus& menus() { return menus_; }
+
     // The user gives the keyboard to another program.
     void simulateResignActive();
 
@@ -66,6 +69,7 @@ private:
     friend class SimulatedWindow;
 
     void windowBecameKey(SimulatedWindow& window);
+    void followFocus();
     void windowClosed(SimulatedWindow& window);
     void removeClosedWindows();
     void finish();
@@ -75,6 +79,7 @@ private:
     platform::NSApplicationDelegate* delegate_ = nullptr;
     const ui::Scene* scene_ = nullptr;
     std::function<void()> session_;
+    SimulatedMenus menus_;
     std::vector<std::shared_ptr<SimulatedWindow>> windows_;
     std::vector<std::shared_ptr<SimulatedWindow>> closedWindows_; // until the event is over
     std::weak_ptr<SimulatedWindow> keyWindow_;

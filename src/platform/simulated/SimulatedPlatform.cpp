@@ -1,5 +1,6 @@
 #include "platform/simulated/SimulatedPlatform.h"
 
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/simulated/Failure.h"
 #include "platform/simulated/SimulatedView.h"
 
@@ -25,6 +26,10 @@ double sharedArea(const NSRect& a, const NSRect& b)
 SimulatedPlatform::SimulatedPlatform()
     : application_(*this)
 {
+    userDefaults_.whenChanged([] {
+        platform::NotificationCenter::defaultCenter().post(
+            platform::UserDefaults::didChangeNotification);
+    });
 }
 
 SimulatedPlatform::~SimulatedPlatform()

@@ -16,6 +16,7 @@
 #include "platform/simulated/SimulatedTextField.h"
 #include "platform/simulated/SimulatedURLCache.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
+#include "platform/simulated/SimulatedWebsiteData.h"
 #include "platform/simulated/SimulatedWebView.h"
 #include "platform/simulated/SimulatedWorkspace.h"
 #include "platform/simulated/usernotifications/SimulatedNotificationCenter.h"
@@ -43,6 +44,7 @@ public:
     SimulatedNotificationCenter& userNotificationCenter() override { return notifications_; }
     SimulatedAlerts& alerts() { return alerts_; }
     SimulatedOpenPanels& openPanels() { return openPanels_; }
+    SimulatedWebsiteData& websiteData() { return websiteData_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
     std::shared_ptr<platform::NSTextField> makeTextField() override;
@@ -72,6 +74,12 @@ public:
         const platform::NSOpenPanel& panel, platform::NSOpenPanel::Completion completion) override
     {
         openPanels_.begin(panel, std::move(completion));
+    }
+
+    void removeAllData(
+        platform::WKWebsiteDataStore store, std::function<void()> completion) override
+    {
+        websiteData_.remove(store, std::move(completion));
     }
     void log(const std::string& line) override { logLines.push_back(line); }
 
@@ -129,6 +137,7 @@ private:
     SimulatedAlerts alerts_;
     SimulatedOpenPanels openPanels_;
     SimulatedNotificationCenter notifications_{queue_};
+    SimulatedWebsiteData websiteData_;
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;

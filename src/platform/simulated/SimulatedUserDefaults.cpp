@@ -72,6 +72,7 @@ void SimulatedUserDefaults::removeObject(const std::string& key)
     writes_.push_back(key);
     if (!writesFail_)
         contents_.erase(key);
+    whenChanged_();
 }
 
 void SimulatedUserDefaults::store(const std::string& key, Stored value)
@@ -79,6 +80,7 @@ void SimulatedUserDefaults::store(const std::string& key, Stored value)
     writes_.push_back(key);
     if (!writesFail_)
         contents_[key] = std::move(value);
+    whenChanged_();
 }
 
 } // namespace simulated

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/UserDefaults.h"
 
+#include <functional>
 #include <map>
 #include <string>
 #include <variant>
@@ -39,6 +40,9 @@ public:
     // The keys that were set or removed, in order, those in vain included.
     const std::vector<std::string>& writes() const { return writes_; }
 
+    // Calls `handler` after each write.
+    void whenChanged(std::function<void()> handler) { whenChanged_ = std::move(handler); }
+
     // From now on writes reach nothing, as on a full disk: what was stored stays.
     void simulateWriteFailure(bool fails = true) { writesFail_ = fails; }
 
@@ -48,6 +52,7 @@ private:
 
     std::map<std::string, Stored> contents_;
     std::vector<std::string> writes_;
+    std::function<void()> whenChanged_ = [] {};
     bool writesFail_ = false;
 };
 

@@ -24,6 +24,7 @@ public:
     // Absent: never set.
     struct Settings {
         std::optional<std::string> customUserAgent;
+        std::optional<double> pageZoom;
         std::optional<bool> allowsBackForwardNavigationGestures;
         std::optional<bool> allowsMagnification;
         std::optional<bool> usesOverlayScrollers;
@@ -70,6 +71,7 @@ public:
 
     Observation observe(Property property, std::function<void()> handler) override;
 
+    void setPageZoom(double factor) override { settings.pageZoom = factor; }
     void setCustomUserAgent(const std::string& userAgent) override;
     void setAllowsBackForwardNavigationGestures(bool isAllowed) override;
     void setAllowsMagnification(bool isAllowed) override;

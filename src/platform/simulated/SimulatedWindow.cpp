@@ -26,6 +26,7 @@ SimulatedWindow::SimulatedWindow(SimulatedPlatform& platform, Options options)
 void SimulatedWindow::show(ui::View content)
 {
     mount_.emplace(std::move(content), renderer_, root_);
+    platform_.application().followFocus();
     platform_.mainQueue().async([weakWindow = weak_from_this(), this] {
         if (!weakWindow.expired())
             renderer_.showFirstFrame();

@@ -32,6 +32,10 @@ public:
     // The views, as widgets that a test can read.
     const SimulatedWidget& content() const { return root_; }
     ui::Mount& mount() { return *mount_; }
+    std::shared_ptr<const ui::Published<ui::FocusedValues>> focusedValues() const
+    {
+        return mount_ ? mount_->focusedValues() : nullptr;
+    }
     SimulatedRenderer& renderer() { return renderer_; }
     const std::string& title() const { return options_.title; }
 

@@ -81,6 +81,11 @@ View View::onTapGesture(std::function<void()> action) const
     return with(*this, [&](auto& group) { group.onTapGesture = std::move(action); });
 }
 
+View View::onMiddleClick(std::function<void()> action) const
+{
+    return with(*this, [&](auto& group) { group.onMiddleClick = std::move(action); });
+}
+
 View View::draggable(std::string payload) const
 {
     return with(*this, [&](auto& group) { group.dragPayload = std::move(payload); });
@@ -94,6 +99,11 @@ View View::dropDestination(std::function<bool(const std::vector<std::string>&)> 
 View View::scrolledToVisible(bool isVisible) const
 {
     return with(*this, [&](auto& group) { group.isScrolledToVisible = isVisible; });
+}
+
+View View::withFocusedValues(const std::function<void(FocusedValues&)>& change) const
+{
+    return with(*this, [&](auto& group) { change(group.focusedValues); });
 }
 
 View View::onOpenURL(std::function<void(const platform::URL&)> action) const

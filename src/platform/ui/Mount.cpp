@@ -83,4 +83,21 @@ void Mount::forget(Slot& slot)
     std::erase(changed_, &slot);
 }
 
+void Mount::publish(const Slot& slot, const FocusedValues& values)
+{
+    if (values.isEmpty())
+        return withdraw(slot);
+    publisher_ = &slot;
+    if ((*focusedValues_)() != values)
+        *focusedValues_ = values;
+}
+
+void Mount::withdraw(const Slot& slot)
+{
+    if (publisher_ != &slot)
+        return;
+    publisher_ = nullptr;
+    *focusedValues_ = FocusedValues();
+}
+
 } // namespace ui

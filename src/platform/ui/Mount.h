@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ui/FocusedValues.h"
 #include "platform/ui/View.h"
 #include "platform/ui/Widget.h"
 
@@ -26,6 +27,12 @@ public:
     // Hands `url` to every view that opens addresses.
     void openURL(const platform::URL& url);
 
+    // What the views publish for the menus. It outlives the mount, empty then.
+    const std::shared_ptr<Published<FocusedValues>>& focusedValues() const
+    {
+        return focusedValues_;
+    }
+
     // Redraws at once what has changed, rather than at the end of the turn.
     void flush();
 
@@ -35,8 +42,17 @@ private:
     void schedule(Slot& slot);
     void forget(Slot& slot);
 
+    // `slot` publishes these values, in place of those before.
+    void publish(const Slot& slot, const FocusedValues& values);
+
+    // `slot` goes, and its values with it.
+    void withdraw(const Slot& slot);
+
     Renderer& renderer_;
     std::vector<Slot*> changed_;
+    const Slot* publisher_ = nullptr; // of the focused values; identity only
+    const std::shared_ptr<Published<FocusedValues>> focusedValues_ =
+        std::make_shared<Published<FocusedValues>>();
     std::shared_ptr<Mount*> self_; // told to late redraws; null inside when the mount has gone
     std::shared_ptr<Slot> root_;
 };

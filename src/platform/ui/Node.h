@@ -2,6 +2,7 @@
 
 #include "platform/appkit/NSView.h"
 #include "platform/foundation/URL.h"
+#include "platform/ui/FocusedValues.h"
 #include "platform/ui/View.h"
 
 #include <string>
@@ -123,8 +124,10 @@ struct GroupNode : Node {
     std::string dragPayload; // empty: cannot be dragged
     std::function<void(bool)> onHover;
     std::function<void()> onTapGesture;
+    std::function<void()> onMiddleClick;
     std::function<bool(const std::vector<std::string>&)> onDrop;
     std::function<void(const platform::URL&)> onOpenURL;
+    FocusedValues focusedValues;
 };
 
 // The node of one component type.

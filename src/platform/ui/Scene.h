@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/ui/CommandGroup.h"
 #include "platform/ui/View.h"
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace ui {
 
@@ -12,12 +14,17 @@ enum class WindowToolbarStyle {
     unified, // title and toolbar in one bar
 };
 
-// The windows of an application: one group, of which the platform opens one at launch.
+// The windows of an application, one group of which the platform opens one at launch, and its
+// menus.
 struct Scene {
     std::string identifier;
     std::string title;
     WindowToolbarStyle toolbarStyle = WindowToolbarStyle::automatic;
     std::function<View()> content; // called once a window
+
+    // The application's own items in the menu bar; evaluated again when a field that it has read
+    // changes. May be absent.
+    std::function<std::vector<CommandGroup>()> commands = {};
 };
 
 } // namespace ui

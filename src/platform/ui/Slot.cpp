@@ -153,6 +153,8 @@ void Slot::updateWidget(const std::shared_ptr<Node>& node)
     if (isShown_ && showsChildren())
         showChildren(true);
     arrange();
+    if (node->kind == Kind::group)
+        mount_.publish(*this, static_cast<const GroupNode&>(*node).focusedValues);
 }
 
 void Slot::updateChildren(const std::vector<View>& views)
@@ -321,6 +323,7 @@ void Slot::retire()
     stopObserving();
     if (std::exchange(hasChanged_, false))
         mount_.forget(*this);
+    mount_.withdraw(*this);
     parent_ = nullptr;
     for (const auto& child : children_)
         child->retire();

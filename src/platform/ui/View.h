@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ui/Accessibility.h"
+#include "platform/ui/FocusedValues.h"
 #include "platform/ui/Layout.h"
 #include "platform/ui/Transition.h"
 
@@ -91,6 +92,9 @@ public:
     // A click anywhere on the view that nothing inside it has taken.
     View onTapGesture(std::function<void()> action) const;
 
+    // A click anywhere on the view with the middle button.
+    View onMiddleClick(std::function<void()> action) const;
+
     // The view can be dragged; it carries `payload`.
     View draggable(std::string payload) const;
 
@@ -111,12 +115,21 @@ public:
     // Puts `leading` and `trailing` into the window's bar.
     View toolbar(View leading, View trailing) const;
 
+    // Publishes `value` under `Key` for the menus, while this view's window is the focused one. All
+    // values of a window are published by one view.
+    template <class Key> View focusedSceneValue(std::shared_ptr<typename Key::Value> value) const
+    {
+        return withFocusedValues([&](FocusedValues& values) { values.set<Key>(std::move(value)); });
+    }
+
     // Called with every address that the window is asked to open.
     View onOpenURL(std::function<void(const platform::URL&)> action) const;
 
     const std::shared_ptr<Node>& node() const { return node_; }
 
 private:
+    View withFocusedValues(const std::function<void(FocusedValues&)>& change) const;
+
     std::shared_ptr<Node> node_;
 };
 

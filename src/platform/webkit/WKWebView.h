@@ -73,6 +73,9 @@ public:
     // Calls `handler` now, and after every change of `property`.
     [[nodiscard]] virtual Observation observe(Property property, std::function<void()> handler) = 0;
 
+    // How large the page is shown; 1 is its own size. It is laid out anew for that.
+    virtual void setPageZoom(double factor) = 0;
+
     virtual void setCustomUserAgent(const std::string& userAgent) = 0;
     virtual void setAllowsBackForwardNavigationGestures(bool isAllowed) = 0;
     virtual void setAllowsMagnification(bool isAllowed) = 0;

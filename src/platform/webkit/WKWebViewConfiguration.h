@@ -1,14 +1,9 @@
 #pragma once
 
 #include "platform/webkit/WKUserContentController.h"
+#include "platform/webkit/WKWebsiteDataStore.h"
 
 namespace platform {
-
-// Where a web view keeps cookies, storage and caches.
-enum class WKWebsiteDataStore {
-    nonPersistent, // in memory, for this web view alone
-    defaultDataStore, // on disk, shared by all web views and kept across launches
-};
 
 struct WKPreferences {
     bool javaScriptCanOpenWindowsAutomatically = false;

@@ -182,6 +182,9 @@ protected:
         });
     }
 
+    // Of the engine, for this test alone.
+    const std::filesystem::path& folder() const { return folder_; }
+
     gtk::Patience patience;
     PageServer server;
     platform::WKWebViewConfiguration configuration;

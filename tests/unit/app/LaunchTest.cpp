@@ -91,7 +91,8 @@ TEST(Launching, showsAndTouchesOnlyTheActiveTab)
         std::string text;
         for (const auto* group : launch.application().window().content().findAll<ui::GroupNode>()) {
             const auto& node = *group->node<ui::GroupNode>();
-            const bool isOnlyLayer = node.transition == ui::Transition() && !node.onOpenURL;
+            const bool isOnlyLayer = node.transition == ui::Transition() && !node.onOpenURL
+                && node.focusedValues.isEmpty();
             if (isOnlyLayer && group->describe().find("hosted") != std::string::npos)
                 text += node.allowsHitTesting && node.opacity == 1 ? '+'
                     : node.opacity == 0                            ? '-'

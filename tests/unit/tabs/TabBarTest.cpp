@@ -118,6 +118,18 @@ TEST_F(TabBarTest, hoveringFollowsItsTabWhenTheOrderChanges)
     EXPECT_EQ(app->tabs().front()->pageTitle(), "A");
 }
 
+TEST_F(TabBarTest, theMiddleButtonClosesATabButNotTheLastOne)
+{
+    setTitles({"A", "B", "C"});
+    named("B").onMiddleClick();
+    settle();
+    EXPECT_EQ(app->tabs().size(), 2u);
+    EXPECT_EQ(app->tabs()[1]->pageTitle(), "C");
+    app->closeTab(1);
+    settle();
+    EXPECT_FALSE(named("A").onMiddleClick);
+}
+
 TEST_F(TabBarTest, dropsMoveTabsAndNothingElse)
 {
     setTitles({"A", "B", "C"});

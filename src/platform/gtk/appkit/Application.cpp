@@ -2,13 +2,18 @@
 
 #include "platform/appkit/NSApplicationDelegate.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/gtk/appkit/FocusTracker.h"
 #include "platform/gtk/appkit/LostDisplay.h"
 #include "platform/gtk/appkit/MainWindow.h"
+#include "platform/gtk/appkit/MenuBar.h"
+#include "platform/gtk/appkit/ShortcutsPanel.h"
+#include "platform/gtk/appkit/StandardCommands.h"
 #include "platform/gtk/appkit/TerminationSignals.h"
 #include "platform/gtk/GtkPlatform.h"
 #include "platform/gtk/ui/ApplicationIcon.h"
 #include "platform/gtk/usernotifications/UserNotificationCenter.h"
 #include "platform/gtk/webkit/WebEngine.h"
+#include "platform/ui/FocusedScene.h"
 
 #include <algorithm>
 
@@ -81,6 +86,9 @@ int Application::run(platform::NSApplicationDelegate& delegate, const ui::Scene&
     const TerminationSignals signals([this] { terminate(); });
     const int status = program_.run(address_);
 
+    menus_.reset();
+    focus_.reset();
+
     // Only now, since another start would wait for this one as long as its name is on the bus.
     closedWindows_.clear();
     windows_.clear();
@@ -151,9 +159,38 @@ void Application::launchOnce()
         longestStart, [&queue = platform_.mainQueue()] { queue.endStart(); });
 
     platform_.followAppearance();
+    makeMenus();
     delegate_->applicationWillFinishLaunching(*this);
     makeWindow();
     delegate_->applicationDidFinishLaunching(*this);
+}
+
+void Application::makeMenus()
+{
+    focus_ = std::make_unique<FocusTracker>([this] { followFocus(); });
+    menuBar_ = std::make_unique<MenuBar>(
+        program_.native(), [this](ui::StandardCommand command) { perform(command); });
+    menus_ = std::make_unique<ui::MenuMount>(
+        *scene_, [this](auto menus) { menuBar_->show(std::move(menus)); });
+}
+
+void Application::perform(ui::StandardCommand command)
+{
+    if (command == ui::StandardCommand::quit)
+        terminate();
+    else if (command == ui::StandardCommand::showShortcuts)
+        showShortcuts(menuBar_->menus(), focus_->window());
+    else
+        gtk::perform(command, *focus_);
+}
+
+void Application::followFocus()
+{
+    const auto found = std::find_if(windows_.begin(), windows_.end(), [this](const auto& window) {
+        return GTK_WINDOW(window->native().gobj()) == focus_->window();
+    });
+    ui::FocusedScene::current().values =
+        found == windows_.end() ? nullptr : (*found)->focusedValues();
 }
 
 void Application::reopen()

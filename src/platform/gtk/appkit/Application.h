@@ -3,14 +3,17 @@
 #include "platform/appkit/NSApplication.h"
 #include "platform/gtk/appkit/OpenURLQueue.h"
 #include "platform/gtk/appkit/Program.h"
+#include "platform/ui/MenuMount.h"
 
 #include <optional>
 
 namespace gtk {
 
+class FocusTracker;
 class GtkPlatform;
 class LostDisplay;
 class MainWindow;
+class MenuBar;
 
 // The running program on the desktop.
 class Application final : public platform::NSApplication {
@@ -41,6 +44,9 @@ private:
     void receiveNotificationClick(const Program::UserInfo& userInfo);
 
     void launchOnce();
+    void makeMenus();
+    void perform(ui::StandardCommand command);
+    void followFocus();
     void reopen();
     void makeWindow();
     void windowClosed(MainWindow& window);
@@ -54,6 +60,9 @@ private:
 
     std::unique_ptr<LostDisplay> lostDisplay_;
     OpenURLQueue openURLQueue_;
+    std::unique_ptr<FocusTracker> focus_;
+    std::unique_ptr<MenuBar> menuBar_;
+    std::unique_ptr<ui::MenuMount> menus_;
     std::vector<std::shared_ptr<MainWindow>> windows_;
     std::vector<std::shared_ptr<MainWindow>> closedWindows_; // whose models may still have to save
     bool isLaunched_ = false;

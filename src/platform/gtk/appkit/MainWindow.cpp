@@ -59,6 +59,7 @@ MainWindow::MainWindow(const ui::Scene& scene)
 {
     g_object_set_data(G_OBJECT(window_->gobj()), windowKey, this);
     window_->set_title(scene.title);
+    window_->set_show_menubar();
     if (scene.toolbarStyle == ui::WindowToolbarStyle::unified) {
         auto& bar = *Gtk::make_managed<Gtk::HeaderBar>();
         bar.pack_start(content_.toolbar().leading);

@@ -28,6 +28,12 @@ public:
     // Hands `url` to the views that open addresses.
     void openURL(const platform::URL& url) { content_.openURL(url); }
 
+    // What its views publish for the menus.
+    std::shared_ptr<const ui::Published<ui::FocusedValues>> focusedValues() const
+    {
+        return content_.focusedValues();
+    }
+
     bool isKeyWindow() const { return window_->is_active(); }
 
     platform::NSScreen* screen() const override;

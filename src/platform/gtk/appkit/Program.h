@@ -56,6 +56,8 @@ public:
 
     void add(Gtk::Window& window);
 
+    GtkApplication* native() { return object_; }
+
     // The one used last comes first.
     std::vector<GtkWindow*> windows() const;
 

@@ -15,6 +15,7 @@ public:
 
     platform::NSWindow* window() const override;
     Gtk::Widget& nativeWidget() override { return text_; }
+    bool fillsHeight() const override { return false; }
 
     std::string stringValue() const override { return text_.get_text(); }
     void setStringValue(const std::string& text) override;

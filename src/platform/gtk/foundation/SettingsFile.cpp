@@ -128,13 +128,13 @@ std::unique_ptr<nlohmann::json> SettingsFile::load() const
 void SettingsFile::changed()
 {
     hasUnsavedChanges_ = true;
-    if (isSaveQueued_)
-        return;
-    isSaveQueued_ = true;
-    queue_.async([this, life = std::weak_ptr(life_)] {
-        if (!life.expired())
-            save();
-    });
+    if (!std::exchange(isSaveQueued_, true)) {
+        queue_.async([this, life = std::weak_ptr(life_)] {
+            if (!life.expired())
+                save();
+        });
+    }
+    whenChanged_();
 }
 
 void SettingsFile::save()

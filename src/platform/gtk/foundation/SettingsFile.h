@@ -37,6 +37,9 @@ public:
     void setData(const std::string& key, const platform::Data& value) override;
     void removeObject(const std::string& key) override;
 
+    // Calls `handler` after each change, on the main thread.
+    void whenChanged(std::function<void()> handler) { whenChanged_ = std::move(handler); }
+
     // Returns when everything set so far is on the disk, or could not be put there. To be called
     // before the program ends.
     void flush();
@@ -59,6 +62,7 @@ private:
     std::function<void(const std::string&)> log_;
     mutable std::unique_ptr<nlohmann::json> members_; // null until the first use
 
+    std::function<void()> whenChanged_ = [] {};
     std::future<Failure> saving_; // valid while the thread writes
     bool isSaveQueued_ = false;
     bool savesAgain_ = false; // something changed while the thread was writing

@@ -18,6 +18,7 @@ void Interaction::apply(const ui::GroupNode& group)
 {
     onHover_ = group.onHover;
     onTap_ = group.onTapGesture;
+    onMiddleClick_ = group.onMiddleClick;
     onDrop_ = group.onDrop;
     dragPayload_ = group.dragPayload;
 
@@ -25,6 +26,8 @@ void Interaction::apply(const ui::GroupNode& group)
         addHover();
     if (onTap_ && !std::exchange(hasTap_, true))
         addTap();
+    if (onMiddleClick_ && !std::exchange(hasMiddleClick_, true))
+        addMiddleClick();
     if (!dragPayload_.empty() && !std::exchange(hasDragSource_, true))
         addDragSource();
     if (onDrop_ && !std::exchange(hasDropTarget_, true))
@@ -71,6 +74,18 @@ void Interaction::addTap()
         },
         false);
     widget_.add_controller(keys);
+}
+
+void Interaction::addMiddleClick()
+{
+    const auto click = Gtk::GestureClick::create();
+    click->set_button(GDK_BUTTON_MIDDLE);
+    click->signal_released().connect([this](int, double x, double y) {
+        const auto action = onMiddleClick_; // which may take the widget away
+        if (action && widget_.contains(x, y))
+            action();
+    });
+    widget_.add_controller(click);
 }
 
 void Interaction::addDragSource()

@@ -26,16 +26,19 @@ public:
 private:
     void addHover();
     void addTap();
+    void addMiddleClick();
     void addDragSource();
     void addDropTarget();
 
     Gtk::Widget& widget_;
     std::function<void(bool)> onHover_;
     std::function<void()> onTap_;
+    std::function<void()> onMiddleClick_;
     std::function<bool(const std::vector<std::string>&)> onDrop_;
     std::string dragPayload_;
     bool hasHover_ = false;
     bool hasTap_ = false;
+    bool hasMiddleClick_ = false;
     bool hasDragSource_ = false;
     bool hasDropTarget_ = false;
 };

@@ -28,6 +28,12 @@ public:
     // To be packed into the window's bar.
     Toolbar& toolbar() { return toolbar_; }
 
+    // What the views publish for the menus.
+    std::shared_ptr<const ui::Published<ui::FocusedValues>> focusedValues() const
+    {
+        return mount_.focusedValues();
+    }
+
     // Hands `url` to the views that open addresses.
     void openURL(const platform::URL& url);
 

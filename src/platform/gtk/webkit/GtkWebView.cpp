@@ -213,6 +213,11 @@ platform::WKWebView::Observation GtkWebView::observe(
     return observers_.add(property, std::move(handler));
 }
 
+void GtkWebView::setPageZoom(double factor)
+{
+    webkit_web_view_set_zoom_level(view_.get(), factor);
+}
+
 void GtkWebView::setCustomUserAgent(const std::string& userAgent)
 {
     webkit_settings_set_user_agent(webkit_web_view_get_settings(view_.get()), userAgent.c_str());

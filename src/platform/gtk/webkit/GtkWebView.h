@@ -57,6 +57,7 @@ public:
     std::string title() const override;
     Observation observe(Property property, std::function<void()> handler) override;
 
+    void setPageZoom(double factor) override;
     void setCustomUserAgent(const std::string& userAgent) override;
     void setAllowsBackForwardNavigationGestures(bool isAllowed) override;
     void setAllowsMagnification(bool isAllowed) override;

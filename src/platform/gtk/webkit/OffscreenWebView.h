@@ -52,11 +52,12 @@ public:
     std::string title() const override;
     Observation observe(Property property, std::function<void()> handler) override;
 
-    // Who is never seen has no gestures, scrollers and background.
+    // Who is never seen has no gestures, scrollers, background and zoom.
     void setAllowsBackForwardNavigationGestures(bool) override { }
     void setAllowsMagnification(bool) override { }
     void setUsesOverlayScrollers(bool) override { }
     void setDrawsBackground(bool) override { }
+    void setPageZoom(double) override { }
     void setCustomUserAgent(const std::string& userAgent) override;
 
 private:

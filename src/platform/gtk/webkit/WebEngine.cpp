@@ -2,6 +2,7 @@
 
 #include "platform/gtk/webkit/PageDownloads.h"
 #include "platform/gtk/webkit/Sandbox.h"
+#include "platform/gtk/webkit/WebsiteData.h"
 
 #include <clocale>
 #include <cstdlib>
@@ -39,6 +40,7 @@ ObjectPointer<WebKitNetworkSession> makePersistentSession(const StandardPaths& p
     std::error_code
         error; // a folder that cannot be made leaves the session with what it can keep in memory
     std::filesystem::create_directories(data, error);
+    removeForgottenHosts(data);
 
     ObjectPointer<WebKitNetworkSession> session(
         webkit_network_session_new(data.c_str(), cache.c_str()));

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/webkit/WKWebsiteDataStore.h"
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+namespace simulated {
+
+// What pages have stored, of which nothing is left as soon as the test says so.
+class SimulatedWebsiteData {
+public:
+    void remove(platform::WKWebsiteDataStore store, std::function<void()> completion);
+
+    // The oldest removal that is under way comes to its end; fails the test when none is.
+    void simulateRemoved();
+
+    // All that were ever asked for, in order.
+    std::vector<platform::WKWebsiteDataStore> removals;
+
+private:
+    std::deque<std::function<void()>> waiting_;
+};
+
+} // namespace simulated

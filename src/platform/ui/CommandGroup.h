@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/ui/MenuItem.h"
+
+#include <vector>
+
+namespace ui {
+
+// Groups of items that the menu bar of every application has, in the order in which they stand
+// there.
+enum class CommandGroupPlacement {
+    appInfo,
+    appTermination,
+    newItem,
+    printItem,
+    undoRedo,
+    pasteboard,
+    textEditing,
+    toolbar,
+    sidebar,
+    windowSize,
+    windowList,
+    help,
+    keyboardShortcuts,
+};
+
+// An application's own items in the menu bar.
+struct CommandGroup {
+    enum class Relation { replacing, after };
+    using Section = std::vector<MenuItem>; // lines separate it from others
+
+    CommandGroupPlacement placement;
+    Relation relation = Relation::replacing; // of the platform's items at that place
+    std::vector<Section> sections = {};
+};
+
+} // namespace ui

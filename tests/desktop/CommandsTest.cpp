@@ -1,0 +1,190 @@
+// Menu items and their keys in the real window, with a page, with another window and with none.
+
+#include "harness/AccessibleObject.h"
+#include "harness/AppProcess.h"
+#include "harness/SavedCookies.h"
+#include "harness/SavedSettings.h"
+#include "harness/UserInput.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+// The application of somebody who is signed in, with its page in the window and the keyboard.
+struct Commands : testing::Test {
+    void SetUp() override
+    {
+        SavedCookies::signIn("Robin", "Alder");
+        SavedSettings::write({{"vl.open.routes", {"drives"}}, {"vl.onboarding.shown", true}});
+        app.emplace(service);
+        ASSERT_TRUE(app->waitForPage());
+        service.forgetRequests();
+    }
+
+    bool isThere(const std::string& name)
+    {
+        return AccessibleObject::find(app->process().pid(), name).has_value();
+    }
+
+    bool shows(const std::string& name)
+    {
+        return eventually([&] { return isThere(name); });
+    }
+
+    bool loses(const std::string& name)
+    {
+        return eventually([&] { return !isThere(name); });
+    }
+
+    bool isAsked(const std::string& path)
+    {
+        return eventually([&] { return !service.requests(path).empty(); });
+    }
+
+    // Opens a menu with its key and chooses the item that is `steps` below the first one, which is
+    // above the last one for less than 0.
+    void choose(const std::string& menu, const std::string& item, int steps)
+    {
+        UserInput::press(menu);
+        ASSERT_TRUE(shows(item));
+        for (int step = 0; step < std::abs(steps); ++step)
+            UserInput::press(steps > 0 ? "Down" : "Up");
+        UserInput::press("Return");
+    }
+
+    DemoServiceProcess service;
+    std::optional<AppProcess> app;
+};
+
+// Everything of the program that a file in the home folder tells.
+std::string filesThatTellOf(const std::string& text)
+{
+    std::string found;
+    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
+        const auto folder = std::filesystem::path(std::getenv(variable)) / "velmaro-online";
+        std::error_code error; // files come and go meanwhile
+        for (std::filesystem::recursive_directory_iterator file(folder, error), end;
+             !error && file != end; file.increment(error)) {
+            if (!file->is_regular_file(error))
+                continue;
+            std::ifstream stream(file->path(), std::ios::binary);
+            const std::string contents(std::istreambuf_iterator<char>(stream), {});
+            if (contents.find(text) != std::string::npos)
+                found += file->path().string() + "\n";
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+TEST_F(Commands, reachThePageWhileItHasTheKeyboard)
+{
+    struct Case {
+        const char* keys;
+        const char* request;
+    };
+    const Case cases[] = {
+        {"ctrl+shift+f", "/online/api/fuel"},
+        {"ctrl+shift+v", "/online/api/vehicles"},
+        {"ctrl+shift+c", "/online/api/charging"},
+        {"ctrl+shift+d", "/online/api/drivers"},
+        {"ctrl+shift+h", "/online/api/dashboard"},
+        {"ctrl+r", "/online"},
+        {"F5", "/online"},
+    };
+    for (const auto& [keys, request] : cases) {
+        service.forgetRequests();
+        UserInput::press(keys);
+        EXPECT_TRUE(isAsked(request)) << keys;
+    }
+}
+
+TEST_F(Commands, openFindAndCloseWithTheKeyboardAlone)
+{
+    UserInput::press("ctrl+f");
+    ASSERT_TRUE(shows("Next match (⌘G)"));
+    UserInput::type("no such words");
+    UserInput::press("ctrl+g");
+    EXPECT_TRUE(shows("Not found"));
+    UserInput::press("Escape");
+    EXPECT_TRUE(loses("Next match (⌘G)"));
+
+    UserInput::press("ctrl+t");
+    ASSERT_TRUE(shows("New tab"));
+    UserInput::press("ctrl+shift+bracketleft");
+    UserInput::press("ctrl+shift+bracketright");
+    UserInput::press("ctrl+w"); // that which was opened
+    EXPECT_TRUE(loses("New tab"));
+    UserInput::press("ctrl+w");
+    EXPECT_EQ(app->process().waitForExit(), 0);
+    EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"drives"}));
+}
+
+TEST_F(Commands, rememberTheZoomAndTheRestoringOfTabs)
+{
+    UserInput::press("ctrl+plus");
+    EXPECT_TRUE(eventually([] { return SavedSettings::read()["vl.page.zoom"] == 110; }));
+    UserInput::press("ctrl+0");
+    EXPECT_TRUE(eventually([] { return SavedSettings::read()["vl.page.zoom"] == 100; }));
+    choose("alt+v", "Restore Last Active Tab on Launch", 4);
+    EXPECT_TRUE(eventually([] { return SavedSettings::read()["vl.restore.active.tab"] == false; }));
+}
+
+TEST_F(Commands, leaveTheClipboardToWhoHasTheKeyboard)
+{
+    UserInput::press("ctrl+f");
+    ASSERT_TRUE(shows("Next match (⌘G)"));
+    UserInput::type("Drives");
+    UserInput::press("ctrl+a");
+    UserInput::press("ctrl+x");
+    UserInput::type("no such words");
+    UserInput::press("Return");
+    ASSERT_TRUE(shows("Not found"));
+    choose("alt+e", "Select All", 5);
+    UserInput::press("ctrl+v"); // in place of all words
+    UserInput::press("Return");
+    EXPECT_TRUE(loses("Not found"));
+}
+
+TEST_F(Commands, doNothingToTheTabsBehindAnotherWindow)
+{
+    UserInput::press("ctrl+question");
+    ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 2; }));
+    UserInput::press("ctrl+w");
+    UserInput::press("Escape");
+    ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 1; }));
+    EXPECT_TRUE(app->process().isRunning());
+    UserInput::press("ctrl+q");
+    EXPECT_EQ(app->process().waitForExit(), 0);
+}
+
+TEST_F(Commands, clearAllDataLeavesOneTabOnTheWelcomePageAndNothingOfTheUser)
+{
+    UserInput::press("ctrl+t");
+    ASSERT_TRUE(shows("New tab"));
+    ASSERT_TRUE(eventually([] { return filesThatTellOf("Robin").size() > 0; }));
+
+    const auto ask = [this] {
+        choose("alt+h", "Clear All Cache…", -2);
+        ASSERT_TRUE(shows("Clear all cached data?"));
+    };
+    ask();
+    UserInput::press("Escape");
+    ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 1; }));
+    EXPECT_NE(filesThatTellOf("Robin.Alder"), "");
+    EXPECT_TRUE(service.requests("/online/welcome.php").empty());
+
+    ask();
+    UserInput::press("Return");
+    EXPECT_TRUE(isAsked("/online/welcome.php"));
+    EXPECT_TRUE(app->waitForPage());
+    EXPECT_TRUE(eventually([] { return filesThatTellOf("Robin").empty(); }))
+        << filesThatTellOf("Robin");
+    EXPECT_EQ(SavedSettings::read(), nlohmann::json({{"vl.onboarding.shown", true}}));
+}
+
+} // namespace desktop

@@ -1,0 +1,311 @@
+#include "app/VelmaroOnlineApp.h"
+#include "platform/simulated/SimulatedPlatform.h"
+#include "tabs/TabbedAppModel.h"
+#include "web/PageScripts.h"
+
+#include <gtest/gtest.h>
+
+using namespace velmaro;
+using ui::command;
+using ui::KeyEquivalent;
+using ui::shiftCommand;
+
+namespace {
+
+// The application with three tabs, the first of which is shown.
+struct Commands : testing::Test {
+    Commands()
+    {
+        platform.addScreen({{0, 0}, {1440, 900}});
+        platform.userDefaults().plant(
+            "vl.open.routes", std::vector<std::string>{"drives", "fuel", "reports"});
+        platform.application().launch(app.appDelegate, scene);
+        settle();
+    }
+
+    simulated::SimulatedMenus& menus() { return platform.application().menus(); }
+    std::shared_ptr<TabbedAppModel> tabs() const { return TabbedAppModel::shared(); }
+    simulated::SimulatedWebView& page() const { return *platform.webViews()[0].lock(); }
+    void settle() { platform.mainQueue().runUntilIdle(); }
+
+    void press(const KeyEquivalent& keys)
+    {
+        menus().simulateKeys(keys);
+        settle();
+    }
+
+    // Another window of the program, such as a panel, comes to the front.
+    simulated::SimulatedWindow& openPanel()
+    {
+        auto& panel = platform.application().simulateBareWindow({.canBecomeMainWindow = false});
+        settle();
+        return panel;
+    }
+
+    std::string disabledTitles()
+    {
+        std::string titles;
+        for (const auto& menu : menus().menus()) {
+            for (const auto& section : menu.sections) {
+                for (const auto& item : section)
+                    titles += item.isEnabled || !item.isListed ? "" : item.title + "\n";
+            }
+        }
+        return titles;
+    }
+
+    VelmaroOnlineApp app;
+    ui::Scene scene = app.body();
+    simulated::SimulatedPlatform platform;
+};
+
+} // namespace
+
+TEST_F(Commands, standInTheMenusInTheirOrder)
+{
+    std::string text;
+    for (const auto& menu : menus().menus()) {
+        text += menu.title + "\n";
+        for (const auto& section : menu.sections) {
+            std::string lines;
+            for (const auto& item : section) {
+                if (!item.isListed)
+                    continue;
+                lines += "  " + item.title;
+                if (!item.shortcuts.empty())
+                    lines += " " + label(item.shortcuts.front());
+                lines += "\n";
+            }
+            text += lines.empty() || &section == &menu.sections.front() ? lines : "  —\n" + lines;
+        }
+    }
+    EXPECT_EQ(text, R"(Velmaro Online
+  Quit Ctrl+Q
+File
+  New Tab Ctrl+T
+  Close Tab Ctrl+W
+  —
+  New Driver Ctrl+Shift+D
+  New Vehicle Ctrl+Shift+V
+  Log Fuel Ctrl+Shift+F
+  Log Charging Session Ctrl+Shift+C
+  —
+  Reload Ctrl+R
+  Overview Ctrl+Shift+H
+  —
+  Reopen Closed Tab Ctrl+Shift+T
+Edit
+  Undo Ctrl+Z
+  Redo Ctrl+Shift+Z
+  —
+  Cut Ctrl+X
+  Copy Ctrl+C
+  Paste Ctrl+V
+  Select All Ctrl+A
+  —
+  Find… Ctrl+F
+  Find Next Ctrl+G
+  Find Previous Ctrl+Shift+G
+View
+  Back Ctrl+[
+  Forward Ctrl+]
+  —
+  Next Tab Ctrl+Shift+]
+  Previous Tab Ctrl+Shift+[
+  —
+  Restore Last Active Tab on Launch
+  —
+  Zoom In Ctrl++
+  Zoom Out Ctrl+-
+  Actual Size Ctrl+0
+  —
+  Full Screen F11
+Window
+  Minimize Ctrl+M
+Help
+  What's New
+  —
+  Velmaro Help Center
+  Support Tickets
+  —
+  Clear All Cache…
+  —
+  Keyboard Shortcuts Ctrl+?
+)");
+}
+
+TEST_F(Commands, ofThePageReachThePageThatIsShown)
+{
+    struct Case {
+        const char* title;
+        std::string script;
+    };
+    const Case cases[] = {
+        {"New Driver", PageScripts::showRouteAndCall("drivers", "addDriver")},
+        {"New Vehicle", PageScripts::showRouteAndCall("vehicles", "addVehicle")},
+        {"Log Fuel", PageScripts::showRouteAndCall("fuel", "addFuel")},
+        {"Log Charging Session", PageScripts::showRouteAndCall("charging", "addCharging")},
+        {"Reload", PageScripts::reloadKeepingRoute()},
+        {"Overview", PageScripts::showRoute("dashboard")},
+        {"What's New", PageScripts::showRoute("whatsnew")},
+        {"Velmaro Help Center", PageScripts::showRoute("help")},
+        {"Support Tickets", PageScripts::showRoute("support")},
+    };
+    for (const auto& [title, script] : cases) {
+        menus().simulatePress(title);
+        EXPECT_EQ(page().scripts, std::vector{script}) << title;
+        page().scripts.clear();
+    }
+    EXPECT_TRUE(menus().item("Back").isEnabled); // also where there is nothing to go back to
+    page().simulateHistory(true, true);
+    menus().simulatePress("Back");
+    menus().simulatePress("Forward");
+    EXPECT_EQ(page().stepsBack, 1);
+    EXPECT_EQ(page().stepsForward, 1);
+}
+
+TEST_F(Commands, findOpenTheBarAndSearchForWhatWasSearchedLast)
+{
+    const auto tab = tabs()->activeTab();
+    press(command("f"));
+    EXPECT_TRUE(tab->findBarVisible());
+    EXPECT_TRUE(page().searches.empty());
+
+    tab->findQuery = "ferry";
+    for (const bool backwards : {false, true}) {
+        tab->findBarVisible = false;
+        menus().simulatePress(backwards ? "Find Previous" : "Find Next");
+        EXPECT_TRUE(tab->findBarVisible());
+        EXPECT_EQ(page().searches.back().configuration.backwards, backwards);
+    }
+}
+
+TEST_F(Commands, ofTheTabsDoWhatTheirKeysSay)
+{
+    struct Case {
+        KeyEquivalent keys;
+        int active;
+        std::size_t count;
+    };
+    const Case cases[] = {
+        {command("8"), 0, 3}, // there is no such tab
+        {command("2"), 1, 3}, {command("9"), 2, 3}, {shiftCommand("]"), 0, 3},
+        {shiftCommand("["), 2, 3}, {command(ui::Key::tab), 0, 3},
+        {shiftCommand(ui::Key::tab), 2, 3}, {command(ui::Key::pageUp), 1, 3},
+        {command(ui::Key::pageDown), 2, 3}, {command("t"), 3, 4}, {command("1"), 0, 4},
+        {command("w"), 0, 3}, {shiftCommand("t"), 0, 4}, {shiftCommand("t"), 0, 4}, // none is left
+    };
+    for (const auto& [keys, active, count] : cases) {
+        press(keys);
+        EXPECT_EQ(tabs()->activeIndex(), active) << label(keys);
+        EXPECT_EQ(tabs()->tabs().size(), count) << label(keys);
+    }
+    EXPECT_EQ(tabs()->activeTab()->initialRoute, "drives");
+}
+
+TEST_F(Commands, closingTheOnlyTabEndsTheProgram)
+{
+    tabs()->keepOnlyActiveTab();
+    settle();
+    press(command("w"));
+    EXPECT_TRUE(platform.application().hasTerminated());
+}
+
+TEST_F(Commands, followTheFocusedWindow)
+{
+    const auto enabled = disabledTitles();
+    EXPECT_EQ(enabled, "Reopen Closed Tab\nActual Size\n");
+    auto& window = platform.application().window();
+
+    openPanel();
+    EXPECT_EQ(disabledTitles(),
+        "New Tab\nClose Tab\nNew Driver\nNew Vehicle\nLog Fuel\nLog Charging Session\nReload\n"
+        "Overview\nReopen Closed Tab\nFind…\nFind Next\nFind Previous\nBack\nForward\nNext Tab\n"
+        "Previous Tab\nZoom In\nZoom Out\nActual Size\nWhat's New\nVelmaro Help Center\n"
+        "Support Tickets\nClear All Cache…\n");
+    press(command("t"));
+    EXPECT_EQ(tabs()->tabs().size(), 3u);
+
+    window.makeKeyAndOrderFront();
+    settle();
+    EXPECT_EQ(disabledTitles(), enabled);
+}
+
+TEST_F(Commands, knowNoPageWhileNoTabIsActive)
+{
+    tabs()->activeIndex = 9;
+    settle();
+    EXPECT_FALSE(menus().item("Reload").isEnabled);
+    EXPECT_FALSE(menus().item("New Tab").isEnabled); // the tab strip is not there either
+    tabs()->activeIndex = 0;
+    settle();
+    EXPECT_TRUE(menus().item("Reload").isEnabled);
+}
+
+TEST_F(Commands, ofThePlatformAreAlwaysThere)
+{
+    openPanel();
+    press(command("q"));
+    press({.key = ui::Key::f11});
+    EXPECT_EQ(menus().standardCommands,
+        (std::vector{ui::StandardCommand::quit, ui::StandardCommand::toggleFullScreen}));
+    EXPECT_TRUE(menus().item("Copy").leavesKeysToViews);
+    EXPECT_FALSE(menus().item("Quit").leavesKeysToViews);
+}
+
+TEST_F(Commands, switchTheRestoringOfTheActiveTabAtOnce)
+{
+    const auto isOn = [this] { return menus().item("Restore Last Active Tab on Launch").isOn; };
+    EXPECT_EQ(isOn(), true);
+    openPanel();
+    menus().simulatePress("Restore Last Active Tab on Launch");
+    settle();
+    EXPECT_EQ(isOn(), false);
+    EXPECT_FALSE(platform.userDefaults().boolean("vl.restore.active.tab"));
+    platform.userDefaults().removeObject("vl.restore.active.tab"); // by whomever
+    settle();
+    EXPECT_EQ(isOn(), true);
+}
+
+TEST_F(Commands, zoomAllPagesAndRememberHowFar)
+{
+    EXPECT_EQ(page().settings.pageZoom, 1);
+    for (const double zoom : {1.1, 1.25}) {
+        press(command("+"));
+        EXPECT_EQ(page().settings.pageZoom, zoom);
+    }
+    press(command("2"));
+    EXPECT_EQ(platform.webViews().back().lock()->settings.pageZoom, 1.25);
+    EXPECT_EQ(platform.userDefaults().integer("vl.page.zoom"), 125);
+    press(command("0"));
+    EXPECT_EQ(page().settings.pageZoom, 1);
+
+    for (int i = 0; i < 20; ++i)
+        press(command("-"));
+    EXPECT_EQ(page().settings.pageZoom, 0.5);
+    EXPECT_FALSE(menus().item("Zoom Out").isEnabled);
+    platform.userDefaults().setInteger("vl.page.zoom", 100'000); // by a careless hand
+    settle();
+    EXPECT_EQ(page().settings.pageZoom, 3);
+}
+
+TEST_F(Commands, reopenTheLastTwentyFiveClosedTabsWhereTheyWere)
+{
+    tabs()->tabs()[1]->currentRoute = std::string("charging");
+    tabs()->closeTab(1);
+    settle();
+    press(shiftCommand("t"));
+    EXPECT_EQ(tabs()->activeIndex(), 1);
+    EXPECT_EQ(tabs()->activeTab()->initialRoute, "charging");
+
+    for (int i = 0; i < 26; ++i) {
+        tabs()->newTab("tab " + std::to_string(i));
+        tabs()->closeTab(3);
+    }
+    settle();
+    for (int i = 25; i >= 1; --i) {
+        press(shiftCommand("t"));
+        EXPECT_EQ(tabs()->activeTab()->initialRoute, "tab " + std::to_string(i));
+    }
+    EXPECT_FALSE(menus().item("Reopen Closed Tab").isEnabled);
+}

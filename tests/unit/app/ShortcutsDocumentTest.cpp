@@ -1,0 +1,55 @@
+// docs/shortcuts.md lists the keys of all menu items. With VELMARO_WRITE_DOCS set in the
+// environment it is written anew, else it has to be up to date.
+
+#include "app/VelmaroOnlineApp.h"
+#include "platform/simulated/SimulatedPlatform.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr auto path = VELMARO_SOURCE_FOLDER "/docs"
+                                            "/shortcuts.md";
+
+std::string keysOf(const ui::MenuItem& item)
+{
+    std::string keys;
+    for (const auto& shortcut : item.shortcuts)
+        keys += (keys.empty() ? "" : ", ") + label(shortcut);
+    return keys;
+}
+
+std::string document(const std::vector<ui::Menu>& menus)
+{
+    std::string text = "# Keyboard shortcuts\n\nThese work wherever the keyboard is in the main "
+                       "window, also in a page. Ctrl+? shows them in the program.\nA click with "
+                       "the middle button closes a tab.\n";
+    for (const auto& menu : menus) {
+        text += "\n## " + menu.title + "\n\n| Command | Keys |\n|---|---|\n";
+        for (const auto& section : menu.sections) {
+            for (const auto& item : section) {
+                if (!item.shortcuts.empty())
+                    text += "| " + item.title + " | " + keysOf(item) + " |\n";
+            }
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+TEST(ShortcutsDocument, isUpToDate)
+{
+    const velmaro::VelmaroOnlineApp app;
+    const simulated::SimulatedPlatform platform;
+    const auto scene = app.body();
+    const auto text = document(ui::menuBar(scene.title, scene.commands()));
+
+    if (std::getenv("VELMARO_WRITE_DOCS"))
+        std::ofstream(path) << text;
+    std::ifstream file(path);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), text)
+        << "VELMARO_WRITE_DOCS=1 script/test -R ShortcutsDocument writes it";
+}
