@@ -17,6 +17,7 @@ void tryValue(std::string_view text)
     if (!value)
         return;
     require(fuzz::charactersOf(text).has_value(), "JSON is UTF-8");
+    require(text.find('\0') == text.npos, "JSON is read to its end");
     const auto encoded = JSONSerialization::encode(*value);
     require(encoded.has_value(), "what came from JSON can become JSON");
     require(encoded->find('\n') == encoded->npos, "a value is one line");

@@ -65,10 +65,12 @@ bool isNested(std::string_view text)
     return std::ranges::count(text, '[') + std::ranges::count(text, '{') > 64;
 }
 
-// What the file holds when it is none that was damaged. The parser is the program's as well; the
-// folder and the two files are what is looked at.
+// What the text holds when it is an object. The parser is the program's as well, and takes a NUL
+// for the end.
 std::optional<Json> membersOf(std::string_view text)
 {
+    if (text.find('\0') != text.npos)
+        return std::nullopt;
     auto json = Json::parse(text, nullptr, false);
     return json.is_object() ? std::optional(std::move(json)) : std::nullopt;
 }
