@@ -7,8 +7,6 @@
 #include <algorithm>
 #include <string>
 
-using fuzz::require;
-
 namespace {
 
 constexpr std::size_t maximumLength = 240; // bytes

@@ -1,14 +1,12 @@
+#include "fuzz/Target.h"
+
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count);
 
 namespace {
 
@@ -17,7 +15,7 @@ void replay(const std::filesystem::path& path)
     std::ifstream file(path, std::ios::binary);
     const std::string input(std::istreambuf_iterator<char>(file), {});
     std::fprintf(stderr, "%s\n", path.filename().c_str()); // the last one is the one that failed
-    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+    fuzz::tryInput(input);
 }
 
 } // namespace
@@ -30,7 +28,7 @@ int main(int argumentCount, char** arguments)
         std::fprintf(stderr, "usage: %s FOLDER\n", arguments[0]);
         return 2;
     }
-    LLVMFuzzerTestOneInput(nullptr, 0);
+    fuzz::tryInput({});
     const std::filesystem::directory_iterator folder(arguments[1]);
     std::vector<std::filesystem::path> files(begin(folder), end(folder));
     std::ranges::sort(files);

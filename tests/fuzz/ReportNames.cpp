@@ -6,14 +6,12 @@
 
 #include <string>
 
-using fuzz::require;
-
 namespace {
 
 using Time = std::chrono::system_clock::time_point;
 
 const Time now{std::chrono::seconds(1'773'065'107)}; // 2026-03-09, 14:05:07
-const std::string stamp = " 2026-03-09T14-05-07Z";
+constexpr auto stampedEnd = " 2026-03-09T14-05-07Z.pdf";
 
 } // namespace
 
@@ -31,12 +29,13 @@ void fuzz::tryInput(std::string_view input)
     simulated::SimulatedPlatform platform;
     for (const bool hasDownloads : {true, false}) {
         platform.fileManager().hasDownloadsDirectory = hasDownloads;
-        const auto folder = hasDownloads ? platform.fileManager().downloadsDirectory(false)->path()
-                                         : platform.fileManager().temporaryDirectory().path();
-        const auto file = velmaro::reportFileURL(name, now);
-        require(file.path() == folder + "/" + clean + ".pdf", "a report is saved in the folder");
-        platform.fileManager().files[file.path()] = "an earlier report";
-        require(velmaro::reportFileURL(name, now).path() == folder + "/" + clean + stamp + ".pdf",
+        const auto folder = hasDownloads ? platform.fileManager().downloadsDirectory(false).value()
+                                         : platform.fileManager().temporaryDirectory();
+        const auto pathWithoutEnd = folder.path() + "/" + clean;
+        const auto path = velmaro::reportFileURL(name, now).path();
+        require(path == pathWithoutEnd + ".pdf", "a report is saved in the folder");
+        platform.fileManager().files[path] = "an earlier report";
+        require(velmaro::reportFileURL(name, now).path() == pathWithoutEnd + stampedEnd,
             "an earlier report stays");
     }
 }
