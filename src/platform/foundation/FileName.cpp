@@ -59,7 +59,7 @@ std::string shortened(const std::string& name)
     const bool hasExtension =
         dot != std::string::npos && dot > 0 && name.size() - dot <= maximumExtensionLength;
     const auto extension = hasExtension ? name.substr(dot) : std::string();
-    return std::string(beginning(name, maximumLength - extension.size())) + extension;
+    return trimmingWhitespace(beginning(name, maximumLength - extension.size())) + extension;
 }
 
 } // namespace

@@ -130,6 +130,8 @@ void appendEscaped(std::string& json, char character)
 
 std::optional<Value> decode(std::string_view text)
 {
+    if (text.find('\0') != text.npos) // which the parser would take for the end
+        return std::nullopt;
     bool isTooDeep = false;
     const auto keepShallow = [&](int depth, Json::parse_event_t, Json&) {
         isTooDeep = isTooDeep || depth > maximumDepth;

@@ -52,6 +52,7 @@ TEST(FileName, becomesOneVisibleName)
         {"a\xc3(b.csv", "a\u00c3(b.csv"},
         {"\U0001F697.csv", "\U0001F697.csv"},
         {times(400, "a") + ".csv", times(236, "a") + ".csv"},
+        {times(239, "a") + " b", times(239, "a")},
         {times(200, "\u00e4") + ".csv", times(118, "\u00e4") + ".csv"},
         {"b" + times(200, "\u00e4") + ".csv", "b" + times(117, "\u00e4") + ".csv"},
         {times(100, "\U0001F697"), times(60, "\U0001F697")},

@@ -94,6 +94,8 @@ Json fromData(const platform::Data& data)
 
 std::optional<Json> parse(std::string_view text)
 {
+    if (text.find('\0') != text.npos) // which the parser would take for the end
+        return std::nullopt;
     bool isTooDeep = false;
     const auto keep = [&isTooDeep](int depth, Json::parse_event_t, Json&) {
         isTooDeep = isTooDeep || depth > maximumDepth;

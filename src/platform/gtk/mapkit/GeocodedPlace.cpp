@@ -19,6 +19,9 @@ constexpr std::string_view numberFirstCountries[] = {
 // The keys of the map data for what is part of an address rather than somewhere to go.
 constexpr std::string_view addressKeys[] = {"place", "highway", "boundary", "building"};
 
+// Those that take more than one byte.
+constexpr std::string_view lineBreaks[] = {"\u0085", "\u2028", "\u2029"};
+
 constexpr const char* areaNames[] = {"city", "state", "country"};
 
 template <class Names> bool contains(const Names& names, const std::string& name)
@@ -34,6 +37,10 @@ std::string text(const Value& properties, const char* name)
     std::string result = string ? *string : "";
     std::ranges::replace_if(
         result, [](unsigned char character) { return character < ' ' || character == 0x7f; }, ' ');
+    for (const auto lineBreak : lineBreaks) {
+        for (auto at = result.find(lineBreak); at != result.npos; at = result.find(lineBreak, at))
+            result.replace(at, lineBreak.size(), " ");
+    }
     return result;
 }
 
