@@ -19,6 +19,7 @@ struct Commands : testing::Test {
     {
         SavedCookies::signIn("Robin", "Alder");
         SavedSettings::write({{"vl.open.routes", {"drives"}}, {"vl.onboarding.shown", true}});
+        SavedSettings::writePermissions({{"notificationsAllowed", false}});
         app.emplace(service);
         ASSERT_TRUE(app->waitForPage());
         service.forgetRequests();

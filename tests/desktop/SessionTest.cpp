@@ -19,8 +19,7 @@ struct Session : testing::Test {
     Session()
     {
         SavedSettings::write(nlohmann::json::object());
-        std::ofstream(SavedSettings::path().parent_path() / "permissions.json")
-            << nlohmann::json{{"notificationsAllowed", false}};
+        SavedSettings::writePermissions({{"notificationsAllowed", false}});
     }
 
     static void press(const Keys& keys)

@@ -23,4 +23,10 @@ void SavedSettings::write(const nlohmann::json& settings)
     std::ofstream(path()) << settings.dump(4) << '\n';
 }
 
+void SavedSettings::writePermissions(const nlohmann::json& permissions)
+{
+    std::filesystem::create_directories(path().parent_path());
+    std::ofstream(path().parent_path() / "permissions.json") << permissions.dump(4) << '\n';
+}
+
 } // namespace desktop

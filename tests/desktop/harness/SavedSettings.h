@@ -14,6 +14,9 @@ public:
     static nlohmann::json read();
 
     static void write(const nlohmann::json& settings);
+
+    // What the user has answered to the application's questions, so that it asks them no more.
+    static void writePermissions(const nlohmann::json& permissions);
 };
 
 } // namespace desktop

@@ -1,5 +1,7 @@
 #include "platform/gtk/webkit/Download.h"
 
+#include "platform/foundation/DispatchQueue.h"
+
 #include "platform/foundation/FileName.h"
 #include "platform/gtk/foundation/Renaming.h"
 
@@ -15,6 +17,7 @@ using platform::URL;
 namespace {
 
 constexpr auto folderPattern = ".velmaro-download-XXXXXX";
+constexpr double secondsToStop = 1;
 constexpr auto unfinishedName = "unfinished";
 
 // A new folder that only this user can look into; empty, with `errno` set, when it cannot be made.
@@ -22,6 +25,17 @@ std::filesystem::path makeFolder(const std::filesystem::path& parent)
 {
     auto path = (parent / folderPattern).string();
     return mkdtemp(path.data()) ? path : "";
+}
+
+// The engine may still be writing, and has stopped by the second time.
+void removeUnfinished(const std::filesystem::path& folder)
+{
+    const auto remove = [folder] {
+        std::error_code error;
+        std::filesystem::remove_all(folder, error);
+    };
+    remove();
+    platform::DispatchQueue::main().asyncAfter(secondsToStop, remove);
 }
 
 } // namespace
@@ -141,9 +155,8 @@ void Download::fail(const std::string& reason)
     const auto onEnd = std::exchange(onEnd_, nullptr);
     if (!onEnd)
         return;
-    std::error_code error;
     if (!folder_.empty())
-        std::filesystem::remove_all(folder_, error);
+        removeUnfinished(folder_);
     const auto owner = delegate.lock();
     const auto self = weak_from_this().lock(); // null on its way out
     if (owner && self)
