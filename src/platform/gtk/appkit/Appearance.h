@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/corelocation/BusConversation.h"
+#include "platform/gtk/foundation/BusConversation.h"
 #include "platform/gtk/foundation/SettingsFile.h"
 
 #include <gtkmm/cssprovider.h>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/gtk/corelocation/BusConversation.h"
 #include "platform/gtk/corelocation/LocationPatience.h"
 #include "platform/gtk/corelocation/LocationSource.h"
+#include "platform/gtk/foundation/BusConversation.h"
 
 namespace gtk {
 

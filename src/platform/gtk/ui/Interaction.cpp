@@ -27,7 +27,7 @@ void Interaction::apply(const ui::GroupNode& group)
     if (onTap_ && !std::exchange(hasTap_, true))
         addTap();
     if (onMiddleClick_ && !std::exchange(hasMiddleClick_, true))
-        addMiddleClick();
+        addClick(GDK_BUTTON_MIDDLE, onMiddleClick_);
     if (!dragPayload_.empty() && !std::exchange(hasDragSource_, true))
         addDragSource();
     if (onDrop_ && !std::exchange(hasDropTarget_, true))
@@ -48,14 +48,7 @@ void Interaction::addHover()
 
 void Interaction::addTap()
 {
-    const auto click = Gtk::GestureClick::create();
-    click->set_button(GDK_BUTTON_PRIMARY);
-    click->signal_released().connect([this](int, double x, double y) {
-        const auto tap = onTap_; // which may take the widget away
-        if (tap && widget_.contains(x, y))
-            tap();
-    });
-    widget_.add_controller(click);
+    addClick(GDK_BUTTON_PRIMARY, onTap_);
 
     // What can be clicked can be reached and pressed with the keyboard too.
     widget_.set_focusable();
@@ -76,14 +69,14 @@ void Interaction::addTap()
     widget_.add_controller(keys);
 }
 
-void Interaction::addMiddleClick()
+void Interaction::addClick(unsigned button, const std::function<void()>& action)
 {
     const auto click = Gtk::GestureClick::create();
-    click->set_button(GDK_BUTTON_MIDDLE);
-    click->signal_released().connect([this](int, double x, double y) {
-        const auto action = onMiddleClick_; // which may take the widget away
-        if (action && widget_.contains(x, y))
-            action();
+    click->set_button(button);
+    click->signal_released().connect([this, &action](int, double x, double y) {
+        const auto current = action; // which may take the widget away
+        if (current && widget_.contains(x, y))
+            current();
     });
     widget_.add_controller(click);
 }

@@ -26,7 +26,9 @@ public:
 private:
     void addHover();
     void addTap();
-    void addMiddleClick();
+
+    // Calls what `action`, a member, holds by then.
+    void addClick(unsigned button, const std::function<void()>& action);
     void addDragSource();
     void addDropTarget();
 

@@ -1,4 +1,4 @@
-#include "platform/gtk/corelocation/BusConversation.h"
+#include "platform/gtk/foundation/BusConversation.h"
 
 #include <cmath>
 
