@@ -12,6 +12,7 @@ struct Scene;
 namespace platform {
 
 class NSApplicationDelegate;
+struct NSWindowDescription;
 
 // The running program: its windows, its life, and the addresses it is asked to open.
 class NSApplication {
@@ -30,6 +31,13 @@ public:
 
     // The window with the keyboard; null when another program has it.
     virtual std::shared_ptr<NSWindow> keyWindow() const = 0;
+
+    // See `NSWindow::make`.
+    virtual std::shared_ptr<NSWindow> makeWindow(const NSWindowDescription& description) = 0;
+
+    // Brings the program to the front, with the window that was used last, and also when another
+    // program has the keyboard if `ignoringOtherApps`.
+    virtual void activate(bool ignoringOtherApps) = 0;
 
     // Whether the application has a picture of its own to show.
     virtual bool hasApplicationIconImage() const = 0;

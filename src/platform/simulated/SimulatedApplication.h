@@ -17,6 +17,9 @@ public:
 
     std::vector<std::shared_ptr<platform::NSWindow>> windows() const override;
     std::shared_ptr<platform::NSWindow> keyWindow() const override;
+    std::shared_ptr<platform::NSWindow> makeWindow(
+        const platform::NSWindowDescription& description) override;
+    void activate(bool ignoringOtherApps) override { isActive = isActive || ignoringOtherApps; }
     bool hasApplicationIconImage() const override { return hasIcon; }
     void terminate() override;
 
@@ -46,7 +49,11 @@ public:
     bool simulateReopen();
 
     // The user gives the keyboard to another program.
-    void simulateResignActive() { keyWindow_.reset(); }
+    void simulateResignActive()
+    {
+        keyWindow_.reset();
+        isActive = false;
+    }
 
     // The user closes the first window; or quits, or the session ends. All that follows has
     // happened on return.
@@ -54,6 +61,7 @@ public:
     void simulateQuit();
 
     bool hasIcon = false;
+    bool isActive = true;
 
 private:
     friend class SimulatedPlatform;

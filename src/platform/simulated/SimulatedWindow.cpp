@@ -1,5 +1,6 @@
 #include "platform/simulated/SimulatedWindow.h"
 
+#include "platform/appkit/NSWindowDelegate.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
@@ -15,6 +16,7 @@ SimulatedWindow::SimulatedWindow(SimulatedPlatform& platform, Options options)
     : platform_(platform)
     , options_(std::move(options))
     , root_(renderer_)
+    , isVisible_(options_.isVisible)
 {
     root_.window_ = this;
     contentView_.setHost(&root_);
@@ -54,6 +56,8 @@ void SimulatedWindow::makeKeyAndOrderFront()
 
 void SimulatedWindow::close()
 {
+    if (delegate_)
+        delegate_->windowWillClose(*this);
     platform_.application().windowClosed(*this);
 }
 

@@ -20,6 +20,7 @@ public:
         std::string title = {};
         bool canBecomeMainWindow = true;
         bool hasContentView = true;
+        bool isVisible = true;
     };
 
     SimulatedWindow(SimulatedPlatform& platform, Options options);
@@ -48,6 +49,7 @@ public:
     void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
     bool canBecomeMainWindow() const override { return options_.canBecomeMainWindow; }
     platform::NSView* contentView() const override;
+    void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
     void makeKeyAndOrderFront() override;
     void close() override;
 
@@ -74,6 +76,7 @@ private:
     bool isFullScreen_ = false;
     bool isRestorable_ = true;
     bool isVisible_ = true;
+    platform::NSWindowDelegate* delegate_ = nullptr;
 };
 
 } // namespace simulated

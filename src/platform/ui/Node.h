@@ -26,6 +26,7 @@ enum class Kind {
     verticalStack,
     layers,
     fill,
+    linearGradient,
     text,
     symbol,
     applicationIcon,
