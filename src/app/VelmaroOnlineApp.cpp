@@ -3,8 +3,16 @@
 #include "platform/appkit/NSApplication.h"
 #include "platform/ui/Views.h"
 #include "tabs/AppRoot.h"
+#include "updates/UpdaterController.h"
 
 namespace velmaro {
+
+const std::shared_ptr<UpdaterController>& VelmaroOnlineApp::updater() const
+{
+    if (!updater_)
+        updater_ = std::make_shared<UpdaterController>();
+    return updater_;
+}
 
 ui::Scene VelmaroOnlineApp::body() const
 {
@@ -12,7 +20,11 @@ ui::Scene VelmaroOnlineApp::body() const
         .identifier = "main",
         .title = "Velmaro Online",
         .toolbarStyle = ui::WindowToolbarStyle::unified,
-        .content = [] { return ui::View(AppRoot{}); },
+        .content =
+            [this] {
+                updater(); // not in a start that only hands an address to the running program
+                return ui::View(AppRoot{});
+            },
     };
 }
 

@@ -20,6 +20,7 @@ class NSTextField;
 class NSView;
 class NSWorkspace;
 class ProcessInfo;
+class SPUStandardUpdaterController;
 class URLCache;
 class UserDefaults;
 class WKWebView;
@@ -69,6 +70,10 @@ public:
 
     // A search that has yet to be started.
     virtual std::shared_ptr<MKLocalSearch> makeLocalSearch(const MKLocalSearchRequest&) = 0;
+
+    // See `SPUStandardUpdaterController::make`.
+    virtual std::shared_ptr<SPUStandardUpdaterController> makeUpdaterController(
+        bool startingUpdater) = 0;
 
     // See `NSAlert::runModal`.
     virtual void runModal(const NSAlert& alert, std::function<void(int button)> completion) = 0;

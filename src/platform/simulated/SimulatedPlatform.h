@@ -12,6 +12,7 @@
 #include "platform/simulated/SimulatedQueue.h"
 #include "platform/simulated/SimulatedScreen.h"
 #include "platform/simulated/SimulatedTextField.h"
+#include "platform/simulated/SimulatedUpdaterController.h"
 #include "platform/simulated/SimulatedURLCache.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedWebView.h"
@@ -47,6 +48,8 @@ public:
     std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
     std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
         const platform::MKLocalSearchRequest& request) override;
+    std::shared_ptr<platform::SPUStandardUpdaterController> makeUpdaterController(
+        bool startingUpdater) override;
     void runModal(
         const platform::NSAlert& alert, std::function<void(int button)> completion) override
     {
@@ -81,6 +84,12 @@ public:
         return localSearches_;
     }
 
+    // The updaters made so far, in order, also those that have gone since.
+    const std::vector<std::weak_ptr<SimulatedUpdaterController>>& updaterControllers() const
+    {
+        return updaterControllers_;
+    }
+
     std::vector<std::string> logLines;
 
 private:
@@ -98,6 +107,7 @@ private:
     std::vector<std::weak_ptr<SimulatedLocationManager>> locationManagers_;
     std::vector<std::weak_ptr<SimulatedLocalSearchCompleter>> searchCompleters_;
     std::vector<std::shared_ptr<SimulatedLocalSearch>> localSearches_;
+    std::vector<std::weak_ptr<SimulatedUpdaterController>> updaterControllers_;
     SimulatedApplication application_;
 };
 
