@@ -82,7 +82,7 @@ std::string signature(std::string_view data)
     const auto signedData = datum(data);
     gnutls_datum_t result = {};
     require(gnutls_privkey_sign_data2(key, GNUTLS_SIGN_EDDSA_ED25519, 0, &signedData, &result));
-    const auto text = base64(result);
+    auto text = base64(result);
     gnutls_free(result.data);
     return text;
 }

@@ -296,7 +296,7 @@ TEST_F(UpdaterTest, looksByItselfWhenAllowedOnceADayAndNotForASkippedVersion)
     press("Skip This Version");
     EXPECT_TRUE(closes());
 
-    settings.setInteger(Updater::lastCheckKey, std::time(nullptr) - 25 * 60 * 60);
+    settings.setInteger(Updater::lastCheckKey, std::time(nullptr) - 25L * 60 * 60);
     updater = makeUpdater(feed("newer"));
     updater->start();
     EXPECT_TRUE(eventuallyInLoop([&] { return asked() == 2; }));

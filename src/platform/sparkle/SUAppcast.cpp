@@ -99,7 +99,7 @@ std::optional<SUAppcast> SUAppcast::parse(std::string_view text)
 const SUAppcastItem* SUAppcast::newest() const
 {
     const auto found = std::ranges::max_element(items, [](const auto& left, const auto& right) {
-        return compareVersions(left.versionString, right.versionString) < 0;
+        return std::is_lt(compareVersions(left.versionString, right.versionString));
     });
     return found == items.end() ? nullptr : &*found;
 }

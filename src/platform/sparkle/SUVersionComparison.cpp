@@ -57,7 +57,7 @@ std::weak_ordering compareVersions(std::string_view left, std::string_view right
 {
     while (!left.empty() || !right.empty()) {
         const auto order = compare(takePart(left), takePart(right));
-        if (order != 0)
+        if (std::is_neq(order))
             return order;
     }
     return std::weak_ordering::equivalent;

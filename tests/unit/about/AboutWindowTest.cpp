@@ -79,7 +79,9 @@ TEST_F(AboutTest, showsNameVersionAndYear)
     for (const auto& [bundle, name, version] : cases) {
         platform.mainBundle().infoDictionary = bundle;
         const auto texts = textsOf(show(AboutView{}).content());
-        EXPECT_TRUE(texts.starts_with(name + " " + version + " A native")) << texts;
+        EXPECT_TRUE(
+            texts.starts_with(std::string(name).append(" ").append(version).append(" A native")))
+            << texts;
         EXPECT_NE(texts.find(" " + thisYear() + " "), std::string::npos) << texts;
     }
 }

@@ -22,11 +22,11 @@ TEST(VersionComparison, ordersVersionsAsPeopleReadThem)
         {"99999999999999999999999998", "99999999999999999999999999"},
     };
     for (const auto& [lower, higher] : lowerAndHigher) {
-        EXPECT_TRUE(platform::compareVersions(lower, higher) < 0) << lower << ' ' << higher;
-        EXPECT_TRUE(platform::compareVersions(higher, lower) > 0) << lower << ' ' << higher;
+        EXPECT_TRUE(std::is_lt(platform::compareVersions(lower, higher))) << lower << ' ' << higher;
+        EXPECT_TRUE(std::is_gt(platform::compareVersions(higher, lower))) << lower << ' ' << higher;
     }
     const Case equal[] = {
         {"1", "1.0.0"}, {"1.02", "1.2"}, {"1-2_3", "1.2.3"}, {"", "0"}, {"2.0b1", "2.0.b1"}};
     for (const auto& [left, right] : equal)
-        EXPECT_TRUE(platform::compareVersions(left, right) == 0) << left << ' ' << right;
+        EXPECT_TRUE(std::is_eq(platform::compareVersions(left, right))) << left << ' ' << right;
 }

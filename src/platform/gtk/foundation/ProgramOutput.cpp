@@ -46,6 +46,7 @@ std::shared_ptr<void> runProgram(const std::vector<std::string>& arguments,
     auto* run = new Run{retain(cancellable), std::move(handler)};
 
     std::vector<const char*> words;
+    words.reserve(arguments.size() + 1);
     for (const auto& argument : arguments)
         words.push_back(argument.c_str());
     words.push_back(nullptr);

@@ -76,10 +76,10 @@ void PackageCheck::versionRead(const std::optional<std::string>& version)
     if (!version)
         return finish_(NSError{"The update is no package for this system. It was not opened."});
     const auto held = upstreamVersion(*version);
-    if (compareVersions(held, expectation_.runningVersion) < 0)
+    if (std::is_lt(compareVersions(held, expectation_.runningVersion)))
         return finish_(NSError{"The package holds version " + held + ", which is older than yours ("
             + expectation_.runningVersion + "). It was not opened."});
-    if (compareVersions(held, expectation_.item.displayVersionString) != 0)
+    if (std::is_neq(compareVersions(held, expectation_.item.displayVersionString)))
         return finish_(NSError{"The package holds version " + held + " instead of "
             + expectation_.item.displayVersionString + ". It was not opened."});
     finish_(std::nullopt);

@@ -6,7 +6,7 @@ namespace gtk {
 
 namespace {
 
-constexpr gsize pieceSize = 64 * 1024;
+constexpr gsize pieceSize = 65'536; // bytes
 constexpr guint secondsToWait = 30; // while nothing at all comes
 
 bool isSecure(GUri* address)

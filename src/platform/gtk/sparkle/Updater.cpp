@@ -154,7 +154,7 @@ void Updater::feedFetched(const Failure& failure)
     if (!appcast)
         return showFailure({"The list of updates cannot be read."});
     const auto* newest = appcast->newest();
-    if (newest && platform::compareVersions(newest->versionString, options_.version) > 0)
+    if (newest && std::is_gt(platform::compareVersions(newest->versionString, options_.version)))
         offer(*newest);
     else
         showNothingNewer(newest);
@@ -280,7 +280,7 @@ void Updater::showNothingNewer(const SUAppcastItem* newest)
     if (cause_ == Cause::schedule)
         return endSession();
     const bool isOlder =
-        newest && platform::compareVersions(newest->versionString, options_.version) < 0;
+        newest && std::is_lt(platform::compareVersions(newest->versionString, options_.version));
     window_.show({
         .title = "You\u2019re up to date!",
         .text = "Velmaro Online " + options_.displayVersion

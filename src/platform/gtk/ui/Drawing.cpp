@@ -66,9 +66,9 @@ void LinearGradientArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snaps
     const auto width = static_cast<float>(get_width());
     const auto height = static_cast<float>(get_height());
     const bool isMirrored = get_direction() == Gtk::TextDirection::RTL;
-    const graphene_rect_t bounds = GRAPHENE_RECT_INIT(0, 0, width, height);
-    const graphene_point_t start = GRAPHENE_POINT_INIT(isMirrored ? width : 0, 0);
-    const graphene_point_t end = GRAPHENE_POINT_INIT(isMirrored ? 0 : width, height);
+    const graphene_rect_t bounds{{0, 0}, {width, height}};
+    const graphene_point_t start{isMirrored ? width : 0, 0};
+    const graphene_point_t end{isMirrored ? 0 : width, height};
     const auto from = themeColor(*this, options_.from);
     const auto to = themeColor(*this, options_.to);
     const GskColorStop stops[] = {{0, *from.gobj()}, {1, *to.gobj()}};
@@ -163,8 +163,8 @@ void ApplicationIconArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snap
         return;
     const int side = std::min(get_width(), get_height());
     const OutlineShadow shadow(*snapshot.get(), *this, options_.shadow);
-    const graphene_point_t corner = GRAPHENE_POINT_INIT(
-        static_cast<float>(get_width() - side) / 2, static_cast<float>(get_height() - side) / 2);
+    const graphene_point_t corner{
+        static_cast<float>(get_width() - side) / 2, static_cast<float>(get_height() - side) / 2};
     snapshot->save();
     gtk_snapshot_translate(snapshot->gobj(), &corner);
     icon->snapshot(snapshot, side, side);
