@@ -28,7 +28,15 @@ VELMARO_SERVICE_ORIGIN       https origin of the web service
 VELMARO_CHECKOUT_HOSTS       the payment provider's two hosts, where they are others
 VELMARO_SERVICE_CERTIFICATE  PEM file with a certificate to trust for these hosts
 VELMARO_GEOCODER             address of the Photon service that finds places
+VELMARO_UPDATE_FEED          https address of the feed of newer versions
+VELMARO_UPDATE_KEY           public key that their packages are signed with
 )";
+
+std::string setting(const char* name, const char* otherwise)
+{
+    const char* value = std::getenv(name);
+    return value ? value : otherwise;
+}
 
 int fail(const std::string& line)
 {
@@ -57,11 +65,16 @@ int main(int argumentCount, char** arguments)
     std::setlocale(LC_ALL, "");
     std::setlocale(LC_NUMERIC, "C");
 
-    const char* geocoder = std::getenv("VELMARO_GEOCODER");
+    const auto updateFeed = setting("VELMARO_UPDATE_FEED", VELMARO_UPDATE_FEED);
+    if (!updateFeed.empty() && !updateFeed.starts_with("https://"))
+        return fail("VELMARO_UPDATE_FEED is not an https address: " + updateFeed);
+
     gtk::GtkPlatform platform({
         .identifier = "example.velmaro.Online",
         .address = argument.empty() ? std::nullopt : std::optional(argument),
-        .geocoder = geocoder ? geocoder : VELMARO_GEOCODER,
+        .geocoder = setting("VELMARO_GEOCODER", VELMARO_GEOCODER),
+        .updateFeed = updateFeed,
+        .updateKey = setting("VELMARO_UPDATE_KEY", VELMARO_UPDATE_KEY),
     });
 
     auto& service = velmaro::Service::current();

@@ -4,6 +4,7 @@
 #include "service/Exports.h"
 #include "service/Geocoder.h"
 #include "service/Pages.h"
+#include "service/Updates.h"
 
 namespace demo {
 
@@ -39,6 +40,7 @@ const DemoService::Route DemoService::routes[] = {
     {"GET", "/elsewhere", &DemoService::page},
     {"GET", "/api", &DemoService::search},
     {"GET", "/reverse", &DemoService::reverse},
+    {"GET", "/demo/updates/", &DemoService::updates},
     {"GET", "/demo/requests", &DemoService::requests},
     {"POST", "/demo/reset", &DemoService::reset},
     {"GET", "/demo/state", &DemoService::state},
@@ -177,6 +179,14 @@ Answer DemoService::search(const Request& request)
 Answer DemoService::reverse(const Request& request)
 {
     return reverseAnswer(request);
+}
+
+Answer DemoService::updates(const Request& request)
+{
+    if (auto answer =
+            updateAnswer(request.path.substr(std::string_view("/demo/updates/").size()), request))
+        return *std::move(answer);
+    return failurePage(404, "No such update", "There is no update of this kind.");
 }
 
 } // namespace demo

@@ -36,6 +36,7 @@ private:
     Answer notes(const Request&);
     Answer search(const Request&);
     Answer reverse(const Request&);
+    Answer updates(const Request&);
 
     RequestLog& log_;
     bool isHostile_;

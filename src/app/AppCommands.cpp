@@ -1,7 +1,9 @@
 #include "app/AppCommands.h"
 
+#include "about/AboutWindowController.h"
 #include "app/FocusedItem.h"
 #include "tabs/TabbedAppModel.h"
+#include "updates/CheckForUpdatesView.h"
 
 namespace velmaro {
 
@@ -33,6 +35,16 @@ std::vector<CommandGroup> AppCommands::body() const
             tab.find(backwards);
         });
     };
+    const MenuItem aboutItem{
+        .title = "About Velmaro Online",
+        .action = [] { AboutWindowController::shared().show(); },
+    };
+    const CheckForUpdatesView checkForUpdates{updater};
+    const MenuItem updateItem{
+        .title = checkForUpdates.title,
+        .isEnabled = checkForUpdates.isEnabled(),
+        .action = [checkForUpdates] { checkForUpdates.checkForUpdates(); },
+    };
     const MenuItem restoreItem{
         .title = "Restore Last Active Tab on Launch",
         .isOn = restoreLastTab(),
@@ -42,6 +54,7 @@ std::vector<CommandGroup> AppCommands::body() const
     using enum ui::CommandGroupPlacement;
     using enum CommandGroup::Relation;
     return {
+        {appInfo, replacing, {{aboutItem, updateItem}}},
         {newItem, replacing,
             {
                 {

@@ -5,20 +5,16 @@
 #include "platform/appkit/NSApplication.h"
 #include "platform/ui/Views.h"
 #include "tabs/AppRoot.h"
+#include "updates/UpdaterController.h"
 
 namespace velmaro {
 
-namespace {
-
-std::vector<ui::CommandGroup> commands()
+const std::shared_ptr<UpdaterController>& VelmaroOnlineApp::updater() const
 {
-    auto groups = AppCommands().body();
-    for (auto& group : BrowsingCommands().body())
-        groups.push_back(std::move(group));
-    return groups;
+    if (!updater_)
+        updater_ = std::make_shared<UpdaterController>();
+    return updater_;
 }
-
-} // namespace
 
 ui::Scene VelmaroOnlineApp::body() const
 {
@@ -27,8 +23,16 @@ ui::Scene VelmaroOnlineApp::body() const
         .title = "Velmaro Online",
         .toolbarStyle = ui::WindowToolbarStyle::unified,
         .content = [] { return ui::View(AppRoot{}); },
-        .commands = commands,
+        .commands = [this] { return commands(); },
     };
+}
+
+std::vector<ui::CommandGroup> VelmaroOnlineApp::commands() const
+{
+    auto groups = AppCommands{updater()}.body();
+    for (auto& group : BrowsingCommands().body())
+        groups.push_back(std::move(group));
+    return groups;
 }
 
 int VelmaroOnlineApp::run()

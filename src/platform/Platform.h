@@ -25,8 +25,9 @@ class NSView;
 class NSWindow;
 class NSWorkspace;
 class ProcessInfo;
-class URL;
+class SPUStandardUpdaterController;
 class UNUserNotificationCenter;
+class URL;
 class URLCache;
 class UserDefaults;
 class WKWebView;
@@ -92,6 +93,10 @@ public:
 
     // A search that has yet to be started.
     virtual std::shared_ptr<MKLocalSearch> makeLocalSearch(const MKLocalSearchRequest&) = 0;
+
+    // See `SPUStandardUpdaterController::make`.
+    virtual std::shared_ptr<SPUStandardUpdaterController> makeUpdaterController(
+        bool startingUpdater) = 0;
 
     // See `NSAlert::runModal`.
     virtual void runModal(const NSAlert& alert, std::function<void(int button)> completion) = 0;

@@ -26,6 +26,8 @@ public:
     const std::array<std::string, 2>& paymentCheckoutHosts() const { return paymentCheckoutHosts_; }
 
     std::string onlineURL() const { return serviceOrigin_ + "/online"; }
+    std::string helpURL() const { return serviceOrigin_ + "/help"; }
+    std::string privacyURL() const { return serviceOrigin_ + "/legal/privacy"; }
     std::string welcomeURL() const { return serviceOrigin_ + "/online/welcome.php"; }
 
     // Takes another origin for this run. False, and nothing changed, unless `origin` is https with

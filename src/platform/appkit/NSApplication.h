@@ -12,6 +12,7 @@ struct Scene;
 namespace platform {
 
 class NSApplicationDelegate;
+struct NSWindowDescription;
 
 // The running program: its windows, its life, and the addresses it is asked to open.
 class NSApplication {
@@ -34,6 +35,9 @@ public:
     // The window that the user works in, also while one of its dialogs has the keyboard; null while
     // another program has it.
     virtual std::shared_ptr<NSWindow> mainWindow() const = 0;
+
+    // See `NSWindow::make`.
+    virtual std::shared_ptr<NSWindow> makeWindow(const NSWindowDescription& description) = 0;
 
     // Whether the application has a picture of its own to show.
     virtual bool hasApplicationIconImage() const = 0;

@@ -9,6 +9,8 @@
 namespace platform {
 
 class NSView;
+class NSWindowDelegate;
+struct NSWindowDescription;
 
 // A top-level window. The application object owns it; everybody else holds it weakly, since it goes
 // away when it is closed. What a desktop does not let a program decide (on Wayland: the position)
@@ -22,6 +24,9 @@ public:
 
     // Bits of `collectionBehavior`.
     static constexpr std::uint32_t fullScreenNone = 0x200;
+
+    // A window beside those of the application's scene. It is made hidden.
+    static std::shared_ptr<NSWindow> make(const NSWindowDescription& description);
 
     // Whether the platform may merge windows of the application into tabs of its own. Class-wide.
     static bool allowsAutomaticWindowTabbing();
@@ -60,6 +65,13 @@ public:
 
     // The view that fills the window; null before there is one.
     virtual NSView* contentView() const = 0;
+
+    // Who is told what becomes of the window; null for nobody. It must outlive the window, or take
+    // itself away first.
+    virtual void setDelegate(NSWindowDelegate* delegate) = 0;
+
+    // Moves the window to the middle of its screen.
+    void center();
 
     // Shows the window, also out of a minimised state, in front of all others and gives it the
     // keyboard.

@@ -54,6 +54,24 @@ NSWorkspace& NSWorkspace::shared()
     return Platform::current().workspace();
 }
 
+std::shared_ptr<NSWindow> NSWindow::make(const NSWindowDescription& description)
+{
+    return NSApplication::shared().makeWindow(description);
+}
+
+void NSWindow::center()
+{
+    auto* ownScreen = screen();
+    const auto* screen = ownScreen ? ownScreen : NSScreen::main();
+    if (!screen)
+        return;
+    const auto area = screen->visibleFrame();
+    auto centred = frame();
+    centred.origin.x = area.origin.x + (area.size.width - centred.size.width) / 2;
+    centred.origin.y = area.origin.y + (area.size.height - centred.size.height) / 2;
+    setFrame(centred, true);
+}
+
 bool NSWindow::allowsAutomaticWindowTabbing()
 {
     return Platform::current().shared<WindowTabbing>().isAutomatic;

@@ -23,6 +23,7 @@
 #include "platform/gtk/foundation/StandardPaths.h"
 #include "platform/gtk/mapkit/PlaceSearch.h"
 #include "platform/gtk/mapkit/SearchCompleter.h"
+#include "platform/gtk/sparkle/Updater.h"
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
 #include "platform/gtk/usernotifications/PortalNotifications.h"
 #include "platform/gtk/usernotifications/UserNotificationCenter.h"
@@ -45,6 +46,8 @@ constexpr auto settingsName = "settings.json";
 constexpr auto permissionsName = "permissions.json"; // what the user lets this program do
 constexpr auto appearanceName = "appearance.json";
 constexpr auto responsesName = "responses";
+constexpr auto updateSettingsName = "updates.json"; // what the updater has to remember
+constexpr auto updatesName = "updates";
 
 StandardPaths standardPaths()
 {
@@ -200,6 +203,33 @@ std::shared_ptr<platform::MKLocalSearch> GtkPlatform::makeLocalSearch(
     return std::make_shared<PlaceSearch>(request, *mainQueue_);
 }
 
+std::shared_ptr<platform::SPUStandardUpdaterController> GtkPlatform::makeUpdaterController(
+    bool startingUpdater)
+{
+    if (!updateSettings_)
+        updateSettings_ = std::make_unique<SettingsFile>(
+            standardPaths().config / updateSettingsName, *mainQueue_, platform::NSLog);
+    const auto bundleText = [this](const char* key) {
+        return bundle_->stringForInfoDictionaryKey(key).value_or("");
+    };
+    std::error_code ignored; // a program that cannot be found belongs to nobody
+    auto updater = std::make_shared<Updater>(
+        UpdateOptions{
+            .feed = options_.updateFeed,
+            .publicKey = options_.updateKey,
+            .certificate = certificate_,
+            .userAgent = "VelmaroOnline/" VELMARO_VERSION,
+            .version = bundleText("CFBundleVersion"),
+            .displayVersion = bundleText("CFBundleShortVersionString"),
+            .downloads = standardPaths().cache / updatesName,
+            .executable = std::filesystem::read_symlink("/proc/self/exe", ignored),
+        },
+        Updater::Services{*mainQueue_, *updateSettings_, *workspace_});
+    if (startingUpdater)
+        updater->start();
+    return updater;
+}
+
 void GtkPlatform::runModal(
     const platform::NSAlert& alert, std::function<void(int button)> completion)
 {
@@ -261,6 +291,8 @@ void GtkPlatform::saveSettings()
     settings_->flush();
     if (permissions_)
         permissions_->flush();
+    if (updateSettings_)
+        updateSettings_->flush();
 }
 
 SettingsFile& GtkPlatform::permissions()

@@ -32,6 +32,8 @@ public:
         std::string identifier; // of the application, in reverse domain order
         std::optional<std::string> address; // to be opened
         std::string geocoder; // address of the service that finds places
+        std::string updateFeed = {}; // https address of the list of versions; empty: there is none
+        std::string updateKey = {}; // with which packages are signed: Ed25519, in Base64
     };
 
     explicit GtkPlatform(Options options);
@@ -67,6 +69,8 @@ public:
     std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
     std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
         const platform::MKLocalSearchRequest& request) override;
+    std::shared_ptr<platform::SPUStandardUpdaterController> makeUpdaterController(
+        bool startingUpdater) override;
     void runModal(
         const platform::NSAlert& alert, std::function<void(int button)> completion) override;
     void showSharingServices(const platform::NSSharingServicePicker& picker,
@@ -119,6 +123,7 @@ private:
     std::unique_ptr<UserNotificationCenter> notificationCenter_;
     std::unique_ptr<ResponseCache> responseCache_; // made on first use, like the service below
     std::shared_ptr<GeocodingService> geocodingService_;
+    std::unique_ptr<SettingsFile> updateSettings_; // made with the first updater
     std::unique_ptr<Application> application_;
 };
 

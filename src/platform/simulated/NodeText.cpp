@@ -137,6 +137,11 @@ std::string symbolText(const ui::SymbolNode& node)
         .text();
 }
 
+std::string gradientText(const ui::GradientOptions& options)
+{
+    return Line("linearGradient").addColor(options.from).addColor(options.to).text();
+}
+
 std::string shapeText(const ui::ShapeOptions& options)
 {
     return Line("roundedRectangle")
@@ -184,6 +189,8 @@ std::string nodeText(const ui::Node& node)
         return layersText(static_cast<const ui::LayersNode&>(node));
     case ui::Kind::fill:
         return Line("fill").addColor(static_cast<const ui::FillNode&>(node).color).text();
+    case ui::Kind::linearGradient:
+        return gradientText(static_cast<const ui::LinearGradientNode&>(node).options);
     case ui::Kind::text:
         return textText(static_cast<const ui::TextNode&>(node));
     case ui::Kind::symbol:

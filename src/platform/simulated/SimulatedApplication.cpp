@@ -1,5 +1,6 @@
 #include "platform/simulated/SimulatedApplication.h"
 
+#include "platform/appkit/NSWindowDescription.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/simulated/Failure.h"
 #include "platform/simulated/SimulatedPlatform.h"
@@ -23,6 +24,16 @@ std::vector<std::shared_ptr<platform::NSWindow>> SimulatedApplication::windows()
 std::shared_ptr<platform::NSWindow> SimulatedApplication::keyWindow() const
 {
     return keyWindow_.lock();
+}
+
+std::shared_ptr<platform::NSWindow> SimulatedApplication::makeWindow(
+    const platform::NSWindowDescription& description)
+{
+    windows_.push_back(std::make_shared<SimulatedWindow>(
+        platform_, SimulatedWindow::Options{.title = description.title, .isVisible = false}));
+    windows_.back()->setFrame({{}, description.contentSize}, false, false);
+    windows_.back()->show(description.content);
+    return windows_.back();
 }
 
 int SimulatedApplication::run(platform::NSApplicationDelegate& delegate, const ui::Scene& scene)

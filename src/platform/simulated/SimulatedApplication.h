@@ -19,6 +19,8 @@ public:
     std::vector<std::shared_ptr<platform::NSWindow>> windows() const override;
     std::shared_ptr<platform::NSWindow> keyWindow() const override;
     std::shared_ptr<platform::NSWindow> mainWindow() const override { return mainWindow_.lock(); }
+    std::shared_ptr<platform::NSWindow> makeWindow(
+        const platform::NSWindowDescription& description) override;
     bool hasApplicationIconImage() const override { return hasIcon; }
     void activateIgnoringOtherApps(bool) override { ++activations; }
     void terminate() override;

@@ -111,6 +111,14 @@ std::shared_ptr<platform::MKLocalSearch> SimulatedPlatform::makeLocalSearch(
     return localSearches_.back();
 }
 
+std::shared_ptr<platform::SPUStandardUpdaterController> SimulatedPlatform::makeUpdaterController(
+    bool startingUpdater)
+{
+    auto controller = std::make_shared<SimulatedUpdaterController>(startingUpdater);
+    updaterControllers_.push_back(controller);
+    return controller;
+}
+
 SimulatedScreen& SimulatedPlatform::addScreen(const NSRect& visibleFrame)
 {
     screens_.push_back(std::make_unique<SimulatedScreen>(visibleFrame));

@@ -14,6 +14,7 @@
 #include "platform/simulated/SimulatedQueue.h"
 #include "platform/simulated/SimulatedScreen.h"
 #include "platform/simulated/SimulatedTextField.h"
+#include "platform/simulated/SimulatedUpdaterController.h"
 #include "platform/simulated/SimulatedURLCache.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedWebsiteData.h"
@@ -58,6 +59,8 @@ public:
     std::shared_ptr<platform::MKLocalSearchCompleter> makeLocalSearchCompleter() override;
     std::shared_ptr<platform::MKLocalSearch> makeLocalSearch(
         const platform::MKLocalSearchRequest& request) override;
+    std::shared_ptr<platform::SPUStandardUpdaterController> makeUpdaterController(
+        bool startingUpdater) override;
     void runModal(
         const platform::NSAlert& alert, std::function<void(int button)> completion) override
     {
@@ -125,6 +128,12 @@ public:
     };
 
     std::vector<Share> shares;
+    // The updaters made so far, in order, also those that have gone since.
+    const std::vector<std::weak_ptr<SimulatedUpdaterController>>& updaterControllers() const
+    {
+        return updaterControllers_;
+    }
+
     std::vector<std::string> logLines;
 
 private:
@@ -146,6 +155,7 @@ private:
     std::vector<std::weak_ptr<SimulatedLocationManager>> locationManagers_;
     std::vector<std::weak_ptr<SimulatedLocalSearchCompleter>> searchCompleters_;
     std::vector<std::shared_ptr<SimulatedLocalSearch>> localSearches_;
+    std::vector<std::weak_ptr<SimulatedUpdaterController>> updaterControllers_;
     SimulatedApplication application_;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/simulated/SimulatedWindow.h"
 
+#include "platform/appkit/NSWindowDelegate.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
@@ -20,7 +21,7 @@ SimulatedWindow::SimulatedWindow(SimulatedPlatform& platform, Options options)
     contentView_.setHost(&root_);
     if (options_.offscreenView)
         options_.offscreenView->offscreenWindow = this;
-    isVisible_ = !options_.offscreenView;
+    isVisible_ = options_.isVisible && !options_.offscreenView;
 }
 
 void SimulatedWindow::show(ui::View content)
@@ -58,10 +59,13 @@ void SimulatedWindow::makeKeyAndOrderFront()
 
 void SimulatedWindow::close()
 {
-    if (const auto view = std::exchange(options_.offscreenView, nullptr))
+    if (const auto view = std::exchange(options_.offscreenView, nullptr)) {
         view->offscreenWindow = nullptr;
-    else
-        platform_.application().windowClosed(*this);
+        return;
+    }
+    if (delegate_)
+        delegate_->windowWillClose(*this);
+    platform_.application().windowClosed(*this);
 }
 
 void SimulatedWindow::simulateUserResize(platform::NSSize size)

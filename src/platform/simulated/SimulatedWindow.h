@@ -22,6 +22,7 @@ public:
         bool canBecomeMainWindow = true;
         bool hasContentView = true;
         std::shared_ptr<SimulatedWebView> offscreenView = {}; // for a window that no screen shows
+        bool isVisible = true;
     };
 
     SimulatedWindow(SimulatedPlatform& platform, Options options);
@@ -54,6 +55,7 @@ public:
     void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
     bool canBecomeMainWindow() const override { return options_.canBecomeMainWindow; }
     platform::NSView* contentView() const override;
+    void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
     void makeKeyAndOrderFront() override;
     void close() override;
 
@@ -80,6 +82,7 @@ private:
     bool isFullScreen_ = false;
     bool isRestorable_ = true;
     bool isVisible_ = true;
+    platform::NSWindowDelegate* delegate_ = nullptr;
 };
 
 } // namespace simulated

@@ -27,6 +27,7 @@ enum class Kind {
     verticalStack,
     layers,
     fill,
+    linearGradient,
     text,
     symbol,
     applicationIcon,

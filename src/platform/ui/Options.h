@@ -31,19 +31,34 @@ struct TextOptions {
     bool operator==(const TextOptions&) const = default;
 };
 
-struct SymbolOptions {
-    Font font = {};
-    Color color = Color::label;
-
-    bool operator==(const SymbolOptions&) const = default;
-};
-
 struct Shadow {
     Color color = Color::clear;
     double radius = 0;
     double y = 0; // downwards
 
     bool operator==(const Shadow&) const = default;
+};
+
+struct SymbolOptions {
+    Font font = {};
+    Color color = Color::label;
+    Shadow shadow = {}; // of the symbol's own outline
+
+    bool operator==(const SymbolOptions&) const = default;
+};
+
+struct ApplicationIconOptions {
+    Shadow shadow = {}; // of the picture's own outline
+
+    bool operator==(const ApplicationIconOptions&) const = default;
+};
+
+// One colour that becomes another on the way from the upper leading to the lower trailing corner.
+struct GradientOptions {
+    Color from = Color::clear;
+    Color to = Color::clear;
+
+    bool operator==(const GradientOptions&) const = default;
 };
 
 struct ShapeOptions {

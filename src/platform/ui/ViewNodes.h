@@ -65,6 +65,16 @@ struct FillNode : Node {
     Color color;
 };
 
+struct LinearGradientNode : Node {
+    explicit LinearGradientNode(GradientOptions options)
+        : Node(Kind::linearGradient)
+        , options(options)
+    {
+    }
+
+    GradientOptions options;
+};
+
 struct TextNode : Node {
     TextNode(std::string text, TextOptions options)
         : Node(Kind::text)
@@ -91,10 +101,13 @@ struct SymbolNode : Node {
 };
 
 struct ApplicationIconNode : Node {
-    ApplicationIconNode()
+    explicit ApplicationIconNode(ApplicationIconOptions options)
         : Node(Kind::applicationIcon)
+        , options(options)
     {
     }
+
+    ApplicationIconOptions options;
 };
 
 struct ProgressBarNode : Node {

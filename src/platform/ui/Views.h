@@ -47,6 +47,14 @@ struct Fill : View {
     }
 };
 
+// An area of two colours that takes all the room there is.
+struct LinearGradient : View {
+    explicit LinearGradient(GradientOptions options)
+        : View(std::make_shared<LinearGradientNode>(options))
+    {
+    }
+};
+
 struct Text : View {
     explicit Text(std::string text, TextOptions options = {})
         : View(std::make_shared<TextNode>(std::move(text), options))
@@ -64,8 +72,8 @@ struct Symbol : View {
 
 // The application's own picture, scaled to fit.
 struct ApplicationIcon : View {
-    ApplicationIcon()
-        : View(std::make_shared<ApplicationIconNode>())
+    explicit ApplicationIcon(ApplicationIconOptions options = {})
+        : View(std::make_shared<ApplicationIconNode>(options))
     {
     }
 };

@@ -80,6 +80,9 @@ TEST_F(Commands, standInTheMenusInTheirOrder)
         }
     }
     EXPECT_EQ(text, R"(Velmaro Online
+  About Velmaro Online
+  Check for Updates…
+  —
   Quit Ctrl+Q
 File
   New Tab Ctrl+T
@@ -217,7 +220,9 @@ TEST_F(Commands, followTheFocusedWindow)
     EXPECT_EQ(enabled, "Reopen Closed Tab\nActual Size\n");
     auto& window = platform.application().window();
 
-    openPanel();
+    menus().simulatePress("About Velmaro Online");
+    settle();
+    EXPECT_EQ(platform.application().window(1).title(), "About Velmaro Online");
     EXPECT_EQ(disabledTitles(),
         "New Tab\nClose Tab\nNew Driver\nNew Vehicle\nLog Fuel\nLog Charging Session\nReload\n"
         "Overview\nReopen Closed Tab\nFind…\nFind Next\nFind Previous\nBack\nForward\nNext Tab\n"

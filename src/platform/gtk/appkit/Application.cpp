@@ -1,6 +1,7 @@
 #include "platform/gtk/appkit/Application.h"
 
 #include "platform/appkit/NSApplicationDelegate.h"
+#include "platform/appkit/NSWindowDescription.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/gtk/appkit/FocusTracker.h"
 #include "platform/gtk/appkit/LostDisplay.h"
@@ -49,7 +50,7 @@ std::vector<std::shared_ptr<platform::NSWindow>> Application::windows() const
 {
     std::vector<std::shared_ptr<platform::NSWindow>> frontToBack;
     for (auto* native : program_.windows()) {
-        for (const auto& window : windows_) {
+        for (const auto& window : allWindows()) {
             if (GTK_WINDOW(window->native().gobj()) == native)
                 frontToBack.push_back(window);
         }
@@ -59,9 +60,19 @@ std::vector<std::shared_ptr<platform::NSWindow>> Application::windows() const
 
 std::shared_ptr<platform::NSWindow> Application::keyWindow() const
 {
+    const auto windows = allWindows();
     const auto found = std::find_if(
-        windows_.begin(), windows_.end(), [](const auto& window) { return window->isKeyWindow(); });
-    return found == windows_.end() ? nullptr : *found;
+        windows.begin(), windows.end(), [](const auto& window) { return window->isKeyWindow(); });
+    return found == windows.end() ? nullptr : *found;
+}
+
+std::shared_ptr<platform::NSWindow> Application::makeWindow(
+    const platform::NSWindowDescription& description)
+{
+    auto window = std::make_shared<MainWindow>(description);
+    adopt(window);
+    otherWindows_.push_back(window);
+    return window;
 }
 
 std::shared_ptr<platform::NSWindow> Application::mainWindow() const
@@ -92,6 +103,7 @@ int Application::run(platform::NSApplicationDelegate& delegate, const ui::Scene&
     // Only now, since another start would wait for this one as long as its name is on the bus.
     closedWindows_.clear();
     windows_.clear();
+    otherWindows_.clear();
     return status;
 }
 
@@ -195,8 +207,9 @@ void Application::followFocus()
 
 void Application::reopen()
 {
+    const auto windows = allWindows();
     const bool hasVisibleWindows = std::any_of(
-        windows_.begin(), windows_.end(), [](const auto& window) { return window->isVisible(); });
+        windows.begin(), windows.end(), [](const auto& window) { return window->isVisible(); });
     if (!delegate_->applicationShouldHandleReopen(*this, hasVisibleWindows))
         return;
     if (windows_.empty())
@@ -208,8 +221,7 @@ void Application::reopen()
 void Application::makeWindow()
 {
     auto window = std::make_shared<MainWindow>(*scene_);
-    program_.add(window->native());
-    window->signalClosed().connect([this, window = window.get()] { windowClosed(*window); });
+    adopt(window);
     windows_.push_back(window);
 
     // The views have just queued what they do to their window; it is shown when that is done.
@@ -219,16 +231,27 @@ void Application::makeWindow()
     });
 }
 
+void Application::adopt(const std::shared_ptr<MainWindow>& window)
+{
+    program_.add(window->native());
+    window->signalClosed().connect([this, window = window.get()] { windowClosed(*window); });
+}
+
+std::vector<std::shared_ptr<MainWindow>> Application::allWindows() const
+{
+    auto all = windows_;
+    all.insert(all.end(), otherWindows_.begin(), otherWindows_.end());
+    return all;
+}
+
 void Application::windowClosed(MainWindow& window)
 {
-    const auto found = std::find_if(windows_.begin(), windows_.end(),
-        [&window](const auto& candidate) { return candidate.get() == &window; });
-    if (found == windows_.end())
+    const auto self = std::static_pointer_cast<MainWindow>(window.shared_from_this());
+    if (std::erase(windows_, self) + std::erase(otherWindows_, self) == 0)
         return;
-    closedWindows_.push_back(std::move(*found));
-    windows_.erase(found);
+    closedWindows_.push_back(self);
 
-    if (windows_.empty() && delegate_->applicationShouldTerminateAfterLastWindowClosed(*this))
+    if (allWindows().empty() && delegate_->applicationShouldTerminateAfterLastWindowClosed(*this))
         terminate();
     else
         platform_.mainQueue().async([this] { closedWindows_.clear(); });

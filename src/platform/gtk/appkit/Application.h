@@ -26,6 +26,8 @@ public:
     std::vector<std::shared_ptr<platform::NSWindow>> windows() const override;
     std::shared_ptr<platform::NSWindow> keyWindow() const override;
     std::shared_ptr<platform::NSWindow> mainWindow() const override;
+    std::shared_ptr<platform::NSWindow> makeWindow(
+        const platform::NSWindowDescription& description) override;
     bool hasApplicationIconImage() const override;
 
     // In a start that is not the user's first, hands the address to the running program and returns
@@ -49,6 +51,8 @@ private:
     void followFocus();
     void reopen();
     void makeWindow();
+    void adopt(const std::shared_ptr<MainWindow>& window);
+    std::vector<std::shared_ptr<MainWindow>> allWindows() const;
     void windowClosed(MainWindow& window);
     void finish();
 
@@ -63,7 +67,8 @@ private:
     std::unique_ptr<FocusTracker> focus_;
     std::unique_ptr<MenuBar> menuBar_;
     std::unique_ptr<ui::MenuMount> menus_;
-    std::vector<std::shared_ptr<MainWindow>> windows_;
+    std::vector<std::shared_ptr<MainWindow>> windows_; // of the scene
+    std::vector<std::shared_ptr<MainWindow>> otherWindows_;
     std::vector<std::shared_ptr<MainWindow>> closedWindows_; // whose models may still have to save
     bool isLaunched_ = false;
     bool isTerminating_ = false;

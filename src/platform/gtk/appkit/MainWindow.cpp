@@ -1,6 +1,9 @@
 #include "platform/gtk/appkit/MainWindow.h"
 
+#include "platform/appkit/NSWindowDelegate.h"
+#include "platform/appkit/NSWindowDescription.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/gtk/appkit/PanelFrame.h"
 #include "platform/gtk/appkit/Screen.h"
 #include "platform/gtk/appkit/ScreenCoordinates.h"
 #include "platform/gtk/appkit/X11Window.h"
@@ -54,10 +57,8 @@ private:
 };
 
 MainWindow::MainWindow(const ui::Scene& scene)
-    : content_(scene.content())
-    , contentView_(std::make_shared<ContentView>(*this))
+    : MainWindow(scene.content())
 {
-    g_object_set_data(G_OBJECT(window_->gobj()), windowKey, this);
     window_->set_title(scene.title);
     window_->set_show_menubar();
     if (scene.toolbarStyle == ui::WindowToolbarStyle::unified) {
@@ -67,7 +68,23 @@ MainWindow::MainWindow(const ui::Scene& scene)
         window_->set_titlebar(bar);
     }
     window_->set_child(content_.widget());
+}
 
+MainWindow::MainWindow(const platform::NSWindowDescription& description)
+    : MainWindow(description.content)
+{
+    panelFrame_ = std::make_unique<PanelFrame>(*window_, content_.widget(), description);
+    frame_.size = description.contentSize;
+    // The toolkit tells the window manager once more that a window has one size only, and forgets
+    // its place over that.
+    window_->signal_map().connect(sigc::mem_fun(*this, &MainWindow::moveToFrame));
+}
+
+MainWindow::MainWindow(ui::View content)
+    : content_(std::move(content))
+    , contentView_(std::make_shared<ContentView>(*this))
+{
+    g_object_set_data(G_OBJECT(window_->gobj()), windowKey, this);
     window_->signal_realize().connect(sigc::mem_fun(*this, &MainWindow::watchSurface));
     window_->signal_close_request().connect(
         [this] {
@@ -80,6 +97,7 @@ MainWindow::MainWindow(const ui::Scene& scene)
 MainWindow::~MainWindow()
 {
     g_object_set_data(G_OBJECT(window_->gobj()), windowKey, nullptr);
+    panelFrame_.reset();
     window_->unset_child();
 }
 
@@ -118,11 +136,16 @@ void MainWindow::setFrame(const platform::NSRect& frame, bool, bool)
 {
     frame_ = frame;
     window_->set_default_size(whole(frame.size.width), whole(frame.size.height));
+    gtk_widget_realize(GTK_WIDGET(window_->gobj())); // only then is there something to move
+    moveToFrame();
+}
+
+void MainWindow::moveToFrame()
+{
     const auto* first = Screen::first();
     if (!first)
         return;
-    gtk_widget_realize(GTK_WIDGET(window_->gobj())); // only then is there something to move
-    const auto place = toDesktop(frame, first->geometry());
+    const auto place = toDesktop(frame_, first->geometry());
     X11Window::move(*window_, place.get_x(), place.get_y());
 }
 
@@ -144,6 +167,8 @@ void MainWindow::close()
         return;
     const auto self = shared_from_this(); // the application lets go of the window
     isClosed_ = true;
+    if (delegate_)
+        delegate_->windowWillClose(*this);
     window_->set_visible(false);
     signalClosed_.emit();
 }

@@ -9,12 +9,19 @@
 #include <gtkmm/applicationwindow.h>
 #include <sigc++/signal.h>
 
+namespace platform {
+struct NSWindowDescription;
+}
+
 namespace gtk {
 
-// A window of the application, with the views of its scene in it. It is made hidden.
+class PanelFrame;
+
+// A window of the application: of its scene, or one beside those. It is made hidden.
 class MainWindow final : public platform::NSWindow {
 public:
     explicit MainWindow(const ui::Scene& scene);
+    explicit MainWindow(const platform::NSWindowDescription& description);
     ~MainWindow() override;
 
     // The one that `widget` is in; null while it is in none.
@@ -53,6 +60,7 @@ public:
 
     bool canBecomeMainWindow() const override { return !isClosed_; }
     platform::NSView* contentView() const override { return contentView_.get(); }
+    void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
     void makeKeyAndOrderFront() override;
     void close() override;
 
@@ -68,6 +76,9 @@ private:
         bool operator==(const Extent&) const = default;
     };
 
+    explicit MainWindow(ui::View content);
+
+    void moveToFrame();
     GdkSurface* surface() const; // null until the window is realized
     void watchSurface();
     void checkExtent();
@@ -75,8 +86,10 @@ private:
 
     std::unique_ptr<Gtk::ApplicationWindow> window_ = std::make_unique<Gtk::ApplicationWindow>();
     WindowContent content_;
+    std::unique_ptr<PanelFrame> panelFrame_; // null in a window of the scene
     std::shared_ptr<platform::NSView> contentView_;
 
+    platform::NSWindowDelegate* delegate_ = nullptr;
     platform::NSRect frame_; // as last asked for
     platform::NSSize minSize_;
     std::uint32_t collectionBehavior_ = 0;

@@ -1,5 +1,7 @@
 #include "platform/gtk/appkit/OffscreenWindow.h"
 
+#include "platform/appkit/NSWindowDelegate.h"
+
 #include <utility>
 
 namespace gtk {
@@ -14,8 +16,12 @@ OffscreenWindow::OffscreenWindow(
 
 void OffscreenWindow::close()
 {
-    if (const auto view = std::exchange(contentView_, nullptr))
-        view->setWindow(nullptr);
+    const auto view = std::exchange(contentView_, nullptr);
+    if (!view)
+        return;
+    if (delegate_)
+        delegate_->windowWillClose(*this);
+    view->setWindow(nullptr);
 }
 
 } // namespace gtk

@@ -30,6 +30,7 @@ public:
 
     bool canBecomeMainWindow() const override { return false; }
     platform::NSView* contentView() const override { return contentView_.get(); }
+    void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
     void makeKeyAndOrderFront() override { }
     void close() override;
 
@@ -39,6 +40,7 @@ private:
     std::uint32_t collectionBehavior_ = 0;
     TabbingMode tabbingMode_ = TabbingMode::automatic;
     bool isRestorable_ = true;
+    platform::NSWindowDelegate* delegate_ = nullptr;
     std::shared_ptr<OffscreenWebView> contentView_; // null once the window is closed
 };
 

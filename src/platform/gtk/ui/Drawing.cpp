@@ -1,9 +1,12 @@
 #include "platform/gtk/ui/Drawing.h"
 
+#include "platform/gtk/ui/ApplicationIcon.h"
+#include "platform/gtk/ui/OutlineShadow.h"
 #include "platform/gtk/ui/SymbolImage.h"
 #include "platform/gtk/ui/ThemeColor.h"
 #include "platform/ui/ViewNodes.h"
 
+#include <algorithm>
 #include <cairomm/context.h>
 #include <cmath>
 #include <gdkmm/general.h>
@@ -41,6 +44,41 @@ void FillArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
 void FillWidget::apply(const ui::Node& node)
 {
     leaf().set(static_cast<const ui::FillNode&>(node).color);
+}
+
+LinearGradientArea::LinearGradientArea()
+    : Glib::ObjectBase("VelmaroLinearGradient")
+{
+    set_expand();
+    set_can_target(false);
+}
+
+void LinearGradientArea::set(const ui::GradientOptions& options)
+{
+    if (options_ == options)
+        return;
+    options_ = options;
+    queue_draw();
+}
+
+void LinearGradientArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
+{
+    const auto width = static_cast<float>(get_width());
+    const auto height = static_cast<float>(get_height());
+    const bool isMirrored = get_direction() == Gtk::TextDirection::RTL;
+    const graphene_rect_t bounds{{0, 0}, {width, height}};
+    const graphene_point_t start{isMirrored ? width : 0, 0};
+    const graphene_point_t end{isMirrored ? 0 : width, height};
+    const auto from = themeColor(*this, options_.from);
+    const auto to = themeColor(*this, options_.to);
+    const GskColorStop stops[] = {{0, *from.gobj()}, {1, *to.gobj()}};
+    gtk_snapshot_append_linear_gradient(
+        snapshot->gobj(), &bounds, &start, &end, stops, std::size(stops));
+}
+
+void LinearGradientWidget::apply(const ui::Node& node)
+{
+    leaf().set(static_cast<const ui::LinearGradientNode&>(node).options);
 }
 
 SymbolArea::SymbolArea()
@@ -81,6 +119,7 @@ void SymbolArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
         return;
     const double x = std::floor((get_width() - extent()) / 2.0);
     const double y = std::floor((get_height() - extent()) / 2.0);
+    const OutlineShadow shadow(*snapshot.get(), *this, options_.shadow);
     const auto context = snapshot->append_cairo(Gdk::Rectangle(0, 0, get_width(), get_height()));
     context->translate(x, y);
     context->scale(1.0 / scale, 1.0 / scale);
@@ -92,6 +131,49 @@ void SymbolWidget::apply(const ui::Node& node)
 {
     const auto& symbol = static_cast<const ui::SymbolNode&>(node);
     leaf().set(symbol.name, symbol.options);
+}
+
+ApplicationIconArea::ApplicationIconArea()
+    : Glib::ObjectBase("VelmaroApplicationIcon")
+{
+    set_expand();
+}
+
+void ApplicationIconArea::set(const ui::ApplicationIconOptions& options)
+{
+    if (options_ == options)
+        return;
+    options_ = options;
+    queue_draw();
+}
+
+void ApplicationIconArea::measure_vfunc(Gtk::Orientation, int, int& minimum, int& natural,
+    int& minimumBaseline, int& naturalBaseline) const
+{
+    const auto icon = applicationIcon();
+    minimum = 0;
+    natural = icon ? icon->get_intrinsic_width() : 0;
+    minimumBaseline = naturalBaseline = -1;
+}
+
+void ApplicationIconArea::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot)
+{
+    const auto icon = applicationIcon();
+    if (!icon)
+        return;
+    const int side = std::min(get_width(), get_height());
+    const OutlineShadow shadow(*snapshot.get(), *this, options_.shadow);
+    const graphene_point_t corner{
+        static_cast<float>(get_width() - side) / 2, static_cast<float>(get_height() - side) / 2};
+    snapshot->save();
+    gtk_snapshot_translate(snapshot->gobj(), &corner);
+    icon->snapshot(snapshot, side, side);
+    snapshot->restore();
+}
+
+void ApplicationIconWidget::apply(const ui::Node& node)
+{
+    leaf().set(static_cast<const ui::ApplicationIconNode&>(node).options);
 }
 
 RoundedRectangleArea::RoundedRectangleArea()

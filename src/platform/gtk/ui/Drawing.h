@@ -26,6 +26,23 @@ public:
     void apply(const ui::Node& node) override;
 };
 
+class LinearGradientArea final : public Gtk::Widget {
+public:
+    LinearGradientArea();
+    void set(const ui::GradientOptions& options);
+
+protected:
+    void snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) override;
+
+private:
+    ui::GradientOptions options_;
+};
+
+class LinearGradientWidget final : public LeafWidget<LinearGradientArea> {
+public:
+    void apply(const ui::Node& node) override;
+};
+
 class SymbolArea final : public Gtk::Widget {
 public:
     SymbolArea();
@@ -44,6 +61,26 @@ private:
 };
 
 class SymbolWidget final : public LeafWidget<SymbolArea> {
+public:
+    void apply(const ui::Node& node) override;
+};
+
+// The application's picture, as large as its area lets it be.
+class ApplicationIconArea final : public Gtk::Widget {
+public:
+    ApplicationIconArea();
+    void set(const ui::ApplicationIconOptions& options);
+
+protected:
+    void measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
+        int& minimumBaseline, int& naturalBaseline) const override;
+    void snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) override;
+
+private:
+    ui::ApplicationIconOptions options_;
+};
+
+class ApplicationIconWidget final : public LeafWidget<ApplicationIconArea> {
 public:
     void apply(const ui::Node& node) override;
 };

@@ -1,6 +1,5 @@
 #include "platform/gtk/ui/Leaves.h"
 
-#include "platform/gtk/ui/ApplicationIcon.h"
 #include "platform/gtk/ui/FontAttributes.h"
 #include "platform/ui/ViewNodes.h"
 
@@ -75,14 +74,6 @@ void TextWidget::apply(const ui::Node& node)
     leaf().set_justify(alignment == Pango::Alignment::LEFT ? Gtk::Justification::LEFT
             : alignment == Pango::Alignment::RIGHT         ? Gtk::Justification::RIGHT
                                                            : Gtk::Justification::CENTER);
-}
-
-ApplicationIconWidget::ApplicationIconWidget()
-{
-    leaf().set_paintable(applicationIcon());
-    leaf().set_can_shrink(true);
-    leaf().set_keep_aspect_ratio(true);
-    leaf().set_expand();
 }
 
 ProgressBarWidget::ProgressBarWidget()

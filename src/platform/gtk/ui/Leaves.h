@@ -4,7 +4,6 @@
 #include "platform/ui/Options.h"
 
 #include <gtkmm/label.h>
-#include <gtkmm/picture.h>
 #include <gtkmm/progressbar.h>
 #include <gtkmm/separator.h>
 #include <gtkmm/spinner.h>
@@ -20,12 +19,6 @@ public:
 
 private:
     std::optional<ui::TextOptions> options_;
-};
-
-class ApplicationIconWidget final : public LeafWidget<Gtk::Picture> {
-public:
-    ApplicationIconWidget();
-    void apply(const ui::Node&) override { }
 };
 
 class ProgressBarWidget final : public LeafWidget<Gtk::ProgressBar> {

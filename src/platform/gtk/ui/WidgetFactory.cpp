@@ -31,6 +31,8 @@ std::unique_ptr<ui::Widget> WidgetFactory::makeWidget(const ui::Node& node)
         return std::make_unique<LayersWidget>();
     case ui::Kind::fill:
         return std::make_unique<FillWidget>();
+    case ui::Kind::linearGradient:
+        return std::make_unique<LinearGradientWidget>();
     case ui::Kind::text:
         return std::make_unique<TextWidget>();
     case ui::Kind::symbol:

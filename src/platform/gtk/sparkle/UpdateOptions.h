@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/gtk/webkit/HostCertificate.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace gtk {
+
+// Where newer versions come from, and what they are compared with.
+struct UpdateOptions {
+    std::string feed; // https address; empty: the application does not update itself
+    std::string publicKey; // Ed25519, in Base64; likewise
+    std::optional<HostCertificate> certificate = std::nullopt; // trusted beside the system's
+    std::string userAgent; // who asks
+
+    std::string version; // of the running program, as builds are counted
+    std::string displayVersion; // as people know it
+
+    std::filesystem::path downloads; // folder for packages, of the user alone
+    std::filesystem::path executable; // of the running program
+    std::filesystem::path sandboxMark =
+        "/.flatpak-info"; // a file that only Flatpak's sandboxes have
+};
+
+} // namespace gtk

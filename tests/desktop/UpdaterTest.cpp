@@ -1,0 +1,329 @@
+// Newer versions of the application, from the demo service's feeds to the system's installer.
+
+#include "platform/gtk/sparkle/Updater.h"
+
+#include "harness/DemoServiceProcess.h"
+#include "platform/appkit/NSWorkspace.h"
+#include "platform/foundation/URL.h"
+#include "platform/gtk/foundation/MainLoopQueue.h"
+#include "platform/gtk/foundation/SettingsFile.h"
+
+#include <ctime>
+#include <fstream>
+#include <glibmm/init.h>
+#include <gtest/gtest.h>
+#include <gtkmm/button.h>
+#include <gtkmm/init.h>
+#include <gtkmm/label.h>
+
+namespace desktop {
+
+namespace {
+
+namespace files = std::filesystem;
+
+bool eventuallyInLoop(const std::function<bool()>& condition)
+{
+    return eventually([&] {
+        while (g_main_context_iteration(nullptr, FALSE)) { }
+        return condition();
+    });
+}
+
+// Notes what it would open.
+struct Workspace final : platform::NSWorkspace {
+    void open(const platform::URL& url) override { opened.push_back(url.path()); }
+    void activateFileViewerSelecting(const std::vector<platform::URL>&) override { }
+
+    std::vector<std::string> opened;
+};
+
+// The updater's window; null while it is not on the screen.
+GtkWidget* window()
+{
+    GListModel* windows = gtk_window_get_toplevels();
+    for (guint index = 0; index < g_list_model_get_n_items(windows); ++index) {
+        auto* found = static_cast<GtkWidget*>(g_list_model_get_item(windows, index));
+        g_object_unref(found); // the list keeps it
+        if (gtk_widget_get_mapped(found))
+            return found;
+    }
+    return nullptr;
+}
+
+// All texts of labels, and the button that is called `title`.
+void read(GtkWidget* widget, std::string& texts, const std::string& title, GtkWidget*& button)
+{
+    if (!widget)
+        return;
+    if (GTK_IS_LABEL(widget))
+        texts += std::string(gtk_label_get_text(GTK_LABEL(widget))) + "\n";
+    if (GTK_IS_BUTTON(widget) && gtk_button_get_label(GTK_BUTTON(widget)) == title)
+        button = widget;
+    for (auto* child = gtk_widget_get_first_child(widget); child;
+         child = gtk_widget_get_next_sibling(child))
+        read(child, texts, title, button);
+}
+
+std::string texts()
+{
+    std::string found;
+    GtkWidget* none = nullptr;
+    read(window(), found, "", none);
+    return found;
+}
+
+bool shows(const std::string& text)
+{
+    return eventuallyInLoop([&] { return texts().find(text) != std::string::npos; });
+}
+
+void press(const std::string& title)
+{
+    std::string ignored;
+    GtkWidget* button = nullptr;
+    read(window(), ignored, title, button);
+    ASSERT_TRUE(button) << "no button " << title << " in\n" << texts();
+    g_signal_emit_by_name(button, "clicked");
+}
+
+bool closes()
+{
+    return eventuallyInLoop([] { return !window(); });
+}
+
+} // namespace
+
+class UpdaterTest : public testing::Test {
+protected:
+    UpdaterTest()
+    {
+        Glib::set_init_to_users_preferred_locale(false);
+        Gtk::init_gtkmm_internals();
+        gtk_init();
+        std::ifstream(VELMARO_DEMO_UPDATES "/public-key.txt") >> publicKey;
+        queue.endStart();
+    }
+
+    std::unique_ptr<gtk::Updater> makeUpdater(const std::string& feed)
+    {
+        const auto environment = service.clientEnvironment();
+        return std::make_unique<gtk::Updater>(
+            gtk::UpdateOptions{
+                .feed = feed,
+                .publicKey = publicKey,
+                .certificate = gtk::HostCertificate{{"velmaro.localhost"},
+                    environment.at("VELMARO_SERVICE_CERTIFICATE")},
+                .userAgent = "test",
+                .version = "1",
+                .displayVersion = "1.0.0",
+                .downloads = downloads,
+                .executable = executable,
+                .sandboxMark = sandboxMark,
+            },
+            gtk::Updater::Services{queue, settings, workspace});
+    }
+
+    std::string feed(const std::string& kind) const
+    {
+        return service.origin() + "/demo/updates/" + kind + "/appcast.xml";
+    }
+
+    bool hasPackage() const { return files::exists(downloads / "velmaro-online.deb"); }
+
+    const files::path home = std::getenv("HOME");
+    const files::path downloads = home / "updates";
+    files::path executable = home / "velmaro-online";
+    files::path sandboxMark = home / "no-sandbox";
+    std::string publicKey;
+    DemoServiceProcess service{{.isHostile = true}};
+    gtk::MainLoopQueue queue;
+    gtk::SettingsFile settings{
+        home / "updates.json", queue, [](const auto& line) { ADD_FAILURE() << line; }};
+    Workspace workspace;
+};
+
+TEST_F(UpdaterTest, anHonestUpdateIsHandedToTheInstaller)
+{
+    const auto updater = makeUpdater(feed("newer"));
+    ASSERT_TRUE(updater->canCheckForUpdates());
+    updater->checkForUpdates();
+    EXPECT_TRUE(shows("Checking for updates"));
+    updater->checkForUpdates(); // comes forward, and asks no second time
+    ASSERT_TRUE(shows("Version 2.0.0 is available; you have 1.0.0."));
+    EXPECT_EQ(service.requests("/demo/updates/newer/appcast.xml").size(), 1u);
+    press("Install");
+    ASSERT_TRUE(shows("Velmaro Online 2.0.0 is ready to install"));
+    ASSERT_EQ(workspace.opened.size(), 1u);
+    EXPECT_EQ(workspace.opened[0], downloads / "velmaro-online.deb");
+    EXPECT_TRUE(hasPackage());
+    EXPECT_EQ(files::status(downloads).permissions(), files::perms::owner_all);
+    press("Done");
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(UpdaterTest, nothingNewerIsSaidSo)
+{
+    struct Case {
+        std::string kind;
+        std::string text;
+    };
+    const Case cases[] = {
+        {"current", "Velmaro Online 1.0.0 is currently the newest version available."},
+        {"older", "is newer than the newest version on offer (0.9.0), which is not installed"},
+    };
+    for (const auto& [kind, text] : cases) {
+        const auto updater = makeUpdater(feed(kind));
+        updater->checkForUpdates();
+        EXPECT_TRUE(shows(text)) << texts();
+        press("OK");
+        EXPECT_TRUE(closes());
+    }
+}
+
+TEST_F(UpdaterTest, whatCannotBeTrustedIsNeverOpened)
+{
+    struct Case {
+        std::string kind;
+        std::string text;
+    };
+    const Case cases[] = {
+        {"tampered", "it was changed on its way, or comes from somebody else"},
+        {"bad-signature", "it was changed on its way, or comes from somebody else"},
+        {"unsigned", "is not signed by its maker"},
+        {"downgrade", "holds version 0.9.0, which is older than yours (1.0.0)"},
+        {"truncated", "ended too early"},
+        {"oversized", "larger than announced"},
+        {"plain-http", "not secure (https)"},
+    };
+    for (const auto& [kind, text] : cases) {
+        SCOPED_TRACE(kind);
+        const auto updater = makeUpdater(feed(kind));
+        updater->checkForUpdates();
+        ASSERT_TRUE(shows("Version 2.0.0 is available"));
+        press("Install");
+        EXPECT_TRUE(shows(text)) << texts();
+        EXPECT_TRUE(workspace.opened.empty());
+        EXPECT_FALSE(hasPackage());
+        press("OK");
+        EXPECT_TRUE(closes());
+    }
+}
+
+TEST_F(UpdaterTest, aFeedThatCannotBeUsedIsToldOnlyToTheUserWhoAsked)
+{
+    const auto insecure = "http://velmaro.localhost:" + std::to_string(service.port());
+    struct Case {
+        std::string feed;
+        std::string text;
+    };
+    const Case cases[] = {
+        {feed("gone"), "nothing at this address (404)"},
+        {feed("entities"), "cannot be read"},
+        {service.origin() + "/online", "cannot be read"},
+        {insecure + "/demo/updates/newer/appcast.xml", "not secure (https)"},
+        {service.origin() + "/hostile/redirect?to=" + insecure + "/", "not secure (https)"},
+        {service.origin() + "/hostile/big-download?mebibytes=3", "too large"},
+        {service.origin() + "/hostile/truncated", "cannot be read"},
+        {"https://elsewhere.localhost:" + std::to_string(service.port()) + "/",
+            "cannot be reached"},
+        {"https://velmaro.localhost:1/", "cannot be reached"},
+    };
+    for (const auto& [feed, text] : cases) {
+        SCOPED_TRACE(feed);
+        const auto updater = makeUpdater(feed);
+        updater->checkForUpdates();
+        EXPECT_TRUE(shows(text)) << texts();
+        press("OK");
+        EXPECT_TRUE(closes());
+    }
+}
+
+TEST_F(UpdaterTest, aCancelledDownloadLeavesNothingBehind)
+{
+    const auto updater = makeUpdater(feed("stalled"));
+    updater->checkForUpdates();
+    ASSERT_TRUE(shows("is available"));
+    press("Install");
+    ASSERT_TRUE(shows("Downloading update"));
+    EXPECT_TRUE(eventuallyInLoop([&] { return hasPackage(); }));
+    press("Cancel");
+    EXPECT_TRUE(closes());
+    EXPECT_FALSE(hasPackage());
+    updater->checkForUpdates();
+    EXPECT_TRUE(shows("is available"));
+    gtk_window_close(GTK_WINDOW(window()));
+    EXPECT_TRUE(closes());
+    EXPECT_TRUE(workspace.opened.empty());
+}
+
+TEST_F(UpdaterTest, whoeverInstalledTheProgramUpdatesIt)
+{
+    executable = "/usr/bin/dpkg";
+    makeUpdater(feed("newer"))->checkForUpdates(); // and goes before the answer
+    const auto packaged = makeUpdater(feed("newer"));
+    packaged->checkForUpdates();
+    EXPECT_TRUE(shows("by your system\u2019s package manager")) << texts();
+    press("OK");
+    EXPECT_TRUE(closes());
+
+    executable = home / "velmaro-online";
+    std::ofstream(home / "flatpak-info") << "[Application]\n";
+    sandboxMark = home / "flatpak-info";
+    const auto sandboxed = makeUpdater(feed("newer"));
+    sandboxed->checkForUpdates();
+    EXPECT_TRUE(shows("by Flatpak")) << texts();
+    EXPECT_TRUE(service.requests("/demo/updates/newer/appcast.xml").empty());
+}
+
+TEST_F(UpdaterTest, looksByItselfWhenAllowedOnceADayAndNotForASkippedVersion)
+{
+    using gtk::Updater;
+    const auto asked = [&] { return service.requests("/demo/updates/newer/appcast.xml").size(); };
+    auto updater = makeUpdater(feed("newer"));
+    updater->start(); // the first launch: nobody is asked anything
+    EXPECT_TRUE(eventuallyInLoop([&] { return settings.boolean(Updater::hasLaunchedKey); }));
+    EXPECT_FALSE(window());
+
+    updater = makeUpdater(feed("newer"));
+    updater->start();
+    ASSERT_TRUE(shows("Check for updates automatically?"));
+    EXPECT_EQ(asked(), 0u);
+    press("Check Automatically");
+    ASSERT_TRUE(shows("is available"));
+    EXPECT_EQ(asked(), 1u);
+    EXPECT_LE(std::time(nullptr) - settings.integer(Updater::lastCheckKey), 60);
+    press("Skip This Version");
+    EXPECT_TRUE(closes());
+
+    settings.setInteger(Updater::lastCheckKey, std::time(nullptr) - 25L * 60 * 60);
+    updater = makeUpdater(feed("newer"));
+    updater->start();
+    EXPECT_TRUE(eventuallyInLoop([&] { return asked() == 2; }));
+    EXPECT_FALSE(window());
+    updater->checkForUpdates(); // who asks is told all the same
+    EXPECT_TRUE(shows("is available"));
+    press("Later");
+    EXPECT_TRUE(closes());
+
+    updater = makeUpdater(feed("newer"));
+    updater->start(); // not yet a day later
+    const auto other = makeUpdater(feed("current"));
+    other->checkForUpdates();
+    EXPECT_TRUE(shows("up to date"));
+    EXPECT_EQ(asked(), 3u);
+}
+
+TEST_F(UpdaterTest, aBuildWithoutFeedOrKeyCannotCheck)
+{
+    EXPECT_FALSE(makeUpdater("")->canCheckForUpdates());
+    publicKey = "AAAA";
+    const auto updater = makeUpdater(feed("newer"));
+    EXPECT_FALSE(updater->canCheckForUpdates());
+    updater->checkForUpdates();
+    updater->start();
+    while (g_main_context_iteration(nullptr, FALSE)) { }
+    EXPECT_FALSE(window());
+}
+
+} // namespace desktop
