@@ -94,6 +94,8 @@ TEST_F(Commands, reachThePageWhileItHasTheKeyboard)
         {"ctrl+shift+c", "/online/api/charging"},
         {"ctrl+shift+d", "/online/api/drivers"},
         {"ctrl+shift+h", "/online/api/dashboard"},
+        {"ctrl+bracketleft", "/online/api/drivers"},
+        {"ctrl+bracketright", "/online/api/dashboard"},
         {"ctrl+r", "/online"},
         {"F5", "/online"},
     };
@@ -102,6 +104,13 @@ TEST_F(Commands, reachThePageWhileItHasTheKeyboard)
         UserInput::press(keys);
         EXPECT_TRUE(isAsked(request)) << keys;
     }
+
+    choose("alt+h", "What's New", 0);
+    EXPECT_TRUE(shows("What’s new"));
+    choose("alt+h", "Velmaro Help Center", 1);
+    EXPECT_TRUE(shows("Help center"));
+    choose("alt+h", "Support Tickets", 2);
+    EXPECT_TRUE(shows("Support"));
 }
 
 TEST_F(Commands, openFindAndCloseWithTheKeyboardAlone)
@@ -158,9 +167,16 @@ TEST_F(Commands, doNothingToTheTabsBehindAnotherWindow)
     UserInput::press("ctrl+w");
     UserInput::press("Escape");
     ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 1; }));
+
+    choose("F10", "About Velmaro Online", 0);
+    ASSERT_TRUE(eventually([] { return Desktop::window("About Velmaro Online").has_value(); }));
+    UserInput::press("ctrl+t");
+    UserInput::press("ctrl+w");
     EXPECT_TRUE(app->process().isRunning());
-    UserInput::press("ctrl+q");
-    EXPECT_EQ(app->process().waitForExit(), 0);
+
+    Desktop::window("Velmaro Online")->close();
+    EXPECT_EQ(app->process().waitForExit(), 0); // About does not keep it
+    EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"drives"}));
 }
 
 TEST_F(Commands, clearAllDataLeavesOneTabOnTheWelcomePageAndNothingOfTheUser)

@@ -251,7 +251,8 @@ void Application::windowClosed(MainWindow& window)
         return;
     closedWindows_.push_back(self);
 
-    if (allWindows().empty() && delegate_->applicationShouldTerminateAfterLastWindowClosed(*this))
+    // Those beside the scene's, such as About, are no reason to go on.
+    if (windows_.empty() && delegate_->applicationShouldTerminateAfterLastWindowClosed(*this))
         terminate();
     else
         platform_.mainQueue().async([this] { closedWindows_.clear(); });
