@@ -15,6 +15,7 @@ namespace {
 
 constexpr auto thisSystem = "linux";
 
+// Without blanks at its ends, and in UTF-8: a reference such as &#xD800; can name what is none.
 std::string trimmed(const char* text)
 {
     std::string_view view(text);
@@ -23,7 +24,8 @@ std::string trimmed(const char* text)
         view.remove_prefix(1);
     while (!view.empty() && isBlank(view.back()))
         view.remove_suffix(1);
-    return std::string(view);
+    g_autofree char* valid = g_utf8_make_valid(view.data(), static_cast<gssize>(view.size()));
+    return valid;
 }
 
 std::uint64_t number(const char* text)

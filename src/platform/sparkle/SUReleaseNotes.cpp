@@ -94,8 +94,12 @@ std::string_view afterElement(std::string_view rest, const std::string& name)
 std::string plainText(std::string_view html)
 {
     Lines lines;
+    const auto lastClose = html.rfind('>');
+    const char* const endOfTags = lastClose == html.npos ? html.data() : html.data() + lastClose;
     while (!html.empty()) {
-        const auto close = html.front() == '<' ? html.find('>') : html.npos;
+        // Not looked for where there is none: a megabyte of "<" would take minutes.
+        const bool isTag = html.front() == '<' && html.data() < endOfTags;
+        const auto close = isTag ? html.find('>') : html.npos;
         if (close != html.npos) {
             const auto name = tagName(html.substr(1, close - 1));
             html.remove_prefix(close + 1);
