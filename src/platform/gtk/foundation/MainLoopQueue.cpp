@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <glib.h>
+#include <mutex>
 
 namespace gtk {
 
@@ -11,14 +12,17 @@ namespace {
 // So few that the next frame is not late, and so many that not each has a layout of its own.
 constexpr int tasksInOneMoment = 8;
 
-struct WaitingTask {
+// How long tasks may keep other events from being handled, in microseconds.
+constexpr gint64 longestTurn = 4'000;
+
+struct DelayedTask {
     platform::DispatchQueue::Task run;
     std::weak_ptr<void> queue;
 };
 
 gboolean runOnce(gpointer data)
 {
-    auto& task = *static_cast<WaitingTask*>(data);
+    auto& task = *static_cast<DelayedTask*>(data);
     if (!task.queue.expired())
         task.run();
     return G_SOURCE_REMOVE;
@@ -26,7 +30,7 @@ gboolean runOnce(gpointer data)
 
 void forget(gpointer data)
 {
-    delete static_cast<WaitingTask*>(data);
+    delete static_cast<DelayedTask*>(data);
 }
 
 gboolean dispatch(GSource*, GSourceFunc callback, gpointer data)
@@ -43,14 +47,12 @@ GSourceFuncs sourceFunctions{
     .closure_marshal = nullptr,
 };
 
-// `time` is on the monotonic clock in microseconds; 0 means at once. Sources of one priority that
-// are ready together are dispatched in the order in which they were attached, which is what makes
-// this a queue.
-void attach(gint64 time, WaitingTask task, int priority = G_PRIORITY_DEFAULT)
+// `time` is on the monotonic clock in microseconds; 0 means at once.
+void attach(gint64 time, DelayedTask task, int priority = G_PRIORITY_DEFAULT)
 {
     auto* source = g_source_new(&sourceFunctions, sizeof(GSource));
     g_source_set_priority(source, priority);
-    g_source_set_callback(source, runOnce, new WaitingTask(std::move(task)), forget);
+    g_source_set_callback(source, runOnce, new DelayedTask(std::move(task)), forget);
     g_source_set_ready_time(source, time);
     g_source_attach(source, nullptr);
     g_source_unref(source);
@@ -58,9 +60,84 @@ void attach(gint64 time, WaitingTask task, int priority = G_PRIORITY_DEFAULT)
 
 } // namespace
 
+// The tasks that run as soon as they can, behind one event source for all of them: a page may post
+// a hundred thousand messages at once, and each is a task.
+class MainLoopQueue::Waiting : public std::enable_shared_from_this<Waiting> {
+public:
+    Waiting()
+    {
+        g_source_set_can_recurse(source_, TRUE);
+        g_source_set_callback(source_, run, this, nullptr);
+        g_source_attach(source_, nullptr);
+    }
+
+    ~Waiting() { g_source_unref(source_); }
+
+    void append(Task task)
+    {
+        const std::scoped_lock lock(mutex_);
+        if (tasks_.empty())
+            g_source_set_ready_time(source_, 0);
+        tasks_.push_back(std::move(task));
+    }
+
+    void drop()
+    {
+        g_source_destroy(source_);
+        std::deque<Task> dropped; // whose destructors may do anything
+        const std::scoped_lock lock(mutex_);
+        dropped.swap(tasks_);
+    }
+
+private:
+    static gboolean run(gpointer data)
+    {
+        const auto self = static_cast<Waiting*>(data)->shared_from_this();
+        const auto end = g_get_monotonic_time() + longestTurn;
+        for (auto count = self->size(); count > 0 && g_get_monotonic_time() < end; --count) {
+            if (const auto task = self->takeFirst())
+                task();
+        }
+        return G_SOURCE_CONTINUE;
+    }
+
+    std::size_t size()
+    {
+        const std::scoped_lock lock(mutex_);
+        return tasks_.size();
+    }
+
+    // Empty when there is none, which a loop inside of a task may have brought about.
+    Task takeFirst()
+    {
+        const std::scoped_lock lock(mutex_);
+        if (tasks_.empty())
+            return {};
+        auto task = std::move(tasks_.front());
+        tasks_.pop_front();
+        if (tasks_.empty())
+            g_source_set_ready_time(source_, -1);
+        return task;
+    }
+
+    GSource* const source_ = g_source_new(&sourceFunctions, sizeof(GSource));
+    std::mutex mutex_; // tasks come from any thread
+    std::deque<Task> tasks_;
+};
+
+MainLoopQueue::MainLoopQueue()
+    : waiting_(std::make_shared<Waiting>())
+{
+}
+
+MainLoopQueue::~MainLoopQueue()
+{
+    waiting_->drop();
+}
+
 void MainLoopQueue::async(Task task)
 {
-    attach(0, {std::move(task), life_});
+    waiting_->append(std::move(task));
 }
 
 void MainLoopQueue::asyncAfter(double seconds, Task task)

@@ -7,13 +7,19 @@
 
 namespace gtk {
 
-// The main queue on top of the main loop: each task is one event among the loop's others, at the
-// priority of input and ahead of painting. Tasks go on running while a modal loop is open inside
-// one of them. No task runs once the queue is gone.
+// The main queue on top of the main loop: tasks run between the loop's other events, at the priority
+// of input and ahead of painting, a few milliseconds at a time. They go on running while a modal
+// loop is open inside one of them. No task runs once the queue is gone.
 //
 // What may wait for an idle moment waits, besides, until the program has started.
 class MainLoopQueue final : public platform::DispatchQueue {
 public:
+    MainLoopQueue();
+    ~MainLoopQueue() override;
+
+    MainLoopQueue(const MainLoopQueue&) = delete;
+    MainLoopQueue& operator=(const MainLoopQueue&) = delete;
+
     void async(Task task) override;
     void asyncAfter(double seconds, Task task) override;
     void asyncWhenIdle(Task task) override;
@@ -22,9 +28,12 @@ public:
     void endStart();
 
 private:
+    class Waiting;
+
     void awaitIdleMoment();
     void runIdleTasks();
 
+    std::shared_ptr<Waiting> waiting_;
     std::deque<Task> idleTasks_;
     bool isStarting_ = true;
     bool awaitsIdleMoment_ = false;
