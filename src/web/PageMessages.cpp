@@ -134,6 +134,14 @@ constexpr std::array messageRules{
 
 } // namespace
 
+std::vector<std::string> pageMessageNames()
+{
+    std::vector<std::string> names;
+    for (const auto& rule : messageRules)
+        names.emplace_back(rule.name);
+    return names;
+}
+
 PageAction actionForPageMessage(const platform::WKScriptMessage& message)
 {
     const auto rule = std::ranges::find(messageRules, message.name, &MessageRule::name);

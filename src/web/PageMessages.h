@@ -3,6 +3,8 @@
 #include "platform/webkit/WKScriptMessageHandler.h"
 
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace velmaro {
 
@@ -12,16 +14,7 @@ class WebModel;
 using PageAction = std::function<void(WebModel&)>;
 
 // The names that pages post messages to, in the order of registration.
-inline constexpr auto pageMessageNames = {
-    "authBridge",
-    "reportBridge",
-    "printBridge",
-    "routeBridge",
-    "onboardingBridge",
-    "notifyBridge",
-    "logoutBridge",
-    "tabBridge",
-};
+std::vector<std::string> pageMessageNames();
 
 // Validates a message. The action is empty when nothing is to be done: an unknown name, or a body
 // that lacks what the name requires.

@@ -31,7 +31,7 @@ WKUserContentController userContentController(Coordinator& coordinator)
         {UserScripts::platformMarker, WKUserScript::InjectionTime::atDocumentStart, true},
         {UserScripts::signInWatcher, WKUserScript::InjectionTime::atDocumentEnd, true},
     };
-    for (const auto* name : pageMessageNames)
+    for (const auto& name : pageMessageNames())
         controller.scriptMessageHandlers.push_back({name, coordinator.weak_from_this()});
     return controller;
 }

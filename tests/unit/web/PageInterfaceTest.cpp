@@ -69,7 +69,8 @@ struct PageInterface : testing::Test {
 
 TEST_F(PageInterface, namesEveryBridge)
 {
-    const Names registered(velmaro::pageMessageNames.begin(), velmaro::pageMessageNames.end());
+    const auto names = velmaro::pageMessageNames();
+    const Names registered(names.begin(), names.end());
     const auto* name = R"(\b([a-z]\w*Bridge)\b)";
     EXPECT_EQ(namesIn(types, name), registered);
     EXPECT_EQ(namesIn(prose, name), registered);

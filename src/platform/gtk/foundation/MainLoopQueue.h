@@ -7,9 +7,9 @@
 
 namespace gtk {
 
-// The main queue on top of the main loop: tasks run between the loop's other events, at the priority
-// of input and ahead of painting, a few milliseconds at a time. They go on running while a modal
-// loop is open inside one of them. No task runs once the queue is gone.
+// The main queue on top of the main loop: tasks run between the loop's other events, at the
+// priority of input and ahead of painting, a few milliseconds at a time. They go on running while a
+// modal loop is open inside one of them. No task runs once the queue is gone.
 //
 // What may wait for an idle moment waits, besides, until the program has started.
 class MainLoopQueue final : public platform::DispatchQueue {
