@@ -8,7 +8,7 @@ using platform::URL;
 
 std::optional<URL> SimulatedFileManager::downloadsDirectory(bool)
 {
-    if (!hasDownloadsDirectory)
+    if (faults_.strike() || !hasDownloadsDirectory)
         return std::nullopt;
     return homeDirectory().appendingPathComponent("Downloads");
 }
@@ -21,7 +21,7 @@ bool SimulatedFileManager::fileExists(const URL& file)
 std::optional<std::string> SimulatedFileManager::contents(const URL& file)
 {
     const auto found = files.find(file.path());
-    if (found == files.end())
+    if (faults_.strike() || found == files.end())
         return std::nullopt;
     return found->second;
 }
@@ -31,6 +31,8 @@ std::optional<platform::NSError> SimulatedFileManager::writeAtomically(
 {
     if (writeFailure)
         return writeFailure;
+    if (faults_.strike())
+        return platform::NSError{"No space left on device"};
     auto& contents = files[file.path()];
     contents.resize(data.size());
     std::ranges::transform(

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/FileManager.h"
+#include "platform/simulated/Faults.h"
 
 #include <map>
 
@@ -9,6 +10,11 @@ namespace simulated {
 // Files in memory. There is a folder for downloads from the start, and none needs to be made.
 class SimulatedFileManager final : public platform::FileManager {
 public:
+    explicit SimulatedFileManager(Faults& faults)
+        : faults_(faults)
+    {
+    }
+
     std::optional<platform::URL> downloadsDirectory(bool create) override;
     platform::URL homeDirectory() override { return platform::URL::fileURL("/home/user"); }
     platform::URL temporaryDirectory() override { return platform::URL::fileURL("/tmp"); }
@@ -21,6 +27,9 @@ public:
     std::optional<platform::NSError> writeFailure; // of every write while it is there
 
     std::map<std::string, std::string> files; // contents by absolute path
+
+private:
+    Faults& faults_;
 };
 
 } // namespace simulated

@@ -3,6 +3,7 @@
 #include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/Platform.h"
 #include "platform/simulated/corelocation/SimulatedLocationManager.h"
+#include "platform/simulated/Faults.h"
 #include "platform/simulated/mapkit/SimulatedLocalSearch.h"
 #include "platform/simulated/mapkit/SimulatedLocalSearchCompleter.h"
 #include "platform/simulated/SimulatedAlerts.h"
@@ -46,6 +47,7 @@ public:
     SimulatedAlerts& alerts() { return alerts_; }
     SimulatedOpenPanels& openPanels() { return openPanels_; }
     SimulatedWebsiteData& websiteData() { return websiteData_; }
+    Faults& faults() { return faults_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
     std::shared_ptr<platform::NSTextField> makeTextField() override;
@@ -127,25 +129,26 @@ public:
         platform::NSRectEdge edge;
     };
 
-    std::vector<Share> shares;
-    // The updaters made so far, in order, also those that have gone since.
+    // The updaters made so far, likewise.
     const std::vector<std::weak_ptr<SimulatedUpdaterController>>& updaterControllers() const
     {
         return updaterControllers_;
     }
 
+    std::vector<Share> shares;
     std::vector<std::string> logLines;
 
 private:
+    Faults faults_;
     SimulatedQueue queue_;
-    SimulatedUserDefaults userDefaults_;
+    SimulatedUserDefaults userDefaults_{faults_};
     SimulatedURLCache urlCache_;
-    SimulatedFileManager fileManager_;
+    SimulatedFileManager fileManager_{faults_};
     SimulatedProcessInfo processInfo_;
     SimulatedWorkspace workspace_;
     SimulatedAlerts alerts_;
     SimulatedOpenPanels openPanels_;
-    SimulatedNotificationCenter notifications_{queue_};
+    SimulatedNotificationCenter notifications_{queue_, faults_};
     SimulatedWebsiteData websiteData_;
     SimulatedBundle bundle_;
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;

@@ -70,7 +70,7 @@ void SimulatedUserDefaults::setData(const std::string& key, const Data& value)
 void SimulatedUserDefaults::removeObject(const std::string& key)
 {
     writes_.push_back(key);
-    if (!writesFail_)
+    if (!faults_.strike())
         contents_.erase(key);
     whenChanged_();
 }
@@ -78,7 +78,7 @@ void SimulatedUserDefaults::removeObject(const std::string& key)
 void SimulatedUserDefaults::store(const std::string& key, Stored value)
 {
     writes_.push_back(key);
-    if (!writesFail_)
+    if (!faults_.strike())
         contents_[key] = std::move(value);
     whenChanged_();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/UserDefaults.h"
+#include "platform/simulated/Faults.h"
 
 #include <functional>
 #include <map>
@@ -10,9 +11,15 @@
 
 namespace simulated {
 
-// The settings store in memory. It starts empty.
+// The settings store in memory. It starts empty. A write that fails reaches nothing, as on a full
+// disk: what was stored stays.
 class SimulatedUserDefaults final : public platform::UserDefaults {
 public:
+    explicit SimulatedUserDefaults(Faults& faults)
+        : faults_(faults)
+    {
+    }
+
     // Whatever a settings file may hold under a key, also what the application never writes.
     using Stored = std::variant<bool, std::int64_t, double, std::string, std::vector<std::string>,
         platform::Data>;
@@ -43,17 +50,14 @@ public:
     // Calls `handler` after each write.
     void whenChanged(std::function<void()> handler) { whenChanged_ = std::move(handler); }
 
-    // From now on writes reach nothing, as on a full disk: what was stored stays.
-    void simulateWriteFailure(bool fails = true) { writesFail_ = fails; }
-
 private:
     template <class T> const T* find(const std::string& key) const;
     void store(const std::string& key, Stored value);
 
+    Faults& faults_;
     std::map<std::string, Stored> contents_;
     std::vector<std::string> writes_;
     std::function<void()> whenChanged_ = [] {};
-    bool writesFail_ = false;
 };
 
 } // namespace simulated

@@ -15,6 +15,7 @@ public:
 
     // The oldest removal that is under way comes to its end; fails the test when none is.
     void simulateRemoved();
+    bool isWaiting() const { return !waiting_.empty(); }
 
     // All that were ever asked for, in order.
     std::vector<platform::WKWebsiteDataStore> removals;

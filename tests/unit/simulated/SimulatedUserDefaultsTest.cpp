@@ -13,8 +13,9 @@ TEST(SimulatedUserDefaults, aValueOfAnotherTypeCountsAsAbsent)
     const std::int64_t integers[] = {0, 3, 2, 0, 0, 0};
     const bool booleans[] = {true, true, true, false, false, false};
 
+    simulated::Faults faults;
     for (std::size_t i = 0; i < std::size(values); ++i) {
-        SimulatedUserDefaults defaults;
+        SimulatedUserDefaults defaults(faults);
         defaults.plant("key", values[i]);
         EXPECT_TRUE(defaults.contains("key"));
         EXPECT_EQ(defaults.integer("key"), integers[i]) << i;
@@ -26,9 +27,10 @@ TEST(SimulatedUserDefaults, aValueOfAnotherTypeCountsAsAbsent)
 
 TEST(SimulatedUserDefaults, recordsWritesAndKeepsWhatWasThereWhenTheyFail)
 {
-    SimulatedUserDefaults defaults;
+    simulated::Faults faults;
+    SimulatedUserDefaults defaults(faults);
     defaults.setInteger("index", 1);
-    defaults.simulateWriteFailure();
+    faults.follow([](int) { return true; });
     defaults.setInteger("index", 2);
     defaults.removeObject("index");
 

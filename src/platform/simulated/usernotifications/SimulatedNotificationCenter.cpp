@@ -28,9 +28,11 @@ void SimulatedNotificationCenter::requestAuthorization(platform::UNAuthorization
 void SimulatedNotificationCenter::add(const platform::UNNotificationRequest& request,
     std::function<void(const std::optional<NSError>&)> completion)
 {
-    if (!postError)
+    const auto error =
+        faults_.strike() ? std::optional(NSError{"The service has gone"}) : postError;
+    if (!error)
         shown.push_back(request);
-    queue_.async([completion = std::move(completion), error = postError] { completion(error); });
+    queue_.async([completion = std::move(completion), error] { completion(error); });
 }
 
 void SimulatedNotificationCenter::simulateAnswer(bool granted)

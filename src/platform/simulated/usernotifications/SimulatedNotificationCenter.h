@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
+#include "platform/simulated/Faults.h"
 #include "platform/usernotifications/UNUserNotificationCenter.h"
 #include "platform/usernotifications/UNUserNotificationCenterDelegate.h"
 
@@ -13,8 +14,9 @@ namespace simulated {
 class SimulatedNotificationCenter final : public platform::UNUserNotificationCenter {
 public:
     // All completions are called from tasks of `queue`.
-    explicit SimulatedNotificationCenter(platform::DispatchQueue& queue)
+    SimulatedNotificationCenter(platform::DispatchQueue& queue, Faults& faults)
         : queue_(queue)
+        , faults_(faults)
     {
     }
 
@@ -47,6 +49,7 @@ public:
 
 private:
     platform::DispatchQueue& queue_;
+    Faults& faults_;
     platform::UNUserNotificationCenterDelegate* delegate_ = nullptr;
     std::deque<std::function<void(bool granted, const std::optional<platform::NSError>&)>> waiting_;
 };
