@@ -1,6 +1,7 @@
 // Alerts as the user answers them: with the keyboard.
 
 #include "harness/Desktop.h"
+#include "harness/ShownWindow.h"
 #include "harness/UserInput.h"
 #include "platform/gtk/appkit/AlertPresenter.h"
 #include "webview/WebViewTest.h"
@@ -11,14 +12,9 @@ namespace {
 
 GtkWidget* alertOnScreen()
 {
-    GListModel* windows = gtk_window_get_toplevels();
-    for (guint index = 0; index < g_list_model_get_n_items(windows); ++index) {
-        const gtk::ObjectPointer<GObject> shown(G_OBJECT(g_list_model_get_item(windows, index)));
-        if (GTK_IS_DIALOG(shown.get()) && gtk_widget_get_mapped(GTK_WIDGET(shown.get()))
-            && gtk_window_is_active(GTK_WINDOW(shown.get())))
-            return GTK_WIDGET(shown.get());
-    }
-    return nullptr;
+    return shownWindow([](GtkWidget* window) {
+        return GTK_IS_DIALOG(window) && gtk_window_is_active(GTK_WINDOW(window));
+    });
 }
 
 std::string messageOf(GtkWidget* alert)

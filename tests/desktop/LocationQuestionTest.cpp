@@ -1,7 +1,8 @@
 // The question whether the application may use the user's location.
 
 #include "platform/gtk/corelocation/LocationQuestion.h"
-#include "harness/Eventually.h"
+#include "harness/MainLoop.h"
+#include "harness/ShownWindow.h"
 #include "platform/gtk/corelocation/LocationPermission.h"
 
 #include <glibmm/init.h>
@@ -14,25 +15,11 @@ namespace desktop {
 
 namespace {
 
-bool eventuallyInLoop(const std::function<bool()>& condition)
-{
-    return eventually([&] {
-        while (g_main_context_iteration(nullptr, FALSE)) { }
-        return condition();
-    });
-}
-
 // The alert on the screen; null when there is none.
 GtkDialog* alert()
 {
-    GListModel* windows = gtk_window_get_toplevels();
-    for (guint index = 0; index < g_list_model_get_n_items(windows); ++index) {
-        auto* window = static_cast<GtkWidget*>(g_list_model_get_item(windows, index));
-        g_object_unref(window); // the list keeps it
-        if (GTK_IS_DIALOG(window) && gtk_widget_get_mapped(window))
-            return GTK_DIALOG(window);
-    }
-    return nullptr;
+    auto* window = shownWindow([](GtkWidget* window) { return GTK_IS_DIALOG(window); });
+    return window ? GTK_DIALOG(window) : nullptr;
 }
 
 void press(GtkResponseType button)
@@ -68,7 +55,7 @@ TEST(LocationQuestion, isAnsweredWithAButtonOrByClosing)
             answer = isAllowed;
             ++answers;
         });
-        ASSERT_TRUE(eventuallyInLoop([] { return alert() != nullptr; }));
+        ASSERT_TRUE(until([] { return alert() != nullptr; }));
         EXPECT_EQ(answers, 0);
         char* text = nullptr;
         g_object_get(alert(), "text", &text, nullptr);
@@ -76,7 +63,7 @@ TEST(LocationQuestion, isAnsweredWithAButtonOrByClosing)
         g_free(text);
 
         decide();
-        EXPECT_TRUE(eventuallyInLoop([&] { return answers > 0 && !alert(); }));
+        EXPECT_TRUE(until([&] { return answers > 0 && !alert(); }));
         EXPECT_EQ(answer, isAllowed);
         EXPECT_EQ(answers, 1);
     }

@@ -1,19 +1,16 @@
 #include "platform/gtk/appkit/OpenURLQueue.h"
 
+#include "harness/MainLoop.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
 
-#include <glib.h>
 #include <gtest/gtest.h>
 
 namespace gtk {
 
+using desktop::runWaitingEvents;
+
 class OpenURLQueueTest : public testing::Test {
 protected:
-    void runWaitingEvents()
-    {
-        while (g_main_context_iteration(nullptr, FALSE)) { }
-    }
-
     MainLoopQueue mainQueue;
     bool isReady = false;
     std::vector<std::string> delivered;

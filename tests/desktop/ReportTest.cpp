@@ -1,6 +1,5 @@
 // Reports of the demo's pages, as somebody at the desktop saves and prints them.
 
-#include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
 #include "harness/SavedSettings.h"
 
@@ -55,15 +54,6 @@ protected:
         window->click(button->first - toTheLeft, button->second);
     }
 
-    [[nodiscard]] bool activate(AppProcess& app, const std::string& name)
-    {
-        std::optional<AccessibleObject> control;
-        return eventually([&] {
-            control = AccessibleObject::find(app.process().pid(), name);
-            return control.has_value();
-        }) && control->activate();
-    }
-
     // The tab keeps its process, and the engine one more for whatever comes next.
     [[nodiscard]] static bool endsItsProcess(const AppProcess& app)
     {
@@ -81,8 +71,7 @@ TEST_F(Report, isSavedFromThePage)
 {
     AppProcess app(service_);
     press(app);
-    EXPECT_TRUE(eventually(
-        [&] { return AccessibleObject::find(app.process().pid(), "Share…").has_value(); }));
+    EXPECT_TRUE(app.shows("Share…"));
 
     const auto file = downloads_ / "Velmaro report 2026-10.pdf";
     Process facts({"pdfinfo", "-url", file});
@@ -99,11 +88,8 @@ TEST_F(Report, thatCannotBeWrittenSaysWhyAndLeavesNothing)
     std::ofstream(downloads_) << "in the way";
     AppProcess app(service_);
     press(app);
-    EXPECT_TRUE(eventually([&] {
-        return AccessibleObject::find(app.process().pid(), "Couldn't save PDF: Not a directory")
-            .has_value();
-    }));
-    EXPECT_TRUE(activate(app, "OK"));
+    EXPECT_TRUE(app.shows("Couldn't save PDF: Not a directory"));
+    EXPECT_TRUE(app.press("OK"));
     EXPECT_TRUE(std::filesystem::is_regular_file(downloads_));
 }
 
@@ -113,7 +99,7 @@ TEST_F(Report, isPrintedOrNotAndTheWindowGoesOn)
     AppProcess app(service_);
     for (int times = 0; times < 2; ++times) {
         press(app, fromSaveToPrint);
-        ASSERT_TRUE(activate(app, "Cancel"));
+        ASSERT_TRUE(app.press("Cancel"));
         EXPECT_TRUE(endsItsProcess(app));
     }
     press(app, fromSaveToPrint);

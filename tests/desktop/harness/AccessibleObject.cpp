@@ -65,16 +65,6 @@ std::optional<AccessibleObject> AccessibleObject::find(int pid, const std::strin
     return {};
 }
 
-std::string AccessibleObject::role() const
-{
-    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
-        "org.a11y.atspi.Accessible", "GetRoleName");
-    const char* role = "";
-    if (answer)
-        g_variant_get(answer.get(), "(&s)", &role);
-    return role;
-}
-
 bool AccessibleObject::activate() const
 {
     const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),

@@ -15,8 +15,6 @@ public:
     // person would call the control. Absent while there is none on screen.
     static std::optional<AccessibleObject> find(int pid, const std::string& name);
 
-    std::string role() const;
-
     // Does what a click does. False when the object cannot be clicked.
     bool activate() const;
 
