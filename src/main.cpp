@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -99,5 +100,8 @@ int main(int argumentCount, char** arguments)
     platform.expectHost(service.serviceHost());
 
     velmaro::VelmaroOnlineApp app;
-    return app.run();
+    const int status = app.run();
+    if (platform.wantsRestart())
+        execvp(arguments[0], arguments);
+    return status;
 }
