@@ -15,6 +15,7 @@
 #include "platform/gtk/appkit/Workspace.h"
 #include "platform/gtk/corelocation/LocationQuestion.h"
 #include "platform/gtk/corelocation/LocationServices.h"
+#include "platform/gtk/diagnosis/Diagnosis.h"
 #include "platform/gtk/foundation/Files.h"
 #include "platform/gtk/foundation/MachineInfo.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
@@ -82,6 +83,16 @@ GtkPlatform::GtkPlatform(Options options)
 GtkPlatform::~GtkPlatform()
 {
     releaseSharedObjects();
+}
+
+int GtkPlatform::diagnose(const std::string& serviceOrigin)
+{
+    return Diagnosis::run({
+        .serviceOrigin = serviceOrigin,
+        .certificate = certificate_,
+        .downloads = files_->downloadsDirectory(false)->path(),
+        .renderer = rendererSafeguard_->choice(),
+    });
 }
 
 std::optional<std::string> GtkPlatform::trust(HostCertificate certificate)

@@ -48,6 +48,10 @@ public:
     // starts. To be called before the application runs.
     void expectHost(std::string host) { expectedHost_ = std::move(host); }
 
+    // Prints how this machine fits the program, and returns an exit status. To be called in place
+    // of running the application.
+    int diagnose(const std::string& serviceOrigin);
+
     // Whether the program should be started again, once the application has run.
     bool wantsRestart() const;
 
