@@ -7,6 +7,7 @@
 #include "platform/gtk/appkit/LostDisplay.h"
 #include "platform/gtk/appkit/MainWindow.h"
 #include "platform/gtk/appkit/MenuBar.h"
+#include "platform/gtk/appkit/RendererSafeguard.h"
 #include "platform/gtk/appkit/ShortcutsPanel.h"
 #include "platform/gtk/appkit/StandardCommands.h"
 #include "platform/gtk/appkit/TerminationSignals.h"
@@ -174,6 +175,9 @@ void Application::launchOnce()
     makeMenus();
     delegate_->applicationWillFinishLaunching(*this);
     makeWindow();
+    platform_.rendererSafeguard().watch(
+        [this] { return windows_.empty() ? nullptr : windows_.front().get(); },
+        platform_.webEngine());
     delegate_->applicationDidFinishLaunching(*this);
 }
 
@@ -264,6 +268,7 @@ void Application::finish()
         return;
     isFinished_ = true;
     platform::NotificationCenter::defaultCenter().post(willTerminateNotification, this);
+    platform_.rendererSafeguard().end();
     platform_.saveSettings();
 }
 
