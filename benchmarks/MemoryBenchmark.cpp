@@ -4,10 +4,10 @@
 #include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
 #include "harness/SavedSettings.h"
+#include "ProcessCost.h"
 
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <thread>
 #include <unistd.h>
 
@@ -17,27 +17,6 @@ namespace {
 
 constexpr auto timeForPage = std::chrono::seconds(2);
 constexpr auto rest = std::chrono::seconds(8);
-
-// Megabytes; 0 for a process that has gone.
-double memoryOf(pid_t process)
-{
-    std::ifstream file("/proc/" + std::to_string(process) + "/smaps_rollup");
-    std::string word;
-    while (file >> word) {
-        double kibibytes = 0;
-        if (word == "Pss:" && file >> kibibytes)
-            return kibibytes / 1024;
-    }
-    return 0;
-}
-
-double memoryOf(const Process& program)
-{
-    double sum = memoryOf(program.pid());
-    for (const auto process : program.descendants())
-        sum += memoryOf(process);
-    return sum;
-}
 
 void openTabs(AppProcess& app, int count)
 {

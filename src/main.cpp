@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -16,13 +17,17 @@ constexpr int usageError = 2;
 // The toolkit reads it in place of an address.
 constexpr auto serviceOption = "--gapplication-service";
 
+// Looks at what the program needs, for whoever helps its user.
+constexpr auto diagnoseOption = "--diagnose";
+
 constexpr auto help = R"(Usage: velmaro-online [ADDRESS]
 
 Opens Velmaro Online, or brings it forward where it runs already. ADDRESS is a
 page to show in it, such as velmaro://page/drives.
 
-  --help     Show this text
-  --version  Show the version
+  --diagnose  Tell how this computer fits the program
+  --help      Show this text
+  --version   Show the version
 
 VELMARO_SERVICE_ORIGIN       https origin of the web service
 VELMARO_CHECKOUT_HOSTS       the payment provider's two hosts, where they are others
@@ -57,7 +62,7 @@ int main(int argumentCount, char** arguments)
         std::puts("Velmaro Online " VELMARO_VERSION);
         return EXIT_SUCCESS;
     }
-    if (argument.starts_with("-") && argument != serviceOption)
+    if (argument.starts_with("-") && argument != serviceOption && argument != diagnoseOption)
         return fail("there is no option " + argument + "; --help tells which there are");
 
     // Texts for people follow the user's language; numbers, which stand in scripts and files, do
@@ -98,6 +103,12 @@ int main(int argumentCount, char** arguments)
     }
     platform.expectHost(service.serviceHost());
 
+    if (argument == diagnoseOption)
+        return platform.diagnose(service.serviceOrigin());
+
     velmaro::VelmaroOnlineApp app;
-    return app.run();
+    const int status = app.run();
+    if (platform.wantsRestart())
+        execvp(arguments[0], arguments);
+    return status;
 }

@@ -24,6 +24,7 @@ ui::Scene VelmaroOnlineApp::body() const
         .toolbarStyle = ui::WindowToolbarStyle::unified,
         .content = [] { return ui::View(AppRoot{}); },
         .commands = [this] { return commands(); },
+        .dockMenu = {"New Tab", "Log Fuel", "Log Charging Session"},
     };
 }
 

@@ -2,6 +2,7 @@
 
 #include "harness/AppProcess.h"
 #include "harness/FakeNotificationDaemon.h"
+#include "harness/InstalledProgram.h"
 #include "harness/SavedSettings.h"
 #include "harness/UserInput.h"
 
@@ -59,25 +60,6 @@ protected:
         return false;
     }
 
-    // Lets the session bus start the application, as an installed one is.
-    void install() const
-    {
-        const std::filesystem::path data = std::getenv("XDG_DATA_HOME");
-        const auto program = data / "start-velmaro";
-        std::filesystem::create_directories(data / "dbus-1/services");
-        std::ofstream script(program);
-        script << "#!/bin/sh\nexec env";
-        for (const auto& [name, value] : service.clientEnvironment())
-            script << " '" << name << '=' << value << '\'';
-        script << " " VELMARO_ONLINE " --gapplication-service\n";
-        script.close();
-        std::filesystem::permissions(program, std::filesystem::perms::owner_all);
-        std::ofstream(data / "dbus-1/services/example.velmaro.Online.service")
-            << "[D-BUS Service]\nName=" << busName << "\nExec=" << program.string() << '\n';
-        call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-            "ReloadConfig", nullptr);
-    }
-
     static void call(const char* destination, const char* path, const char* interface,
         const char* method, GVariant* arguments)
     {
@@ -132,7 +114,7 @@ TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsBackToItsPage)
 
 TEST_F(NotificationTest, aClickStartsTheApplicationAndLeadsToThePage)
 {
-    install();
+    installProgram(service);
     GVariantBuilder target;
     g_variant_builder_init(&target, G_VARIANT_TYPE("av"));
     g_variant_builder_add(

@@ -1,10 +1,10 @@
 // Newer versions of the application, from the demo service's feeds to the system's installer.
 
 #include "platform/gtk/sparkle/Updater.h"
-#include "harness/MainLoop.h"
-#include "harness/ShownWindow.h"
 
 #include "harness/DemoServiceProcess.h"
+#include "harness/MainLoop.h"
+#include "harness/ShownWindow.h"
 #include "platform/appkit/NSWorkspace.h"
 #include "platform/foundation/URL.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"

@@ -76,15 +76,18 @@ TEST_F(WebViewMessageTest, hugeAndTangledObjectsEndInTime)
 
 TEST_F(WebViewMessageTest, noMemberOfAMessageIsLostToAnother)
 {
-    for (const auto* message : {
-             "({list: new Array(2e5).fill(0), page: 'kept'})",
-             "({list: {deep: {list: new Array(2e5).fill({})}}, more: {}, page: 'kept'})",
-             "(() => { const o = {}; for (let i = 0; i < 2e5; ++i) o['m' + i] = i;"
-             " o.page = 'kept'; return o; })()",
-         }) {
+    const std::pair<const char*, std::size_t> table[] = {
+        {"({list: new Array(2e5).fill(0), page: 'kept'})", 2},
+        {"({list: {deep: {list: new Array(2e5).fill({})}}, more: {}, page: 'kept'})", 3},
+        {"(() => { const o = {}; for (let i = 0; i < 2e5; ++i) o['m' + i] = i;"
+         " o.page = 'kept'; return o; })()",
+            200'001},
+    };
+    for (const auto& [message, members] : table) {
         const auto value = valueOf(message);
         ASSERT_TRUE(value.member("page")) << message;
         EXPECT_EQ(*value.member("page"), "kept") << message;
+        EXPECT_EQ(value.object()->size(), members) << message;
     }
 }
 

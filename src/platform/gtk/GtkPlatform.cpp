@@ -8,13 +8,14 @@
 #include "platform/gtk/appkit/OffscreenWindow.h"
 #include "platform/gtk/appkit/OpenPanel.h"
 #include "platform/gtk/appkit/PlainView.h"
-#include "platform/gtk/appkit/RendererPolicy.h"
+#include "platform/gtk/appkit/RendererSafeguard.h"
 #include "platform/gtk/appkit/Screen.h"
 #include "platform/gtk/appkit/SharePanel.h"
 #include "platform/gtk/appkit/TextField.h"
 #include "platform/gtk/appkit/Workspace.h"
 #include "platform/gtk/corelocation/LocationQuestion.h"
 #include "platform/gtk/corelocation/LocationServices.h"
+#include "platform/gtk/diagnosis/Diagnosis.h"
 #include "platform/gtk/foundation/Files.h"
 #include "platform/gtk/foundation/MachineInfo.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
@@ -66,12 +67,12 @@ GtkPlatform::GtkPlatform(Options options)
     , machineInfo_(std::make_unique<MachineInfo>())
     , workspace_(std::make_unique<Workspace>())
     , alerts_(std::make_unique<AlertPresenter>())
+    , rendererSafeguard_(std::make_unique<RendererSafeguard>(standardPaths(), *mainQueue_))
 {
     settings_->whenChanged([] {
         platform::NotificationCenter::defaultCenter().post(
             platform::UserDefaults::didChangeNotification);
     });
-    chooseRenderer();
     // Desktops find the program's windows, and its desktop entry from them, by this name.
     g_set_prgname(options_.identifier.c_str());
     // Texts for people follow the user's language; numbers in scripts and files must not.
@@ -82,6 +83,16 @@ GtkPlatform::GtkPlatform(Options options)
 GtkPlatform::~GtkPlatform()
 {
     releaseSharedObjects();
+}
+
+int GtkPlatform::diagnose(const std::string& serviceOrigin)
+{
+    return Diagnosis::run({
+        .serviceOrigin = serviceOrigin,
+        .certificate = certificate_,
+        .downloads = files_->downloadsDirectory(false)->path(),
+        .renderer = rendererSafeguard_->choice(),
+    });
 }
 
 std::optional<std::string> GtkPlatform::trust(HostCertificate certificate)
@@ -259,23 +270,31 @@ void GtkPlatform::log(const std::string& line)
     g_log(programName, G_LOG_LEVEL_MESSAGE, "%s", line.c_str());
 }
 
+bool GtkPlatform::wantsRestart() const
+{
+    return rendererSafeguard_->wantsRestart();
+}
+
 WebEngine& GtkPlatform::webEngine()
 {
     if (!webEngine_)
-        webEngine_ =
-            std::make_unique<WebEngine>(standardPaths(), certificate_, hasGraphicsProcessor());
+        webEngine_ = std::make_unique<WebEngine>(
+            standardPaths(), certificate_, usesGraphicsProcessor(rendererSafeguard_->choice()));
     return *webEngine_;
 }
 
 std::optional<std::string> GtkPlatform::prepare()
 {
+    rendererSafeguard_->begin();
     // The check waits for a process, which the engine's own start need not wait for.
     auto& engine = webEngine();
     auto check =
         std::async(std::launch::async, [&engine] { return engine.missingSandboxHelper(); });
     engine.prepare(expectedHost_);
-    if (const auto missing = check.get())
+    if (const auto missing = check.get()) {
+        rendererSafeguard_->end();
         return "web pages cannot be shown without their sandbox: " + *missing;
+    }
     engine.startContentProcess();
     return std::nullopt;
 }

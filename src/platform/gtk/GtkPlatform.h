@@ -16,6 +16,7 @@ class GeocodingService;
 class LocationServices;
 class MachineInfo;
 class ProgramBundle;
+class RendererSafeguard;
 class ResponseCache;
 class SettingsFile;
 class SharePanel;
@@ -46,6 +47,13 @@ public:
     // Tells whose pages will be shown first, so that its address is looked up while the program
     // starts. To be called before the application runs.
     void expectHost(std::string host) { expectedHost_ = std::move(host); }
+
+    // Prints how this machine fits the program, and returns an exit status. To be called in place
+    // of running the application.
+    int diagnose(const std::string& serviceOrigin);
+
+    // Whether the program should be started again, once the application has run.
+    bool wantsRestart() const;
 
     MainLoopQueue& mainQueue() override;
     platform::UserDefaults& userDefaults() override;
@@ -86,6 +94,8 @@ public:
     // What all web views share; made on first use.
     WebEngine& webEngine();
 
+    RendererSafeguard& rendererSafeguard() { return *rendererSafeguard_; }
+
     UserNotificationCenter& notificationCenter();
 
     // Sets the web engine going while the window has yet to be made. Returns why the program cannot
@@ -113,6 +123,7 @@ private:
     std::unique_ptr<MachineInfo> machineInfo_;
     std::unique_ptr<Workspace> workspace_;
     std::unique_ptr<AlertPresenter> alerts_;
+    std::unique_ptr<RendererSafeguard> rendererSafeguard_;
     std::unique_ptr<Appearance> appearance_;
     std::unique_ptr<SharePanel> sharing_; // the one shown last
     std::optional<HostCertificate> certificate_;

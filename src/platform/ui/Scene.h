@@ -25,6 +25,11 @@ struct Scene {
     // The application's own items in the menu bar; evaluated again when a field that it has read
     // changes. May be absent.
     std::function<std::vector<CommandGroup>()> commands = {};
+
+    // Titles of those menu items that the desktop also offers beside the application's icon,
+    // whether it runs or not. Chosen there they act on a window of this scene, which is brought
+    // forward.
+    std::vector<std::string> dockMenu = {};
 };
 
 } // namespace ui

@@ -51,18 +51,43 @@ int processOf(const char* program)
 
 } // namespace
 
-std::optional<AccessibleObject> AccessibleObject::find(int pid, const std::string& name)
+std::vector<AccessibleObject> AccessibleObject::applications(int pid)
 {
     if (!accessibilityBus())
         return {};
     const AccessibleObject root({"org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"});
-    for (const auto& application : root.children()) {
-        if (processOf(application.address_.program.c_str()) != pid)
-            continue;
+    auto result = root.children();
+    std::erase_if(result, [pid](const auto& application) {
+        return processOf(application.address_.program.c_str()) != pid;
+    });
+    return result;
+}
+
+std::optional<AccessibleObject> AccessibleObject::find(int pid, const std::string& name)
+{
+    for (const auto& application : applications(pid)) {
         if (auto found = application.descendant(name))
             return found;
     }
     return {};
+}
+
+int AccessibleObject::count(int pid, const std::string& role)
+{
+    int sum = 0;
+    for (const auto& application : applications(pid))
+        sum += application.count(role);
+    return sum;
+}
+
+std::string AccessibleObject::role() const
+{
+    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
+        "org.a11y.atspi.Accessible", "GetRoleName");
+    const char* role = "";
+    if (answer)
+        g_variant_get(answer.get(), "(&s)", &role);
+    return role;
 }
 
 bool AccessibleObject::activate() const
@@ -128,6 +153,14 @@ std::optional<AccessibleObject> AccessibleObject::descendant(const std::string& 
             return found;
     }
     return {};
+}
+
+int AccessibleObject::count(const std::string& wanted) const
+{
+    int sum = role() == wanted && isVisible() ? 1 : 0;
+    for (const auto& child : children())
+        sum += child.count(wanted);
+    return sum;
 }
 
 } // namespace desktop

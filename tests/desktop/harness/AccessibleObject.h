@@ -15,6 +15,11 @@ public:
     // person would call the control. Absent while there is none on screen.
     static std::optional<AccessibleObject> find(int pid, const std::string& name);
 
+    // How many objects on screen have this role, such as "tab".
+    static int count(int pid, const std::string& role);
+
+    std::string role() const;
+
     // Does what a click does. False when the object cannot be clicked.
     bool activate() const;
 
@@ -33,6 +38,9 @@ private:
     bool isVisible() const;
     std::vector<AccessibleObject> children() const;
     std::optional<AccessibleObject> descendant(const std::string& name) const;
+    int count(const std::string& role) const;
+
+    static std::vector<AccessibleObject> applications(int pid);
 
     Address address_;
 };

@@ -3,10 +3,12 @@
 #include "platform/appkit/NSApplicationDelegate.h"
 #include "platform/appkit/NSWindowDescription.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/foundation/URL.h"
 #include "platform/gtk/appkit/FocusTracker.h"
 #include "platform/gtk/appkit/LostDisplay.h"
 #include "platform/gtk/appkit/MainWindow.h"
 #include "platform/gtk/appkit/MenuBar.h"
+#include "platform/gtk/appkit/RendererSafeguard.h"
 #include "platform/gtk/appkit/ShortcutsPanel.h"
 #include "platform/gtk/appkit/StandardCommands.h"
 #include "platform/gtk/appkit/TerminationSignals.h"
@@ -22,7 +24,15 @@ namespace gtk {
 
 namespace {
 constexpr double longestStart = 10; // seconds until a page that is still loading holds up nothing
+
+// "New Tab" is "NewTab" in the desktop entry, which also keeps it apart from the menu bar's own.
+std::string dockActionName(std::string title)
+{
+    std::erase(title, ' ');
+    return title;
 }
+
+} // namespace
 
 Application::Application(
     GtkPlatform& platform, const std::string& identifier, std::optional<std::string> address)
@@ -37,10 +47,8 @@ Application::Application(
               .shutdown = [this] { finish(); },
           })
     , address_(std::move(address))
-    , openURLQueue_(
-          platform.mainQueue(),
-          [this] { return !windows_.empty() && platform_.webEngine().isFrontPageReady(); },
-          [this](const platform::URL& url) { windows_.front()->openURL(url); })
+    , requests_(platform.mainQueue(),
+          [this] { return !windows_.empty() && platform_.webEngine().isFrontPageReady(); })
 {
 }
 
@@ -93,6 +101,8 @@ int Application::run(platform::NSApplicationDelegate& delegate, const ui::Scene&
 {
     delegate_ = &delegate;
     scene_ = &scene;
+    for (const auto& title : scene.dockMenu)
+        program_.addAction(dockActionName(title), [this, title] { chooseInDock(title); });
 
     const TerminationSignals signals([this] { terminate(); });
     const int status = program_.run(address_);
@@ -131,13 +141,11 @@ void Application::open(const std::vector<std::string>& addresses)
 {
     if (isTerminating_)
         return;
-    if (isLaunched_ && !windows_.empty())
-        windows_.front()->makeKeyAndOrderFront();
-    else if (isLaunched_)
-        makeWindow();
-    launchOnce();
-    for (const auto& address : addresses)
-        openURLQueue_.enqueue(address);
+    comeForward();
+    for (const auto& address : addresses) {
+        if (const auto url = platform::URL::fromString(address))
+            requests_.enqueue([this, url = *url] { windows_.front()->openURL(url); });
+    }
 }
 
 void Application::receiveNotificationClick(const Program::UserInfo& userInfo)
@@ -148,12 +156,34 @@ void Application::receiveNotificationClick(const Program::UserInfo& userInfo)
     platform_.notificationCenter().receiveClick(userInfo);
 }
 
+void Application::chooseInDock(const std::string& title)
+{
+    if (isTerminating_)
+        return;
+    comeForward();
+    requests_.enqueue([this, title] {
+        // The desktop may give the keyboard late, or to another window.
+        ui::FocusedScene::current().values = windows_.front()->focusedValues();
+        menuBar_->choose(title);
+        followFocus();
+    });
+}
+
 void Application::allowToComeForward(const std::string& activationToken)
 {
     if (activationToken.empty())
         return;
     for (auto* window : program_.windows())
         gtk_window_set_startup_id(window, activationToken.c_str());
+}
+
+void Application::comeForward()
+{
+    if (isLaunched_ && !windows_.empty())
+        windows_.front()->makeKeyAndOrderFront();
+    else if (isLaunched_)
+        makeWindow();
+    launchOnce();
 }
 
 void Application::launchOnce()
@@ -164,7 +194,7 @@ void Application::launchOnce()
     program_.hold(); // windows alone do not decide how long the program lives
     lostDisplay_ = std::make_unique<LostDisplay>([this] { finish(); });
     platform_.webEngine().signalFrontPageChanged().connect([this] {
-        openURLQueue_.update();
+        requests_.update();
         platform_.mainQueue().endStart();
     });
     platform_.mainQueue().asyncAfter(
@@ -174,6 +204,9 @@ void Application::launchOnce()
     makeMenus();
     delegate_->applicationWillFinishLaunching(*this);
     makeWindow();
+    platform_.rendererSafeguard().watch(
+        [this] { return windows_.empty() ? nullptr : windows_.front().get(); },
+        platform_.webEngine());
     delegate_->applicationDidFinishLaunching(*this);
 }
 
@@ -264,6 +297,7 @@ void Application::finish()
         return;
     isFinished_ = true;
     platform::NotificationCenter::defaultCenter().post(willTerminateNotification, this);
+    platform_.rendererSafeguard().end();
     platform_.saveSettings();
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/appkit/NSApplication.h"
-#include "platform/gtk/appkit/OpenURLQueue.h"
 #include "platform/gtk/appkit/Program.h"
+#include "platform/gtk/appkit/RequestQueue.h"
 #include "platform/ui/MenuMount.h"
 
 #include <optional>
@@ -44,7 +44,9 @@ private:
     void activate();
     void open(const std::vector<std::string>& addresses);
     void receiveNotificationClick(const Program::UserInfo& userInfo);
+    void chooseInDock(const std::string& title);
 
+    void comeForward();
     void launchOnce();
     void makeMenus();
     void perform(ui::StandardCommand command);
@@ -63,7 +65,7 @@ private:
     const ui::Scene* scene_ = nullptr;
 
     std::unique_ptr<LostDisplay> lostDisplay_;
-    OpenURLQueue openURLQueue_;
+    RequestQueue requests_;
     std::unique_ptr<FocusTracker> focus_;
     std::unique_ptr<MenuBar> menuBar_;
     std::unique_ptr<ui::MenuMount> menus_;

@@ -3,6 +3,7 @@
 #include "platform/appkit/NSWindowDelegate.h"
 #include "platform/appkit/NSWindowDescription.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/gtk/appkit/CloseRequests.h"
 #include "platform/gtk/appkit/PanelFrame.h"
 #include "platform/gtk/appkit/Screen.h"
 #include "platform/gtk/appkit/ScreenCoordinates.h"
@@ -185,6 +186,7 @@ void MainWindow::watchSurface()
     surface->signal_layout().connect([this](int, int) { checkExtent(); });
     surface->signal_enter_monitor().connect([this](const auto&) { checkExtent(); }, true);
     X11Window::onConfigured(*window_, [this] { checkExtent(); });
+    closeRequests_ = std::make_unique<CloseRequests>(surface->gobj(), [this] { close(); });
 }
 
 // A window that has come to another screen counts as resized, since it is measured against that one

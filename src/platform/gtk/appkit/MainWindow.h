@@ -15,6 +15,7 @@ struct NSWindowDescription;
 
 namespace gtk {
 
+class CloseRequests;
 class PanelFrame;
 
 // A window of the application: of its scene, or one beside those. It is made hidden.
@@ -87,6 +88,7 @@ private:
     std::unique_ptr<Gtk::ApplicationWindow> window_ = std::make_unique<Gtk::ApplicationWindow>();
     WindowContent content_;
     std::unique_ptr<PanelFrame> panelFrame_; // null in a window of the scene
+    std::unique_ptr<CloseRequests> closeRequests_; // null until the window is realized
     std::shared_ptr<platform::NSView> contentView_;
 
     platform::NSWindowDelegate* delegate_ = nullptr;

@@ -105,6 +105,12 @@ void MenuBar::show(std::vector<ui::Menu> menus)
         fill();
 }
 
+void MenuBar::choose(const std::string& title)
+{
+    if (entries_.contains(actionName(title)))
+        activate(actionName(title));
+}
+
 void MenuBar::update(const ui::MenuItem& item)
 {
     const auto name = actionName(item.title);

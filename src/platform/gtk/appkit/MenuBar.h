@@ -23,6 +23,10 @@ public:
     // Takes the place of what was shown before. The first call must come before the first window.
     void show(std::vector<ui::Menu> menus);
 
+    // Does what the item with this title says, as if it had been chosen. Nothing where there is
+    // none.
+    void choose(const std::string& title);
+
     const std::vector<ui::Menu>& menus() const { return menus_; }
 
 private:

@@ -116,6 +116,18 @@ int Program::run(std::optional<std::string> address)
         G_APPLICATION(object_), static_cast<int>(arguments.size()), arguments.data());
 }
 
+void Program::addAction(const std::string& name, std::function<void()> activated)
+{
+    const auto perform = +[](GSimpleAction* action, GVariant*, gpointer self) {
+        static_cast<Program*>(self)->actions_[g_action_get_name(G_ACTION(action))]();
+    };
+    actions_[name] = std::move(activated);
+    auto* action = g_simple_action_new(name.c_str(), nullptr);
+    g_signal_connect(action, "activate", G_CALLBACK(perform), this);
+    g_action_map_add_action(G_ACTION_MAP(object_), G_ACTION(action));
+    g_object_unref(action);
+}
+
 void Program::quit()
 {
     g_application_quit(G_APPLICATION(object_));

@@ -48,6 +48,10 @@ public:
     // called from inside. Returns the exit status.
     int run(std::optional<std::string> address);
 
+    // Adds an action of the application, for `run` to export. The desktop activates it by its name,
+    // and starts the program for it if need be: neither `activate` nor `open` is called then.
+    void addAction(const std::string& name, std::function<void()> activated);
+
     // Ends the main loop.
     void quit();
 
@@ -67,6 +71,7 @@ private:
     std::string identifier_;
     Handlers handlers_;
     GtkApplication* object_;
+    std::map<std::string, std::function<void()>> actions_;
 };
 
 } // namespace gtk

@@ -2,9 +2,10 @@
 
 namespace gtk {
 
-void FrontPage::shown(const void* view, bool isReady)
+void FrontPage::shown(const void* view, WebKitWebView* page, bool isReady)
 {
     view_ = view;
+    page_ = page;
     setReady(isReady);
 }
 
@@ -19,6 +20,7 @@ void FrontPage::hidden(const void* view)
     if (view_ != view)
         return;
     view_ = nullptr;
+    page_ = nullptr;
     setReady(false);
 }
 

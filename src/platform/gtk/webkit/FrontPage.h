@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sigc++/signal.h>
+#include <webkit/webkit.h>
 
 namespace gtk {
 
@@ -15,7 +16,10 @@ public:
     // After every change of `isReady`.
     sigc::signal<void()>& signalChanged() { return signalChanged_; }
 
-    void shown(const void* view, bool isReady);
+    // The engine's part of that view; null when none is shown.
+    WebKitWebView* page() const { return page_; }
+
+    void shown(const void* view, WebKitWebView* page, bool isReady);
     void readinessChanged(const void* view, bool isReady);
     void hidden(const void* view);
 
@@ -23,6 +27,7 @@ private:
     void setReady(bool isReady);
 
     const void* view_ = nullptr; // identity only
+    WebKitWebView* page_ = nullptr;
     bool isReady_ = false;
     sigc::signal<void()> signalChanged_;
 };

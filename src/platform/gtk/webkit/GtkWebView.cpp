@@ -138,7 +138,7 @@ platform::NSWindow* GtkWebView::window() const
 void GtkWebView::setShown(bool isShown)
 {
     if (isShown)
-        frontPage_->shown(this, keeper_.isReady());
+        frontPage_->shown(this, view_.get(), keeper_.isReady());
     else
         frontPage_->hidden(this);
     keeper_.setShown(isShown);

@@ -10,7 +10,11 @@ namespace gtk {
 // that never rests hold up the others. So a few share one.
 class ProcessSharing {
 public:
-    static constexpr std::size_t mostViews = 5; // in one process
+    static constexpr std::size_t mostViews = 5; // in one process at a time
+
+    // In one process over its life: what pages leave behind is given back only when it ends, which
+    // a process that always has a view left never does.
+    static constexpr std::size_t mostViewsEver = 20;
 
     // A view whose process one more can join; null when that has to start its own.
     WebKitWebView* companion() const;
@@ -21,9 +25,12 @@ public:
     void remove(WebKitWebView* view);
 
 private:
-    using Group = std::vector<WebKitWebView*>;
+    struct Group {
+        std::vector<WebKitWebView*> views; // never empty
+        std::size_t viewsEver = 1;
+    };
 
-    std::vector<Group> groups_; // none is empty
+    std::vector<Group> groups_;
 };
 
 } // namespace gtk

@@ -1,0 +1,78 @@
+// Whatever stands in front of the window, the program can be ended, and then its tabs are saved.
+
+#include "harness/ReportsPage.h"
+#include "harness/SavedCookies.h"
+#include "harness/SavedSettings.h"
+#include "harness/UserInput.h"
+
+#include <csignal>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+bool isOpen(const std::string& title)
+{
+    return eventually([&] { return Desktop::window(title).has_value(); });
+}
+
+struct Panel {
+    const char* name;
+    bool (*open)(AppProcess& app);
+};
+
+const Panel panels[] = {
+    {"print panel", [](auto& app) { return ReportsPage::pressPrint(app) && isOpen("Print"); }},
+    {"alert", [](auto& app) { return ReportsPage::pressSave(app) && app.shows("Share…"); }},
+    {"share panel",
+        [](auto& app) {
+            if (!ReportsPage::pressSave(app) || !app.shows("Share…"))
+                return false;
+            UserInput::press("Return");
+            return isOpen("Share");
+        }},
+    {"location picker",
+        [](auto& app) {
+            return app.waitForPage() && app.press("Find gas stations")
+                && app.shows("Use my current location");
+        }},
+};
+
+struct End {
+    const char* name;
+    void (*ask)(AppProcess& app);
+};
+
+const End ends[] = {
+    {"signal", [](auto& app) { app.process().signal(SIGTERM); }},
+    {"window manager", [](auto& app) { app.waitForWindow()->close(); }},
+};
+
+} // namespace
+
+TEST(Panels, doNotKeepTheProgram)
+{
+    // The other printers are looked for through services that are not on this desktop.
+    const std::filesystem::path folder = std::getenv("XDG_CONFIG_HOME");
+    std::filesystem::create_directories(folder / "gtk-4.0");
+    std::ofstream(folder / "gtk-4.0/settings.ini") << "[Settings]\ngtk-print-backends=file\n";
+    SavedCookies::signIn("Robin", "Alder");
+    DemoServiceProcess service;
+    for (const auto& panel : panels) {
+        for (const auto& end : ends) {
+            SCOPED_TRACE(std::string(panel.name) + ", " + end.name);
+            SavedSettings::write({{"vl.open.routes", {"reports", " fuel "}}, // to be tidied up
+                {"vl.onboarding.shown", true}});
+            SavedSettings::writePermissions({{"notificationsAllowed", false}});
+            AppProcess app(service);
+            ASSERT_TRUE(panel.open(app));
+            end.ask(app);
+            EXPECT_EQ(app.process().waitForExit(), 0);
+            EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"reports", "fuel"}));
+        }
+    }
+}
+
+} // namespace desktop

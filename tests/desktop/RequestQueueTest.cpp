@@ -1,0 +1,53 @@
+#include "platform/gtk/appkit/RequestQueue.h"
+
+#include "harness/MainLoop.h"
+#include "platform/gtk/foundation/MainLoopQueue.h"
+
+#include <gtest/gtest.h>
+
+namespace gtk {
+
+using desktop::runWaitingEvents;
+
+class RequestQueueTest : public testing::Test {
+protected:
+    void enqueue(const std::string& request)
+    {
+        queue.enqueue([this, request] { performed.push_back(request); });
+    }
+
+    MainLoopQueue mainQueue;
+    bool isReady = false;
+    std::vector<std::string> performed;
+    RequestQueue queue{mainQueue, [this] { return isReady; }};
+};
+
+TEST_F(RequestQueueTest, requestsWaitInOrderUntilTheyCanBePerformed)
+{
+    enqueue("drive 42");
+    enqueue("dashboard");
+    runWaitingEvents();
+    EXPECT_TRUE(performed.empty());
+
+    isReady = true;
+    queue.update();
+    queue.update();
+    runWaitingEvents();
+    EXPECT_EQ(performed, (std::vector<std::string>{"drive 42", "dashboard"}));
+}
+
+TEST_F(RequestQueueTest, requestsWaitAgainWhenThePageHasGone)
+{
+    isReady = true;
+    enqueue("fuel");
+    isReady = false;
+    runWaitingEvents();
+    EXPECT_TRUE(performed.empty());
+
+    isReady = true;
+    queue.update();
+    runWaitingEvents();
+    EXPECT_EQ(performed, (std::vector<std::string>{"fuel"}));
+}
+
+} // namespace gtk
