@@ -7,6 +7,7 @@
 #include "harness/SavedSettings.h"
 #include "harness/UserInput.h"
 
+#include <algorithm>
 #include <csignal>
 #include <gtest/gtest.h>
 
@@ -39,10 +40,12 @@ bool press(AppProcess& app, const std::string& name)
     return shows(app, name) && AccessibleObject::find(app.process().pid(), name)->activate();
 }
 
-void killWebProcesses(AppProcess& app)
+// That of the pages: the oldest. The engine keeps a spare one, and would load the page again in
+// that for it to die a second time, were both killed.
+void killWebProcess(AppProcess& app)
 {
-    for (const auto pid : app.webProcesses())
-        kill(pid, SIGKILL);
+    const auto processes = app.webProcesses();
+    kill(*std::ranges::min_element(processes), SIGKILL);
 }
 
 bool hasTabs(AppProcess& app, int count)
@@ -90,7 +93,7 @@ TEST_F(WebProcessDeath, atEveryStageLeavesAWindowThatIsUsable)
         ASSERT_TRUE(stage.reach(app));
         service.forgetRequests();
 
-        killWebProcesses(app);
+        killWebProcess(app);
 
         EXPECT_TRUE(isAskedFor(data + std::string(stage.route)));
         EXPECT_TRUE(!stage.leave || press(app, stage.leave));
