@@ -4,24 +4,49 @@
 #include <limits>
 #include <unistd.h>
 
-double memoryOf(pid_t process)
+namespace {
+
+// A figure of the kernel's about what a process has in memory, in megabytes.
+double figureOf(pid_t process, const char* name)
 {
     std::ifstream file("/proc/" + std::to_string(process) + "/smaps_rollup");
     std::string word;
     while (file >> word) {
         double kibibytes = 0;
-        if (word == "Pss:" && file >> kibibytes)
+        if (word == name && file >> kibibytes)
             return kibibytes / 1024;
     }
     return 0;
 }
 
+template <class Figure> double sumOver(const desktop::Process& program, Figure figure)
+{
+    double sum = figure(program.pid());
+    for (const auto process : program.descendants())
+        sum += figure(process);
+    return sum;
+}
+
+} // namespace
+
+double memoryOf(pid_t process)
+{
+    return figureOf(process, "Pss:");
+}
+
 double memoryOf(const desktop::Process& program)
 {
-    double sum = memoryOf(program.pid());
-    for (const auto process : program.descendants())
-        sum += memoryOf(process);
-    return sum;
+    return sumOver(program, [](pid_t process) { return memoryOf(process); });
+}
+
+double ownMemoryOf(pid_t process)
+{
+    return figureOf(process, "Anonymous:");
+}
+
+double ownMemoryOf(const desktop::Process& program)
+{
+    return sumOver(program, [](pid_t process) { return ownMemoryOf(process); });
 }
 
 std::chrono::milliseconds processorTimeOf(pid_t process)

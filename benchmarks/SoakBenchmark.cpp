@@ -7,7 +7,6 @@
 #include "harness/UserInput.h"
 #include "ProcessCost.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -31,19 +30,11 @@ struct Memory {
     double all = 0; // with the engine's processes
 };
 
-// The most that is seen in some seconds of rest: other programs, which come and go, only make a
-// process's share of what they have in common less.
+// After some seconds of rest.
 Memory sample(AppProcess& app)
 {
-    constexpr int looks = 20;
     std::this_thread::sleep_for(settleTime);
-    Memory most;
-    for (int look = 0; look < looks; ++look) {
-        std::this_thread::sleep_for(std::chrono::seconds(1));
-        most.program = std::max(most.program, memoryOf(app.process().pid()));
-        most.all = std::max(most.all, memoryOf(app.process()));
-    }
-    return most;
+    return {ownMemoryOf(app.process().pid()), ownMemoryOf(app.process())};
 }
 
 void printHeading(const char* unit)

@@ -58,6 +58,7 @@ constexpr Place places[] = {
     {"Rue de l'Étoile", "highway", "residential", "", "Fennel Park", 7.5, 4.26},
     {"Market Square", "highway", "secondary", "", "Millrace", -0.62, -8.4},
     {"Cobalt Road", "highway", "residential", "", "Tidewater", 5.46, -8.26},
+    {"Sailor's \"Half \\ Moon\"", "amenity", "pub", "Quayside", "Old Harbour", -0.08, -2.61},
     {"Market Hall", "amenity", "marketplace", "Rue de l'Étoile", "Fennel Park", 7.14, 3.92},
     {"Ellery Central Station", "railway", "station", "Ember Hill", "Saltmarsh", 5.88, -5.66},
     {"Northgate Station", "railway", "station", "Beacon Road", "Quarry Side", -10.72, -2.66},

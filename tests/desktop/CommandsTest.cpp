@@ -1,6 +1,5 @@
 // Menu items and their keys in the real window, with a page, with another window and with none.
 
-#include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
 #include "harness/Files.h"
 #include "harness/SavedCookies.h"
@@ -25,12 +24,6 @@ struct Commands : testing::Test {
         app.emplace(service);
         ASSERT_TRUE(app->waitForPage());
         service.forgetRequests();
-    }
-
-    bool loses(const std::string& name)
-    {
-        const int pid = app->process().pid();
-        return eventually([&] { return !AccessibleObject::find(pid, name); });
     }
 
     // Opens a menu with its key and chooses the item that is `steps` below the first one, which is
@@ -100,14 +93,14 @@ TEST_F(Commands, openFindAndCloseWithTheKeyboardAlone)
     UserInput::press("ctrl+g");
     EXPECT_TRUE(app->shows("Not found"));
     UserInput::press("Escape");
-    EXPECT_TRUE(loses("Next match (⌘G)"));
+    EXPECT_TRUE(app->loses("Next match (⌘G)"));
 
     UserInput::press("ctrl+t");
     ASSERT_TRUE(app->shows("New tab"));
     UserInput::press("ctrl+shift+bracketleft");
     UserInput::press("ctrl+shift+bracketright");
     UserInput::press("ctrl+w"); // that which was opened
-    EXPECT_TRUE(loses("New tab"));
+    EXPECT_TRUE(app->loses("New tab"));
     UserInput::press("ctrl+w");
     EXPECT_EQ(app->process().waitForExit(), 0);
     EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"drives"}));
@@ -136,7 +129,7 @@ TEST_F(Commands, leaveTheClipboardToWhoHasTheKeyboard)
     choose("alt+e", "Select All", 5);
     UserInput::press("ctrl+v"); // in place of all words
     UserInput::press("Return");
-    EXPECT_TRUE(loses("Not found"));
+    EXPECT_TRUE(app->loses("Not found"));
 }
 
 TEST_F(Commands, doNothingToTheTabsBehindAnotherWindow)

@@ -170,8 +170,13 @@ TEST_F(OffscreenWebViewTest, aProcessThatDiesUnderADocumentEndsItWithAReason)
     ASSERT_TRUE(ends("finished"));
     std::optional<gtk::PageDocument::Result> result;
     page->createPDF({}, [&](const auto& answer) { result = answer; });
+    const auto print = page->printOperation({});
+    std::optional<bool> isPrinted;
+    print->runOperation([&](auto&, bool success) { isPrinted = success; });
 
     webkit_web_view_terminate_web_process(page->native());
+
+    EXPECT_EQ(isPrinted, false) << "the panel is still there";
 
     EXPECT_TRUE(until([&] { return result.has_value(); }));
     EXPECT_TRUE(result && std::holds_alternative<platform::NSError>(*result));

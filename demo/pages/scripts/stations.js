@@ -16,7 +16,7 @@ const finder = ({ title, nothing, heads, row }) => ({
   heading: () => ({ title, subtitle: `Near ${finderPlace().label}` }),
   load: async () => {
     const here = finderPlace();
-    const { stations } = await api(`stations?kind=${_currentPage}&lat=${here.lat}&lng=${here.lng}`);
+    const { stations } = await api(`stations?kind=${_currentPage}&lat=${here.lat}&lng=${here.lng}&near=${encodeURIComponent(here.label)}`);
     return { here, stations: stations.slice(0, 12) };
   },
   render: ({ here, stations }) => {

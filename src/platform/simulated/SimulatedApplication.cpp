@@ -76,7 +76,7 @@ SimulatedWindow& SimulatedApplication::window(std::size_t index)
 
 SimulatedWindow& SimulatedApplication::simulateNewWindow()
 {
-    auto& window = simulateBareWindow({.title = scene_->title});
+    auto& window = simulateBareWindow({.title = scene_->title, .isOfScene = true});
     window.show(scene_->content());
     return window;
 }
@@ -159,7 +159,7 @@ void SimulatedApplication::windowClosed(SimulatedWindow& window)
 void SimulatedApplication::removeClosedWindows()
 {
     // The models that the last window owns still want to save.
-    if (windows_.empty() && delegate_
+    if (std::ranges::none_of(windows_, &SimulatedWindow::isOfScene) && delegate_
         && delegate_->applicationShouldTerminateAfterLastWindowClosed(*this))
         finish();
     closedWindows_.clear();

@@ -19,6 +19,8 @@ class SimulatedWindow final : public platform::NSWindow {
 public:
     struct Options {
         std::string title = {};
+        bool isOfScene =
+            false; // else one beside the scene's, which does not keep the program alive
         bool canBecomeMainWindow = true;
         bool hasContentView = true;
         std::shared_ptr<SimulatedWebView> offscreenView = {}; // for a window that no screen shows
@@ -39,6 +41,7 @@ public:
     }
     SimulatedRenderer& renderer() { return renderer_; }
     const std::string& title() const { return options_.title; }
+    bool isOfScene() const { return options_.isOfScene; }
 
     platform::NSScreen* screen() const override;
     bool isVisible() const override { return isVisible_; }

@@ -76,6 +76,11 @@ bool AppProcess::shows(const std::string& control) const
     return eventually([&] { return AccessibleObject::find(process_.pid(), control).has_value(); });
 }
 
+bool AppProcess::loses(const std::string& control) const
+{
+    return eventually([&] { return !AccessibleObject::find(process_.pid(), control); });
+}
+
 bool AppProcess::press(const std::string& control) const
 {
     std::optional<AccessibleObject> found;

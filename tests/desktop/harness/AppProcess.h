@@ -27,6 +27,9 @@ public:
     // Whether a control with this name comes to be on screen.
     [[nodiscard]] bool shows(const std::string& control) const;
 
+    // Whether there comes to be none.
+    [[nodiscard]] bool loses(const std::string& control) const;
+
     // Clicks on that control as soon as it is on screen. False when it does not come.
     [[nodiscard]] bool press(const std::string& control) const;
 

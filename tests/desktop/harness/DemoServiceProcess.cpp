@@ -82,6 +82,7 @@ std::vector<DemoServiceProcess::Request> DemoServiceProcess::requests() const
         result.push_back({
             .method = entry["method"],
             .path = entry["path"],
+            .query = entry["query"],
             .headers = entry["headers"],
             .status = entry["status"],
         });

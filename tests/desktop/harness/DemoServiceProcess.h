@@ -31,6 +31,7 @@ public:
     struct Request {
         std::string method;
         std::string path;
+        std::string query; // as sent, without the question mark
         std::map<std::string, std::string> headers; // some of them, by their lower-case names
         int status = 0;
     };

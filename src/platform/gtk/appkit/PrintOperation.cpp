@@ -83,6 +83,12 @@ void PrintOperation::showPanel(GtkWindow* parent)
     if (parent)
         panelSignals_->connect(parent, "hide",
             G_CALLBACK(+[](GtkWidget*, PrintOperation* self) { self->end(false); }), this);
+    // There is nothing left to print.
+    panelSignals_->connect(view_.get(), "web-process-terminated",
+        G_CALLBACK(+[](WebKitWebView*, WebKitWebProcessTerminationReason, PrintOperation* self) {
+            self->end(false);
+        }),
+        this);
     gtk_window_present(GTK_WINDOW(panel_.get()));
 }
 
