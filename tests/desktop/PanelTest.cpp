@@ -33,6 +33,13 @@ const Panel panels[] = {
             UserInput::press("Return");
             return isOpen("Share");
         }},
+    {"shortcuts window",
+        [](auto& app) {
+            if (!app.waitForPage())
+                return false;
+            UserInput::press("ctrl+question");
+            return eventually([] { return Desktop::windows().size() == 2; });
+        }},
     {"location picker",
         [](auto& app) {
             return app.waitForPage() && app.press("Find gas stations")

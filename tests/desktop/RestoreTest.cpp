@@ -19,9 +19,9 @@ const nlohmann::json tidyRoutes = {"drives", "vehicles", "fuel"};
 
 bool showsTheVehiclesPage(AppProcess& app, const DemoServiceProcess& service)
 {
-    return app.waitForPage() && service.requests("/online").size() == 1
-        && !service.requests("/online/api/vehicles").empty()
-        && service.requests("/online/api/fuel").empty();
+    return app.waitForPage()
+        && eventually([&] { return !service.requests("/online/api/vehicles").empty(); })
+        && service.requests("/online").size() == 1 && service.requests("/online/api/fuel").empty();
 }
 
 void closeWindow(AppProcess& app)
