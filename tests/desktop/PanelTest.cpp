@@ -32,14 +32,6 @@ struct Panel {
 
 const Panel panels[] = {
     {"print panel", [](auto& app) { return ReportsPage::pressPrint(app) && isOpen("Print"); }},
-    {"alert", [](auto& app) { return ReportsPage::pressSave(app) && shows(app, "Share…"); }},
-    {"share panel",
-        [](auto& app) {
-            if (!ReportsPage::pressSave(app) || !shows(app, "Share…"))
-                return false;
-            UserInput::press("Return");
-            return isOpen("Share");
-        }},
     {"shortcuts window",
         [](auto& app) {
             if (!app.waitForPage())
