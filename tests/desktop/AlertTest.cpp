@@ -1,24 +1,23 @@
-// Alerts as the user answers them: with the keyboard.
+// Alerts and questions as the user answers them.
 
 #include "harness/Desktop.h"
+#include "harness/ShownWindow.h"
 #include "harness/UserInput.h"
 #include "platform/gtk/appkit/AlertPresenter.h"
+#include "platform/gtk/corelocation/LocationPermission.h"
+#include "platform/gtk/corelocation/LocationQuestion.h"
 #include "webview/WebViewTest.h"
 
 namespace desktop {
 
 namespace {
 
+// Null while there is none that has the keyboard.
 GtkWidget* alertOnScreen()
 {
-    GListModel* windows = gtk_window_get_toplevels();
-    for (guint index = 0; index < g_list_model_get_n_items(windows); ++index) {
-        const gtk::ObjectPointer<GObject> shown(G_OBJECT(g_list_model_get_item(windows, index)));
-        if (GTK_IS_DIALOG(shown.get()) && gtk_widget_get_mapped(GTK_WIDGET(shown.get()))
-            && gtk_window_is_active(GTK_WINDOW(shown.get())))
-            return GTK_WIDGET(shown.get());
-    }
-    return nullptr;
+    return shownWindow([](GtkWidget* window) {
+        return GTK_IS_DIALOG(window) && gtk_window_is_active(GTK_WINDOW(window));
+    });
 }
 
 std::string messageOf(GtkWidget* alert)
@@ -26,6 +25,12 @@ std::string messageOf(GtkWidget* alert)
     g_autofree char* text = nullptr;
     g_object_get(alert, "text", &text, nullptr);
     return text;
+}
+
+void press(GtkResponseType button)
+{
+    auto* alert = GTK_DIALOG(alertOnScreen());
+    g_signal_emit_by_name(gtk_dialog_get_widget_for_response(alert, button), "clicked");
 }
 
 } // namespace
@@ -68,6 +73,35 @@ TEST(Alerts, takeTurnsAndAreAnsweredWithTheKeyboard)
         EXPECT_EQ(answers.back(), table[turn].answer);
     }
     EXPECT_TRUE(until([] { return Desktop::windows().empty(); }));
+}
+
+TEST(Alerts, askForTheLocationAndTakeAnyEndButAllowForANo)
+{
+    const auto application = Gtk::Application::create();
+    ASSERT_TRUE(gtk_init_check());
+    struct Case {
+        const char* name;
+        void (*decide)();
+        bool isAllowed;
+    };
+    const Case cases[] = {
+        {"allow", [] { press(GTK_RESPONSE_ACCEPT); }, true},
+        {"deny", [] { press(GTK_RESPONSE_REJECT); }, false},
+        {"close", [] { gtk_window_close(GTK_WINDOW(alertOnScreen())); }, false},
+        {"Escape", [] { UserInput::press("Escape"); }, false},
+    };
+    for (const auto& [name, decide, isAllowed] : cases) {
+        SCOPED_TRACE(name);
+        std::vector<bool> answers;
+        gtk::askForLocation([&](bool answer) { answers.push_back(answer); });
+        ASSERT_TRUE(until([] { return alertOnScreen() != nullptr; }));
+        EXPECT_TRUE(answers.empty());
+        EXPECT_EQ(messageOf(alertOnScreen()), gtk::LocationPermission::question);
+
+        decide();
+        EXPECT_TRUE(until([&] { return !answers.empty() && !alertOnScreen(); }));
+        EXPECT_EQ(answers, std::vector{isAllowed});
+    }
 }
 
 } // namespace desktop

@@ -1,17 +1,18 @@
 // Menu items and their keys in the real window, with a page, with another window and with none.
 
-#include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
+#include "harness/Files.h"
 #include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"
 #include "harness/UserInput.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
 
 namespace desktop {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 // The application of somebody who is signed in, with its page in the window and the keyboard.
 struct Commands : testing::Test {
@@ -25,32 +26,12 @@ struct Commands : testing::Test {
         service.forgetRequests();
     }
 
-    bool isThere(const std::string& name)
-    {
-        return AccessibleObject::find(app->process().pid(), name).has_value();
-    }
-
-    bool shows(const std::string& name)
-    {
-        return eventually([&] { return isThere(name); });
-    }
-
-    bool loses(const std::string& name)
-    {
-        return eventually([&] { return !isThere(name); });
-    }
-
-    bool isAsked(const std::string& path)
-    {
-        return eventually([&] { return !service.requests(path).empty(); });
-    }
-
     // Opens a menu with its key and chooses the item that is `steps` below the first one, which is
     // above the last one for less than 0.
     void choose(const std::string& menu, const std::string& item, int steps)
     {
         UserInput::press(menu);
-        ASSERT_TRUE(shows(item));
+        ASSERT_TRUE(app->shows(item));
         for (int step = 0; step < std::abs(steps); ++step)
             UserInput::press(steps > 0 ? "Down" : "Up");
         UserInput::press("Return");
@@ -65,17 +46,8 @@ std::string filesThatTellOf(const std::string& text)
 {
     std::string found;
     for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
-        const auto folder = std::filesystem::path(std::getenv(variable)) / "velmaro-online";
-        std::error_code error; // files come and go meanwhile
-        for (std::filesystem::recursive_directory_iterator file(folder, error), end;
-             !error && file != end; file.increment(error)) {
-            if (!file->is_regular_file(error))
-                continue;
-            std::ifstream stream(file->path(), std::ios::binary);
-            const std::string contents(std::istreambuf_iterator<char>(stream), {});
-            if (contents.find(text) != std::string::npos)
-                found += file->path().string() + "\n";
-        }
+        for (const auto& file : filesBelow(fs::path(std::getenv(variable)) / "velmaro-online"))
+            found += contentsOf(file).find(text) != std::string::npos ? file.string() + "\n" : "";
     }
     return found;
 }
@@ -102,33 +74,33 @@ TEST_F(Commands, reachThePageWhileItHasTheKeyboard)
     for (const auto& [keys, request] : cases) {
         service.forgetRequests();
         UserInput::press(keys);
-        EXPECT_TRUE(isAsked(request)) << keys;
+        EXPECT_TRUE(service.isAsked(request)) << keys;
     }
 
     choose("alt+h", "What's New", 0);
-    EXPECT_TRUE(shows("What’s new"));
+    EXPECT_TRUE(app->shows("What’s new"));
     choose("alt+h", "Velmaro Help Center", 1);
-    EXPECT_TRUE(shows("Help center"));
+    EXPECT_TRUE(app->shows("Help center"));
     choose("alt+h", "Support Tickets", 2);
-    EXPECT_TRUE(shows("Support"));
+    EXPECT_TRUE(app->shows("Support"));
 }
 
 TEST_F(Commands, openFindAndCloseWithTheKeyboardAlone)
 {
     UserInput::press("ctrl+f");
-    ASSERT_TRUE(shows("Next match (⌘G)"));
+    ASSERT_TRUE(app->shows("Next match (⌘G)"));
     UserInput::type("no such words");
     UserInput::press("ctrl+g");
-    EXPECT_TRUE(shows("Not found"));
+    EXPECT_TRUE(app->shows("Not found"));
     UserInput::press("Escape");
-    EXPECT_TRUE(loses("Next match (⌘G)"));
+    EXPECT_TRUE(app->loses("Next match (⌘G)"));
 
     UserInput::press("ctrl+t");
-    ASSERT_TRUE(shows("New tab"));
+    ASSERT_TRUE(app->shows("New tab"));
     UserInput::press("ctrl+shift+bracketleft");
     UserInput::press("ctrl+shift+bracketright");
     UserInput::press("ctrl+w"); // that which was opened
-    EXPECT_TRUE(loses("New tab"));
+    EXPECT_TRUE(app->loses("New tab"));
     UserInput::press("ctrl+w");
     EXPECT_EQ(app->process().waitForExit(), 0);
     EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"drives"}));
@@ -147,17 +119,17 @@ TEST_F(Commands, rememberTheZoomAndTheRestoringOfTabs)
 TEST_F(Commands, leaveTheClipboardToWhoHasTheKeyboard)
 {
     UserInput::press("ctrl+f");
-    ASSERT_TRUE(shows("Next match (⌘G)"));
+    ASSERT_TRUE(app->shows("Next match (⌘G)"));
     UserInput::type("Drives");
     UserInput::press("ctrl+a");
     UserInput::press("ctrl+x");
     UserInput::type("no such words");
     UserInput::press("Return");
-    ASSERT_TRUE(shows("Not found"));
+    ASSERT_TRUE(app->shows("Not found"));
     choose("alt+e", "Select All", 5);
     UserInput::press("ctrl+v"); // in place of all words
     UserInput::press("Return");
-    EXPECT_TRUE(loses("Not found"));
+    EXPECT_TRUE(app->loses("Not found"));
 }
 
 TEST_F(Commands, doNothingToTheTabsBehindAnotherWindow)
@@ -182,12 +154,12 @@ TEST_F(Commands, doNothingToTheTabsBehindAnotherWindow)
 TEST_F(Commands, clearAllDataLeavesOneTabOnTheWelcomePageAndNothingOfTheUser)
 {
     UserInput::press("ctrl+t");
-    ASSERT_TRUE(shows("New tab"));
+    ASSERT_TRUE(app->shows("New tab"));
     ASSERT_TRUE(eventually([] { return filesThatTellOf("Robin").size() > 0; }));
 
     const auto ask = [this] {
         choose("alt+h", "Clear All Cache…", -2);
-        ASSERT_TRUE(shows("Clear all cached data?"));
+        ASSERT_TRUE(app->shows("Clear all cached data?"));
     };
     ask();
     UserInput::press("Escape");
@@ -197,7 +169,7 @@ TEST_F(Commands, clearAllDataLeavesOneTabOnTheWelcomePageAndNothingOfTheUser)
 
     ask();
     UserInput::press("Return");
-    EXPECT_TRUE(isAsked("/online/welcome.php"));
+    EXPECT_TRUE(service.isAsked("/online/welcome.php"));
     EXPECT_TRUE(app->waitForPage());
     EXPECT_TRUE(eventually([] { return filesThatTellOf("Robin").empty(); }))
         << filesThatTellOf("Robin");

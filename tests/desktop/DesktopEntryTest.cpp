@@ -30,11 +30,6 @@ protected:
         EXPECT_EQ(process.waitForExit(), 0) << process.errors();
     }
 
-    bool isAsked(const std::string& path)
-    {
-        return eventually([&] { return !service.requests(path).empty(); });
-    }
-
     // Closes the main window. Whether the application has saved so many tabs then.
     static bool closeWithTabs(std::size_t count)
     {
@@ -59,11 +54,11 @@ TEST_F(DesktopEntry, actionsStartTheApplicationAndWaitInOrder)
     installProgram(service);
     choose("NewTab");
     choose("LogFuel");
-    EXPECT_TRUE(isAsked("/online/api/fuel"));
+    EXPECT_TRUE(service.isAsked("/online/api/fuel"));
     EXPECT_TRUE(closeWithTabs(2));
 
     choose("LogChargingSession");
-    EXPECT_TRUE(isAsked("/online/api/charging"));
+    EXPECT_TRUE(service.isAsked("/online/api/charging"));
     EXPECT_TRUE(closeWithTabs(2));
 }
 
@@ -75,8 +70,8 @@ TEST_F(DesktopEntry, actionsReachTheMainWindowBehindAnotherOne)
     ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 2; }));
     for (const auto& action : entry->get_string_list("Desktop Entry", "Actions"))
         choose(action);
-    EXPECT_TRUE(isAsked("/online/api/fuel"));
-    EXPECT_TRUE(isAsked("/online/api/charging"));
+    EXPECT_TRUE(service.isAsked("/online/api/fuel"));
+    EXPECT_TRUE(service.isAsked("/online/api/charging"));
     app.process().signal(SIGTERM);
     EXPECT_EQ(app.process().waitForExit(), 0);
     EXPECT_EQ(SavedSettings::read()["vl.open.routes"].size(), 2u);

@@ -1,5 +1,6 @@
 // Files that pages offer, from the server to the user's folder.
 
+#include "harness/Files.h"
 #include "platform/gtk/GtkPlatform.h"
 #include "web/Coordinator.h"
 #include "web/DownloadList.h"
@@ -13,13 +14,6 @@ namespace desktop {
 namespace {
 
 using State = velmaro::DownloadItem::State;
-
-std::string contentsOf(const std::filesystem::path& path)
-{
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
 
 // Makes the folder the one for downloads, as a user does who has set up the desktop so.
 void setDownloadsFolder(const std::filesystem::path& folder)

@@ -1,8 +1,8 @@
 // Where the computer is, from the services of the desktop.
 
-#include "harness/Eventually.h"
 #include "harness/FakeGeoClue.h"
 #include "harness/FakeLocationPortal.h"
+#include "harness/MainLoop.h"
 #include "platform/corelocation/CLLocationManagerDelegate.h"
 #include "platform/gtk/corelocation/LocationServices.h"
 #include "platform/gtk/corelocation/ServiceLocation.h"
@@ -26,15 +26,6 @@ using Places = std::vector<FakeGeoClue::Place>;
 
 constexpr auto noService = "This computer has no location service.";
 constexpr auto noAnswer = "The location service does not answer.";
-
-// Turns the main loop until the condition holds.
-bool eventuallyInLoop(const std::function<bool()>& condition)
-{
-    return eventually([&] {
-        while (g_main_context_iteration(nullptr, FALSE)) { }
-        return condition();
-    });
-}
 
 // Notes what a manager tells.
 struct Listener final : platform::CLLocationManagerDelegate {
@@ -106,7 +97,7 @@ protected:
         manager.setDelegate(&listener);
         manager.requestLocation();
         EXPECT_EQ(listener.answers, 0) << "answered at once";
-        EXPECT_TRUE(eventuallyInLoop([&] { return listener.answers > 0; }));
+        EXPECT_TRUE(until([&] { return listener.answers > 0; }));
         manager.setDelegate(nullptr);
         return listener;
     }
@@ -146,6 +137,7 @@ TEST_F(LocationTest, aRequestEndsWhateverGeoClueDoes)
     allow();
     const auto services = makeServices();
     const auto manager = services->makeManager();
+    EXPECT_EQ(request(*manager).failure, noService);
     for (const auto& expected : cases) {
         SCOPED_TRACE(&expected - cases);
         FakeGeoClue geoClue(expected.manner, expected.places);
@@ -154,17 +146,9 @@ TEST_F(LocationTest, aRequestEndsWhateverGeoClueDoes)
         EXPECT_EQ(heard.failure, expected.failure);
         // The desktop must not go on showing that the location is in use.
         if (expected.manner != Manner::staysSilent) {
-            EXPECT_TRUE(
-                eventuallyInLoop([&] { return contains(geoClue.calls(), "DeleteClient"); }));
+            EXPECT_TRUE(until([&] { return contains(geoClue.calls(), "DeleteClient"); }));
         }
     }
-}
-
-TEST_F(LocationTest, aComputerWithoutGeoClueSaysSo)
-{
-    allow();
-    const auto services = makeServices();
-    EXPECT_EQ(request(*services->makeManager()).failure, noService);
 }
 
 TEST_F(LocationTest, geoClueLearnsWhoAsksAndHowExactly)
@@ -199,10 +183,10 @@ TEST_F(LocationTest, aSecondRequestJoinsTheFirst)
     Listener listener;
     manager->setDelegate(&listener);
     manager->requestLocation();
-    ASSERT_TRUE(eventuallyInLoop([&] { return contains(geoClue.calls(), "Start"); }));
+    ASSERT_TRUE(until([&] { return contains(geoClue.calls(), "Start"); }));
     manager->requestLocation();
     geoClue.tell({1, 10, 50});
-    EXPECT_TRUE(eventuallyInLoop([&] { return listener.answers > 0; }));
+    EXPECT_TRUE(until([&] { return listener.answers > 0; }));
     EXPECT_EQ(std::ranges::count(geoClue.calls(), "CreateClient"), 1);
 }
 
@@ -215,9 +199,9 @@ TEST_F(LocationTest, droppingTheManagerEndsTheRequest)
     Listener listener;
     manager->setDelegate(&listener);
     manager->requestLocation();
-    ASSERT_TRUE(eventuallyInLoop([&] { return contains(geoClue.calls(), "Start"); }));
+    ASSERT_TRUE(until([&] { return contains(geoClue.calls(), "Start"); }));
     manager.reset();
-    EXPECT_TRUE(eventuallyInLoop([&] { return contains(geoClue.calls(), "DeleteClient"); }));
+    EXPECT_TRUE(until([&] { return contains(geoClue.calls(), "DeleteClient"); }));
     EXPECT_EQ(listener.answers, 0);
 }
 
@@ -239,7 +223,7 @@ TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)
             first->requestWhenInUseAuthorization();
             second->requestWhenInUseAuthorization();
             EXPECT_EQ(questions, 0) << "asked inside the call";
-            ASSERT_TRUE(eventuallyInLoop([&] { return questions > 0; }));
+            ASSERT_TRUE(until([&] { return questions > 0; }));
             EXPECT_TRUE(firstListener.statuses.empty());
 
             answer(isAllowed);
@@ -252,7 +236,7 @@ TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)
         const auto services = makeServices();
         const auto manager = services->makeManager();
         manager->requestWhenInUseAuthorization();
-        while (g_main_context_iteration(nullptr, FALSE)) { }
+        runWaitingEvents();
         EXPECT_EQ(manager->authorizationStatus(), expected);
         EXPECT_EQ(questions, 1);
         gtk::SettingsFile onDisk(file, queue, [](const auto& line) { ADD_FAILURE() << line; });
@@ -265,7 +249,7 @@ TEST_F(LocationTest, anAnswerAfterTheEndIsNotHeard)
 {
     auto services = makeServices();
     services->makeManager()->requestWhenInUseAuthorization();
-    ASSERT_TRUE(eventuallyInLoop([&] { return questions > 0; }));
+    ASSERT_TRUE(until([&] { return questions > 0; }));
     services.reset();
     answer(true);
     EXPECT_FALSE(settings.contains(gtk::LocationPermission::key));
@@ -306,7 +290,7 @@ TEST_F(LocationTest, insideASandboxThePortalDecides)
         EXPECT_EQ(latitudes(heard.locations), expected.latitudes);
         EXPECT_EQ(heard.failure, expected.failure);
         EXPECT_TRUE(contains(portal.calls(), "accuracy=4"));
-        EXPECT_TRUE(eventuallyInLoop([&] { return contains(portal.calls(), "Close"); }));
+        EXPECT_TRUE(until([&] { return contains(portal.calls(), "Close"); }));
     }
     EXPECT_EQ(questions, 0);
 }

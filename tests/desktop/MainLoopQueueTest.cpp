@@ -1,5 +1,7 @@
 #include "platform/gtk/foundation/MainLoopQueue.h"
 
+#include "harness/MainLoop.h"
+
 #include <glib.h>
 #include <gtest/gtest.h>
 #include <numeric>
@@ -8,20 +10,8 @@
 
 namespace gtk {
 
-namespace {
-
-void runLoopUntil(const bool& isDone)
-{
-    while (!isDone)
-        g_main_context_iteration(nullptr, TRUE);
-}
-
-void runWaitingEvents()
-{
-    while (g_main_context_iteration(nullptr, FALSE)) { }
-}
-
-} // namespace
+using desktop::runWaitingEvents;
+using desktop::until;
 
 TEST(MainLoopQueue, tasksRunInTheirOrderAndNotBeforeTheCurrentEventIsHandled)
 {
@@ -75,7 +65,7 @@ TEST(MainLoopQueue, tasksOfAnotherThreadRunOnThisOneInTheirOrder)
             });
         }
     });
-    runLoopUntil(isDone);
+    ASSERT_TRUE(until([&] { return isDone; }));
     other.join();
 
     std::vector<int> expected(count);
@@ -97,7 +87,7 @@ TEST(MainLoopQueue, laterTasksRunAndNeverEarly)
             isDone = ++count == 4;
         });
     }
-    runLoopUntil(isDone);
+    ASSERT_TRUE(until([&] { return isDone; }));
     EXPECT_FALSE(isEarly);
 }
 
@@ -107,12 +97,11 @@ TEST(MainLoopQueue, tasksGoOnWhileOneOfThemWaitsInALoopOfItsOwn)
     bool isAlertClosed = false;
     bool hasReturned = false;
     queue.async([&] {
-        runLoopUntil(isAlertClosed);
+        EXPECT_TRUE(until([&] { return isAlertClosed; }));
         hasReturned = true;
     });
     queue.async([&] { isAlertClosed = true; });
-    runLoopUntil(hasReturned);
-    EXPECT_TRUE(isAlertClosed);
+    EXPECT_TRUE(until([&] { return hasReturned; }));
 }
 
 TEST(MainLoopQueue, waitingTasksAreDroppedWithTheQueue)

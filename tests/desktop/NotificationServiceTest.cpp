@@ -1,7 +1,7 @@
 // The desktop's services that show notifications.
 
-#include "harness/Eventually.h"
 #include "harness/FakeNotificationDaemon.h"
+#include "harness/MainLoop.h"
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
 #include "platform/gtk/usernotifications/PortalNotifications.h"
 
@@ -65,7 +65,7 @@ protected:
             outcome = error ? error->localizedDescription : std::string();
         });
         EXPECT_FALSE(outcome) << "told inside the call";
-        EXPECT_TRUE(inLoop([&] { return outcome.has_value(); }));
+        EXPECT_TRUE(until([&] { return outcome.has_value(); }));
         return outcome;
     }
 
@@ -75,15 +75,7 @@ protected:
         const auto bus = Gio::DBus::Connection::get_sync(Gio::DBus::BusType::SESSION);
         bus->call_sync(
             "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetId", {}, "org.freedesktop.DBus");
-        while (g_main_context_iteration(nullptr, FALSE)) { }
-    }
-
-    static bool inLoop(const std::function<bool()>& condition)
-    {
-        return eventually([&] {
-            while (g_main_context_iteration(nullptr, FALSE)) { }
-            return condition();
-        });
+        runWaitingEvents();
     }
 
     std::vector<Click> clicks;
@@ -153,7 +145,7 @@ TEST_F(NotificationServiceTest, aClickTellsWhatTheNotificationCarries)
     daemon.click(shown[1].number);
     daemon.click(shown[1].number); // gone
     daemon.click(shown[0].number);
-    EXPECT_TRUE(inLoop([&] { return clicks.size() == 2; }));
+    EXPECT_TRUE(until([&] { return clicks.size() == 2; }));
     EXPECT_EQ(clicks, (std::vector<Click>{{{{"key", "2"}}, "token"}, {{{"key", "3"}}, "token"}}));
 }
 

@@ -1,6 +1,5 @@
 // What pages have to tell, from the service's page to the desktop's notifications and back.
 
-#include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
 #include "harness/FakeNotificationDaemon.h"
 #include "harness/InstalledProgram.h"
@@ -36,28 +35,12 @@ protected:
         return nlohmann::json::parse(file, nullptr, false);
     }
 
-    bool isAsked(const std::string& path) const
-    {
-        return eventually([&] { return !service.requests(path).empty(); });
-    }
-
-    // Signs in on the page that asks for it, whose first control does that.
-    static void signIn(const DesktopWindow& window)
-    {
-        const auto frame = window.frame();
-        UserInput::click(frame.x + frame.width / 2, frame.y + frame.height - 40);
-        UserInput::press("Tab");
-        UserInput::press("Return");
-    }
-
     // Answers the alert, whose first button is "Allow", as soon as it takes keys.
     static bool allow(AppProcess& app)
     {
-        const bool isAsked = eventually(
-            [&] { return AccessibleObject::find(app.process().pid(), "Allow").has_value(); });
         const nlohmann::json allowed = {{"notificationsAllowed", true}};
         const auto isAllowed = [&] { return savedPermissions() == allowed; };
-        return isAsked && eventually([&] {
+        return app.shows("Allow") && eventually([&] {
             UserInput::press("Return");
             return eventually(isAllowed, std::chrono::seconds(1));
         });
@@ -102,7 +85,7 @@ TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsBackToItsPage)
         AppProcess app(service);
         ASSERT_TRUE(app.waitForPage());
         const auto window = *app.waitForWindow();
-        signIn(window);
+        app.pressFirstControlOfPage(); // signs in
         ASSERT_TRUE(allow(app));
         ASSERT_TRUE(pressReminder(daemon));
 
@@ -121,7 +104,7 @@ TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsBackToItsPage)
 
         service.forgetRequests();
         daemon.click(first.number);
-        EXPECT_TRUE(isAsked("/online/api/vehicles"));
+        EXPECT_TRUE(service.isAsked("/online/api/vehicles"));
         window.close();
         EXPECT_EQ(app.process().waitForExit(), 0);
     }
@@ -139,7 +122,7 @@ TEST_F(NotificationTest, aClickStartsTheApplicationAndLeadsToThePage)
     call(busName, busPath, "org.freedesktop.Application", "ActivateAction",
         g_variant_new("(sava{sv})", "notification", &target, nullptr));
 
-    EXPECT_TRUE(isAsked("/online/api/fuel"));
+    EXPECT_TRUE(service.isAsked("/online/api/fuel"));
     const auto window = Desktop::window("Velmaro Online");
     ASSERT_TRUE(window);
     window->close();

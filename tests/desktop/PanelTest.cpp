@@ -1,6 +1,5 @@
 // Whatever stands in front of the window, the program can be ended, and then its tabs are saved.
 
-#include "harness/AccessibleObject.h"
 #include "harness/ReportsPage.h"
 #include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"
@@ -14,12 +13,6 @@ namespace desktop {
 
 namespace {
 
-bool shows(AppProcess& app, const std::string& name)
-{
-    return eventually(
-        [&] { return AccessibleObject::find(app.process().pid(), name).has_value(); });
-}
-
 bool isOpen(const std::string& title)
 {
     return eventually([&] { return Desktop::window(title).has_value(); });
@@ -32,6 +25,14 @@ struct Panel {
 
 const Panel panels[] = {
     {"print panel", [](auto& app) { return ReportsPage::pressPrint(app) && isOpen("Print"); }},
+    {"alert", [](auto& app) { return ReportsPage::pressSave(app) && app.shows("Share…"); }},
+    {"share panel",
+        [](auto& app) {
+            if (!ReportsPage::pressSave(app) || !app.shows("Share…"))
+                return false;
+            UserInput::press("Return");
+            return isOpen("Share");
+        }},
     {"shortcuts window",
         [](auto& app) {
             if (!app.waitForPage())
@@ -41,9 +42,8 @@ const Panel panels[] = {
         }},
     {"location picker",
         [](auto& app) {
-            return app.waitForPage() && shows(app, "Find gas stations")
-                && AccessibleObject::find(app.process().pid(), "Find gas stations")->activate()
-                && shows(app, "Use my current location");
+            return app.waitForPage() && app.press("Find gas stations")
+                && app.shows("Use my current location");
         }},
 };
 

@@ -1,7 +1,6 @@
 // The location picker in the real window, from the pills of the toolbar to the page that gets the
 // place.
 
-#include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
 #include "harness/FakeGeoClue.h"
 #include "harness/SavedCookies.h"
@@ -31,25 +30,8 @@ struct Places : testing::Test {
         environment["VELMARO_GEOCODER"] = service.origin();
         app.emplace(std::vector<std::string>(), environment);
         ASSERT_TRUE(app->waitForPage());
-        ASSERT_TRUE(shows(gasPill));
+        ASSERT_TRUE(app->shows(gasPill));
     }
-
-    std::optional<AccessibleObject> control(const std::string& name)
-    {
-        return AccessibleObject::find(app->process().pid(), name);
-    }
-
-    bool shows(const std::string& name)
-    {
-        return eventually([&] { return control(name).has_value(); });
-    }
-
-    bool loses(const std::string& name)
-    {
-        return eventually([&] { return !control(name); });
-    }
-
-    bool press(const std::string& name) { return shows(name) && control(name)->activate(); }
 
     // Whether the page looks for something around a place, as its address says.
     bool looksAround(const std::string& query)
@@ -69,51 +51,51 @@ struct Places : testing::Test {
 
 TEST_F(Places, areTypedChosenAndHandedToThePageAsTheyAreCalled)
 {
-    ASSERT_TRUE(press(gasPill));
-    ASSERT_TRUE(shows(currentLocation));
+    ASSERT_TRUE(app->press(gasPill));
+    ASSERT_TRUE(app->shows(currentLocation));
     UserInput::type("sailor");
-    ASSERT_TRUE(shows("Sailor's \"Half \\ Moon\", Quayside, Ellery, Ellery Islands"));
+    ASSERT_TRUE(app->shows("Sailor's \"Half \\ Moon\", Quayside, Ellery, Ellery Islands"));
     UserInput::press("Return");
     EXPECT_TRUE(looksAround("kind=gas&"));
     EXPECT_TRUE(looksAround("near=Sailor%27s%20%22Half%20%5C%20Moon%22%20%E2%80%94%20Quayside"));
-    EXPECT_TRUE(loses("Clear"));
+    EXPECT_TRUE(app->loses("Clear"));
 
-    ASSERT_TRUE(press(chargingPill));
-    ASSERT_TRUE(shows(currentLocation));
+    ASSERT_TRUE(app->press(chargingPill));
+    ASSERT_TRUE(app->shows(currentLocation));
     UserInput::type("harbour");
-    EXPECT_TRUE(press("Harbour Parade, Ellery, Ellery Islands"));
+    EXPECT_TRUE(app->press("Harbour Parade, Ellery, Ellery Islands"));
     EXPECT_TRUE(looksAround("kind=evstations&"));
     EXPECT_TRUE(looksAround("near=Harbour%20Parade%20%E2%80%94%20Ellery"));
 }
 
 TEST_F(Places, mayBeWhereTheComputerIs)
 {
-    ASSERT_TRUE(press(trafficPill));
-    ASSERT_TRUE(press(currentLocation));
+    ASSERT_TRUE(app->press(trafficPill));
+    ASSERT_TRUE(app->press(currentLocation));
     EXPECT_TRUE(looksAround("kind=traffic&lat=47.25&lng=-31.5&"));
-    EXPECT_TRUE(loses(currentLocation));
+    EXPECT_TRUE(app->loses(currentLocation));
 }
 
 TEST_F(Places, areForgottenByClearEscapeAndTheirPill)
 {
-    ASSERT_TRUE(press(gasPill));
-    ASSERT_TRUE(shows(currentLocation));
+    ASSERT_TRUE(app->press(gasPill));
+    ASSERT_TRUE(app->shows(currentLocation));
     UserInput::type("harbour");
-    ASSERT_TRUE(loses(currentLocation));
-    ASSERT_TRUE(press("Clear"));
-    EXPECT_TRUE(shows(currentLocation));
+    ASSERT_TRUE(app->loses(currentLocation));
+    ASSERT_TRUE(app->press("Clear"));
+    EXPECT_TRUE(app->shows(currentLocation));
     UserInput::type("quay"); // the field has the keyboard again
-    EXPECT_TRUE(loses(currentLocation));
+    EXPECT_TRUE(app->loses(currentLocation));
     UserInput::press("Escape");
-    EXPECT_TRUE(loses("Clear"));
+    EXPECT_TRUE(app->loses("Clear"));
 
-    ASSERT_TRUE(press(gasPill));
-    ASSERT_TRUE(shows(currentLocation));
-    ASSERT_TRUE(press(trafficPill)); // switches
-    EXPECT_TRUE(
-        shows("Search for an address or use your location to see traffic alerts in the area."));
-    ASSERT_TRUE(press(trafficPill)); // closes
-    EXPECT_TRUE(loses(currentLocation));
+    ASSERT_TRUE(app->press(gasPill));
+    ASSERT_TRUE(app->shows(currentLocation));
+    ASSERT_TRUE(app->press(trafficPill)); // switches
+    EXPECT_TRUE(app->shows(
+        "Search for an address or use your location to see traffic alerts in the area."));
+    ASSERT_TRUE(app->press(trafficPill)); // closes
+    EXPECT_TRUE(app->loses(currentLocation));
     EXPECT_TRUE(service.requests("/online/api/stations").empty());
 }
 

@@ -1,6 +1,5 @@
 // Whatever breaks under a page, the way ends on the page again.
 
-#include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
 #include "harness/PrivateNetwork.h"
 #include "harness/SavedCookies.h"
@@ -33,23 +32,8 @@ protected:
     ~Recovery() override { EXPECT_EQ(SavedSettings::read()["vl.user.identity"], identity); }
 };
 
-bool showsTryAgain(AppProcess& app)
-{
-    return eventually(
-        [&] { return AccessibleObject::find(app.process().pid(), "Try Again").has_value(); });
-}
-
-void tryAgain(AppProcess& app)
-{
-    const auto button = AccessibleObject::find(app.process().pid(), "Try Again");
-    ASSERT_TRUE(button);
-    EXPECT_TRUE(button->activate());
-}
-
-bool hasLoaded(const DemoServiceProcess& service, std::size_t times)
-{
-    return eventually([&] { return service.requests("/online/api/drives").size() >= times; });
-}
+constexpr auto tryAgain = "Try Again";
+constexpr auto drives = "/online/api/drives";
 
 void killWebProcess(AppProcess& app)
 {
@@ -68,15 +52,15 @@ TEST_F(Recovery, aWebProcessThatDiesIsReplacedOnceAndThenOnRequest)
     ASSERT_TRUE(app.waitForPage());
 
     killWebProcess(app);
-    EXPECT_TRUE(hasLoaded(service, 2));
+    EXPECT_TRUE(service.isAsked(drives, 2));
     EXPECT_TRUE(app.waitForPage());
 
     killWebProcess(app);
-    EXPECT_TRUE(showsTryAgain(app));
-    EXPECT_EQ(service.requests("/online/api/drives").size(), 2u);
+    EXPECT_TRUE(app.shows(tryAgain));
+    EXPECT_EQ(service.requests(drives).size(), 2u);
 
-    tryAgain(app);
-    EXPECT_TRUE(hasLoaded(service, 3));
+    EXPECT_TRUE(app.press(tryAgain));
+    EXPECT_TRUE(service.isAsked(drives, 3));
     EXPECT_TRUE(app.waitForPage());
 }
 
@@ -87,12 +71,12 @@ TEST_F(Recovery, aServiceThatIsDownEndsOnThePageWhenAskedAgain)
     service.stop();
 
     AppProcess app(service);
-    EXPECT_TRUE(showsTryAgain(app));
+    EXPECT_TRUE(app.shows(tryAgain));
     EXPECT_EQ(SavedSettings::read()["vl.user.identity"], identity);
 
     DemoServiceProcess again({.port = port});
-    tryAgain(app);
-    EXPECT_TRUE(hasLoaded(again, 1));
+    EXPECT_TRUE(app.press(tryAgain));
+    EXPECT_TRUE(again.isAsked(drives));
     EXPECT_TRUE(app.waitForPage());
 }
 
@@ -106,11 +90,11 @@ TEST_F(Recovery, startingOfflineEndsOnThePageWhenTheNetworkComesBack)
     network.disconnect();
 
     AppProcess app(service);
-    EXPECT_TRUE(showsTryAgain(app));
+    EXPECT_TRUE(app.shows(tryAgain));
     EXPECT_EQ(SavedSettings::read()["vl.user.identity"], identity);
 
     network.connect();
-    EXPECT_TRUE(hasLoaded(service, 1));
+    EXPECT_TRUE(service.isAsked(drives));
     EXPECT_TRUE(app.waitForPage());
 }
 

@@ -1,6 +1,5 @@
 // Reports of the demo's pages, as somebody at the desktop saves and prints them.
 
-#include "harness/AccessibleObject.h"
 #include "harness/ReportsPage.h"
 #include "harness/SavedSettings.h"
 
@@ -22,15 +21,6 @@ protected:
         std::ofstream(folder / "gtk-4.0/settings.ini") << "[Settings]\ngtk-print-backends=file\n";
     }
 
-    [[nodiscard]] bool activate(AppProcess& app, const std::string& name)
-    {
-        std::optional<AccessibleObject> control;
-        return eventually([&] {
-            control = AccessibleObject::find(app.process().pid(), name);
-            return control.has_value();
-        }) && control->activate();
-    }
-
     // The tab keeps its process, and the engine one more for whatever comes next.
     [[nodiscard]] static bool endsItsProcess(const AppProcess& app)
     {
@@ -48,8 +38,7 @@ TEST_F(Report, isSavedFromThePage)
 {
     AppProcess app(service_);
     ASSERT_TRUE(ReportsPage::pressSave(app));
-    EXPECT_TRUE(eventually(
-        [&] { return AccessibleObject::find(app.process().pid(), "Share…").has_value(); }));
+    EXPECT_TRUE(app.shows("Share…"));
 
     const auto file = downloads_ / "Velmaro report 2026-10.pdf";
     Process facts({"pdfinfo", "-url", file});
@@ -66,11 +55,8 @@ TEST_F(Report, thatCannotBeWrittenSaysWhyAndLeavesNothing)
     std::ofstream(downloads_) << "in the way";
     AppProcess app(service_);
     ASSERT_TRUE(ReportsPage::pressSave(app));
-    EXPECT_TRUE(eventually([&] {
-        return AccessibleObject::find(app.process().pid(), "Couldn't save PDF: Not a directory")
-            .has_value();
-    }));
-    EXPECT_TRUE(activate(app, "OK"));
+    EXPECT_TRUE(app.shows("Couldn't save PDF: Not a directory"));
+    EXPECT_TRUE(app.press("OK"));
     EXPECT_TRUE(std::filesystem::is_regular_file(downloads_));
 }
 
@@ -79,7 +65,7 @@ TEST_F(Report, isNotPrintedAndTheWindowGoesOn)
     AppProcess app(service_);
     for (int times = 0; times < 2; ++times) {
         ASSERT_TRUE(ReportsPage::pressPrint(app));
-        ASSERT_TRUE(activate(app, "Cancel"));
+        ASSERT_TRUE(app.press("Cancel"));
         EXPECT_TRUE(endsItsProcess(app));
     }
 }

@@ -1,22 +1,19 @@
 #include "platform/gtk/appkit/RequestQueue.h"
 
+#include "harness/MainLoop.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
 
-#include <glib.h>
 #include <gtest/gtest.h>
 
 namespace gtk {
+
+using desktop::runWaitingEvents;
 
 class RequestQueueTest : public testing::Test {
 protected:
     void enqueue(const std::string& request)
     {
         queue.enqueue([this, request] { performed.push_back(request); });
-    }
-
-    void runWaitingEvents()
-    {
-        while (g_main_context_iteration(nullptr, FALSE)) { }
     }
 
     MainLoopQueue mainQueue;

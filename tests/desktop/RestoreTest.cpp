@@ -24,13 +24,6 @@ bool showsTheVehiclesPage(AppProcess& app, const DemoServiceProcess& service)
         && service.requests("/online").size() == 1 && service.requests("/online/api/fuel").empty();
 }
 
-struct Ending {
-    const char* name;
-    void (*end)(AppProcess&);
-
-    friend void PrintTo(const Ending& ending, std::ostream* stream) { *stream << ending.name; }
-};
-
 void closeWindow(AppProcess& app)
 {
     if (const auto window = app.waitForWindow())
@@ -42,53 +35,38 @@ template <int number> void sendSignal(AppProcess& app)
     app.process().signal(number);
 }
 
-constexpr Ending orderlyEndings[] = {
-    {"closingTheWindow", closeWindow},
-    {"SIGTERM", sendSignal<SIGTERM>},
-    {"SIGINT", sendSignal<SIGINT>},
-    {"SIGHUP", sendSignal<SIGHUP>},
-};
-
 } // namespace
 
-class Restore : public testing::TestWithParam<Ending> { };
-
-TEST_P(Restore, tabsComeBackAfterAnOrderlyEnd)
+TEST(Restore, tabsAreSavedAtAnOrderlyEndAndComeBackAfterAnyEnd)
 {
+    struct Case {
+        const char* name;
+        void (*end)(AppProcess&);
+        bool isOrderly;
+    };
+    const Case cases[] = {
+        {"kill", sendSignal<SIGKILL>, false},
+        {"closed window", closeWindow, true},
+        {"SIGTERM", sendSignal<SIGTERM>, true},
+        {"SIGINT", sendSignal<SIGINT>, true},
+        {"SIGHUP", sendSignal<SIGHUP>, true},
+    };
     DemoServiceProcess service;
-    SavedSettings::write(untidyTabs);
-    {
+    for (const auto& [name, end, isOrderly] : cases) {
+        SCOPED_TRACE(name);
+        SavedSettings::write(untidyTabs);
+        service.forgetRequests();
         AppProcess app(service);
         EXPECT_TRUE(showsTheVehiclesPage(app, service));
-        GetParam().end(app);
-        EXPECT_EQ(app.process().waitForExit(), 0);
+        end(app);
+        EXPECT_EQ(app.process().waitForExit(), isOrderly ? 0 : -SIGKILL);
+        const auto& routes = isOrderly ? tidyRoutes : untidyTabs["vl.open.routes"];
+        EXPECT_EQ(SavedSettings::read()["vl.open.routes"], routes);
+        EXPECT_EQ(SavedSettings::read()["vl.open.routes.active"], 1);
     }
-    EXPECT_EQ(SavedSettings::read()["vl.open.routes"], tidyRoutes);
-    EXPECT_EQ(SavedSettings::read()["vl.open.routes.active"], 1);
-
     service.forgetRequests();
-    AppProcess app(service);
-    EXPECT_TRUE(showsTheVehiclesPage(app, service));
-}
-
-INSTANTIATE_TEST_SUITE_P(, Restore, testing::ValuesIn(orderlyEndings),
-    [](const auto& test) { return std::string(test.param.name); });
-
-TEST(RestoreAfterKill, whatWasSavedBeforeComesBack)
-{
-    DemoServiceProcess service;
-    SavedSettings::write(untidyTabs);
-    {
-        AppProcess app(service);
-        EXPECT_TRUE(showsTheVehiclesPage(app, service));
-        sendSignal<SIGKILL>(app);
-        EXPECT_EQ(app.process().waitForExit(), -SIGKILL);
-    }
-    EXPECT_EQ(SavedSettings::read()["vl.open.routes"], untidyTabs["vl.open.routes"]);
-
-    service.forgetRequests();
-    AppProcess app(service);
-    EXPECT_TRUE(showsTheVehiclesPage(app, service));
+    AppProcess next(service);
+    EXPECT_TRUE(showsTheVehiclesPage(next, service));
 }
 
 } // namespace desktop

@@ -1,9 +1,10 @@
 // How the desktop session ends, and what the application makes of it.
 
 #include "harness/AppProcess.h"
+#include "harness/FakeService.h"
 #include "harness/SavedSettings.h"
 
-#include <gio/gio.h>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <X11/Xlib.h>
 
@@ -25,94 +26,54 @@ nlohmann::json savedRoutes()
     return SavedSettings::read()["vl.open.routes"];
 }
 
-// The application asks the session manager below while it starts.
-void answerCalls()
-{
-    while (g_main_context_iteration(nullptr, FALSE)) { }
-}
-
-// Whether its window is there, and so its tabs.
-bool isUp()
-{
-    return eventually([] {
-        answerCalls();
-        return !Desktop::windows().empty();
-    });
-}
-
 // The desktop's session manager, which asks its clients before it ends the session.
-class SessionManager {
+class SessionManager final : public FakeService {
 public:
     SessionManager()
-        : bus_(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr))
+        : FakeService("DBUS_SESSION_BUS_ADDRESS", "org.gnome.SessionManager")
     {
-        publish(managerPath,
+        start();
+    }
+    ~SessionManager() override { stop(); }
+
+    bool isCalled(const std::string& method, std::ptrdiff_t times = 1) const
+    {
+        return eventually([&] { return std::ranges::count(calls(), method) >= times; });
+    }
+
+    void tellClient(const char* signal)
+    {
+        invoke([this, signal] {
+            emit(clientPath, "org.gnome.SessionManager.ClientPrivate", signal,
+                g_variant_new("(u)", 0));
+        });
+    }
+
+private:
+    static constexpr auto clientPath = "/org/gnome/SessionManager/Client1";
+
+    void registerObjects() override
+    {
+        registerObject("/org/gnome/SessionManager",
             "<node><interface name='org.gnome.SessionManager'>"
             "<method name='RegisterClient'><arg type='s' direction='in'/>"
             "<arg type='s' direction='in'/><arg type='o' direction='out'/></method>"
             "<method name='UnregisterClient'><arg type='o' direction='in'/></method>"
             "</interface></node>");
-        publish(clientPath,
+        registerObject(clientPath,
             "<node><interface name='org.gnome.SessionManager.ClientPrivate'>"
             "<method name='EndSessionResponse'><arg type='b' direction='in'/>"
             "<arg type='s' direction='in'/></method>"
             "<signal name='QueryEndSession'><arg type='u'/></signal>"
-            "<signal name='EndSession'><arg type='u'/></signal>"
-            "<signal name='CancelEndSession'/></interface></node>");
-        name_ = g_bus_own_name_on_connection(bus_, "org.gnome.SessionManager",
-            G_BUS_NAME_OWNER_FLAGS_NONE, nullptr, nullptr, nullptr, nullptr);
+            "<signal name='EndSession'><arg type='u'/></signal></interface></node>");
     }
 
-    ~SessionManager()
+    void handle(const std::string& method, GVariant*, GDBusMethodInvocation* call) override
     {
-        g_bus_unown_name(name_);
-        for (const auto object : objects_)
-            g_dbus_connection_unregister_object(bus_, object);
-        g_object_unref(bus_);
-    }
-
-    bool waitForCall(const std::string& method)
-    {
-        return eventually([&] {
-            answerCalls();
-            return std::erase(calls_, method) > 0;
-        });
-    }
-
-    void tellClient(const char* signal, GVariant* arguments)
-    {
-        g_dbus_connection_emit_signal(bus_, nullptr, clientPath,
-            "org.gnome.SessionManager.ClientPrivate", signal, arguments, nullptr);
-        g_dbus_connection_flush_sync(bus_, nullptr, nullptr);
-    }
-
-private:
-    static constexpr auto managerPath = "/org/gnome/SessionManager";
-    static constexpr auto clientPath = "/org/gnome/SessionManager/Client1";
-
-    void publish(const char* path, const char* description)
-    {
-        static constexpr GDBusInterfaceVTable functions{
-            .method_call = answer, .get_property = nullptr, .set_property = nullptr, .padding = {}};
-        auto* node = g_dbus_node_info_new_for_xml(description, nullptr);
-        objects_.push_back(g_dbus_connection_register_object(
-            bus_, path, node->interfaces[0], &functions, this, nullptr, nullptr));
-        g_dbus_node_info_unref(node);
-    }
-
-    static void answer(GDBusConnection*, const gchar*, const gchar*, const gchar*,
-        const gchar* method, GVariant*, GDBusMethodInvocation* call, gpointer self)
-    {
-        static_cast<SessionManager*>(self)->calls_.emplace_back(method);
-        const bool isRegistration = std::string(method) == "RegisterClient";
+        note(method);
         g_dbus_method_invocation_return_value(
-            call, isRegistration ? g_variant_new("(o)", clientPath) : nullptr);
+            call, method == "RegisterClient" ? g_variant_new("(o)", clientPath) : nullptr);
     }
-
-    GDBusConnection* bus_;
-    std::vector<guint> objects_;
-    guint name_ = 0;
-    std::vector<std::string> calls_; // not yet waited for
 };
 
 // An X server of its own, to be taken away from under the application.
@@ -137,16 +98,16 @@ TEST(SessionEnd, theTabsAreSavedWhenTheSessionEnds)
     saveUntidyRoutes();
     SessionManager manager;
     AppProcess app;
-    ASSERT_TRUE(manager.waitForCall("RegisterClient"));
-    ASSERT_TRUE(isUp());
+    ASSERT_TRUE(manager.isCalled("RegisterClient"));
+    ASSERT_TRUE(app.waitForWindow());
 
-    manager.tellClient("QueryEndSession", g_variant_new("(u)", 0));
-    ASSERT_TRUE(manager.waitForCall("EndSessionResponse"));
+    manager.tellClient("QueryEndSession");
+    ASSERT_TRUE(manager.isCalled("EndSessionResponse"));
     EXPECT_EQ(savedRoutes(), untidyRoutes) << "the user may still call it off";
 
-    manager.tellClient("EndSession", g_variant_new("(u)", 0));
-    ASSERT_TRUE(manager.waitForCall("EndSessionResponse"));
-    EXPECT_TRUE(manager.waitForCall("UnregisterClient"));
+    manager.tellClient("EndSession");
+    ASSERT_TRUE(manager.isCalled("EndSessionResponse", 2));
+    EXPECT_TRUE(manager.isCalled("UnregisterClient"));
     EXPECT_EQ(app.process().waitForExit(), 0);
     EXPECT_EQ(savedRoutes(), tidyRoutes);
 }
@@ -169,7 +130,7 @@ TEST(SessionEnd, aWindowThatIsKilledSavesNothing)
 {
     saveUntidyRoutes();
     AppProcess app;
-    ASSERT_TRUE(isUp());
+    ASSERT_TRUE(app.waitForWindow());
     const auto windows = Desktop::windows();
     ASSERT_EQ(windows.size(), 1u);
 

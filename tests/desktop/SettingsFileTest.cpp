@@ -1,10 +1,11 @@
 #include "platform/gtk/foundation/SettingsFile.h"
 
+#include "harness/Files.h"
+#include "harness/MainLoop.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
 
 #include <csignal>
 #include <fstream>
-#include <glib.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <sys/resource.h>
@@ -15,6 +16,8 @@ namespace gtk {
 
 namespace {
 
+using desktop::contentsOf;
+using desktop::until;
 using Json = nlohmann::json;
 using Strings = std::vector<std::string>;
 
@@ -22,12 +25,6 @@ platform::Data bytes(std::string_view text)
 {
     const auto* first = reinterpret_cast<const std::byte*>(text.data());
     return {first, first + text.size()};
-}
-
-std::string contentsOf(const std::filesystem::path& path)
-{
-    std::ifstream file(path);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 ino_t inodeOf(const std::filesystem::path& path)
@@ -66,17 +63,6 @@ protected:
     {
         std::filesystem::create_directories(path.parent_path());
         std::ofstream(path) << text;
-    }
-
-    // Gives background work the time it needs.
-    template <class Condition> bool eventually(Condition condition)
-    {
-        const auto deadline = g_get_monotonic_time() + 5 * G_USEC_PER_SEC;
-        while (!condition() && g_get_monotonic_time() < deadline) {
-            g_main_context_iteration(nullptr, FALSE);
-            g_usleep(1000);
-        }
-        return condition();
     }
 
     Json stored() const { return Json::parse(contentsOf(path), nullptr, false); }
@@ -213,7 +199,7 @@ TEST_F(SettingsFileTest, aTurnOfTheMainLoopWritesWithoutBeingAsked)
 {
     settings->setInteger("active", 1);
     EXPECT_FALSE(std::filesystem::exists(path));
-    EXPECT_TRUE(eventually([&] { return stored() == Json{{"active", 1}}; }));
+    EXPECT_TRUE(until([&] { return stored() == Json{{"active", 1}}; }));
 }
 
 TEST_F(SettingsFileTest, changesDuringAWriteAreWrittenToo)
@@ -222,7 +208,7 @@ TEST_F(SettingsFileTest, changesDuringAWriteAreWrittenToo)
         settings->setInteger("active", i);
         g_main_context_iteration(nullptr, FALSE);
     }
-    EXPECT_TRUE(eventually([&] { return stored() == Json{{"active", 49}}; }));
+    EXPECT_TRUE(until([&] { return stored() == Json{{"active", 49}}; }));
 }
 
 TEST_F(SettingsFileTest, settingWhatIsSetWritesNothing)
@@ -248,7 +234,7 @@ TEST_F(SettingsFileTest, aFullDiskLosesNothing)
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &tiny), 0);
     for (int i = 2; i < 10; ++i)
         settings->setInteger("active", i);
-    const bool isLogged = eventually([&] { return !log.empty(); });
+    const bool isLogged = until([&] { return !log.empty(); });
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &previous), 0);
 
     EXPECT_TRUE(isLogged);

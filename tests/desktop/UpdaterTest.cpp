@@ -3,6 +3,8 @@
 #include "platform/gtk/sparkle/Updater.h"
 
 #include "harness/DemoServiceProcess.h"
+#include "harness/MainLoop.h"
+#include "harness/ShownWindow.h"
 #include "platform/appkit/NSWorkspace.h"
 #include "platform/foundation/URL.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
@@ -22,14 +24,6 @@ namespace {
 
 namespace files = std::filesystem;
 
-bool eventuallyInLoop(const std::function<bool()>& condition)
-{
-    return eventually([&] {
-        while (g_main_context_iteration(nullptr, FALSE)) { }
-        return condition();
-    });
-}
-
 // Notes what it would open.
 struct Workspace final : platform::NSWorkspace {
     void open(const platform::URL& url) override { opened.push_back(url.path()); }
@@ -41,14 +35,7 @@ struct Workspace final : platform::NSWorkspace {
 // The updater's window; null while it is not on the screen.
 GtkWidget* window()
 {
-    GListModel* windows = gtk_window_get_toplevels();
-    for (guint index = 0; index < g_list_model_get_n_items(windows); ++index) {
-        auto* found = static_cast<GtkWidget*>(g_list_model_get_item(windows, index));
-        g_object_unref(found); // the list keeps it
-        if (gtk_widget_get_mapped(found))
-            return found;
-    }
-    return nullptr;
+    return shownWindow([](GtkWidget*) { return true; });
 }
 
 // All texts of labels, and the button that is called `title`.
@@ -75,7 +62,7 @@ std::string texts()
 
 bool shows(const std::string& text)
 {
-    return eventuallyInLoop([&] { return texts().find(text) != std::string::npos; });
+    return until([&] { return texts().find(text) != std::string::npos; });
 }
 
 void press(const std::string& title)
@@ -89,7 +76,7 @@ void press(const std::string& title)
 
 bool closes()
 {
-    return eventuallyInLoop([] { return !window(); });
+    return until([] { return !window(); });
 }
 
 } // namespace
@@ -246,7 +233,7 @@ TEST_F(UpdaterTest, aCancelledDownloadLeavesNothingBehind)
     ASSERT_TRUE(shows("is available"));
     press("Install");
     ASSERT_TRUE(shows("Downloading update"));
-    EXPECT_TRUE(eventuallyInLoop([&] { return hasPackage(); }));
+    EXPECT_TRUE(until([&] { return hasPackage(); }));
     press("Cancel");
     EXPECT_TRUE(closes());
     EXPECT_FALSE(hasPackage());
@@ -282,7 +269,7 @@ TEST_F(UpdaterTest, looksByItselfWhenAllowedOnceADayAndNotForASkippedVersion)
     const auto asked = [&] { return service.requests("/demo/updates/newer/appcast.xml").size(); };
     auto updater = makeUpdater(feed("newer"));
     updater->start(); // the first launch: nobody is asked anything
-    EXPECT_TRUE(eventuallyInLoop([&] { return settings.boolean(Updater::hasLaunchedKey); }));
+    EXPECT_TRUE(until([&] { return settings.boolean(Updater::hasLaunchedKey); }));
     EXPECT_FALSE(window());
 
     updater = makeUpdater(feed("newer"));
@@ -299,7 +286,7 @@ TEST_F(UpdaterTest, looksByItselfWhenAllowedOnceADayAndNotForASkippedVersion)
     settings.setInteger(Updater::lastCheckKey, std::time(nullptr) - 25L * 60 * 60);
     updater = makeUpdater(feed("newer"));
     updater->start();
-    EXPECT_TRUE(eventuallyInLoop([&] { return asked() == 2; }));
+    EXPECT_TRUE(until([&] { return asked() == 2; }));
     EXPECT_FALSE(window());
     updater->checkForUpdates(); // who asks is told all the same
     EXPECT_TRUE(shows("is available"));
@@ -322,7 +309,7 @@ TEST_F(UpdaterTest, aBuildWithoutFeedOrKeyCannotCheck)
     EXPECT_FALSE(updater->canCheckForUpdates());
     updater->checkForUpdates();
     updater->start();
-    while (g_main_context_iteration(nullptr, FALSE)) { }
+    runWaitingEvents();
     EXPECT_FALSE(window());
 }
 

@@ -31,13 +31,6 @@ struct Delegate final : platform::WKNavigationDelegate, platform::WKUIDelegate {
         return nullptr;
     }
 
-    void runOpenPanel(platform::WKWebView&, const platform::WKOpenPanelParameters& parameters,
-        std::function<void(const std::optional<std::vector<URL>>&)> answer) override
-    {
-        panel = parameters;
-        choose = std::move(answer);
-    }
-
     // The addresses asked for so far, which are forgotten.
     std::vector<std::string> take(std::vector<WKNavigationAction>& actions)
     {
@@ -53,8 +46,6 @@ struct Delegate final : platform::WKNavigationDelegate, platform::WKUIDelegate {
     std::function<void(const std::function<void(WKNavigationActionPolicy)>&)> decidesLater;
     std::vector<WKNavigationAction> navigations;
     std::vector<WKNavigationAction> windows;
-    platform::WKOpenPanelParameters panel;
-    std::function<void(const std::optional<std::vector<URL>>&)> choose;
 };
 
 void noteDownload(
@@ -240,37 +231,6 @@ TEST_F(WebViewPolicyTest, whatIsToBeSavedBecomesADownloadAndNothingElseDoes)
         EXPECT_EQ(valueOf("document.title"), "Home") << script;
         EXPECT_FALSE(panel()) << script;
     }
-}
-
-TEST_F(WebViewPolicyTest, fileInputsGetTheFilesThatAreChosen)
-{
-    const std::vector<std::string> names = {"a b.csv", "50% %23 #?.csv", "caf\u00e9.csv"};
-    std::vector<URL> files;
-    for (const auto& name : names)
-        files.push_back(URL::fileURL(writeFile(name, "bytes")));
-    const auto choose = [&](const std::string& attributes, auto chosen) {
-        view->evaluateJavaScript("document.body.innerHTML = '<input type=file " + attributes
-            + ">';"
-              "var input = document.querySelector('input');"
-              "var say = text => webkit.messageHandlers.probe.postMessage(text);"
-              "input.onchange = () => Promise.all([...input.files].map(async file =>"
-              "  file.name + '=' + await file.text())).then(texts => say(texts.join('|')));"
-              "input.oncancel = () => say('cancelled');"
-              "input.click()");
-        EXPECT_TRUE(until([&] { return delegate->choose != nullptr; }));
-        const auto count = probe->messages.size();
-        std::exchange(delegate->choose, nullptr)(chosen);
-        EXPECT_TRUE(until([&] { return probe->messages.size() > count; }));
-        return probe->last();
-    };
-
-    using Files = std::optional<std::vector<URL>>;
-    EXPECT_EQ(choose("", Files(std::vector{files[1]})), names[1] + "=bytes");
-    EXPECT_FALSE(delegate->panel.allowsMultipleSelection);
-    EXPECT_EQ(choose("multiple", Files(files)),
-        names[0] + "=bytes|" + names[1] + "=bytes|" + names[2] + "=bytes");
-    EXPECT_TRUE(delegate->panel.allowsMultipleSelection);
-    EXPECT_EQ(choose("multiple", Files()), "cancelled");
 }
 
 } // namespace desktop

@@ -44,19 +44,6 @@ protected:
     }
 };
 
-TEST_F(WebViewRecoveryTest, aProcessThatDiesInFrontIsReplaced)
-{
-    openView();
-    ASSERT_TRUE(loads("/"));
-
-    killProcess();
-
-    EXPECT_TRUE(losesPage());
-    EXPECT_TRUE(isReadyWith("Home"));
-    EXPECT_FALSE(panel());
-    EXPECT_EQ(documents(), 2u);
-}
-
 TEST_F(WebViewRecoveryTest, aProcessThatDiesTwiceIsGivenUpUntilSomebodyAsks)
 {
     openView();
@@ -116,40 +103,6 @@ TEST_F(WebViewRecoveryTest, aProcessThatDiesDuringTheFirstLoadStartsItAgain)
     EXPECT_TRUE(isReadyWith("Slow"));
 }
 
-TEST_F(WebViewRecoveryTest, aServerThatIsDownShowsThePanelAndNothingReachesTheBridges)
-{
-    server.stop();
-    openView();
-
-    load("/#fuel");
-
-    ASSERT_TRUE(failsWith("Page Unavailable"));
-    EXPECT_FALSE(engine->isFrontPageReady());
-    EXPECT_TRUE(probe->messages.empty());
-    EXPECT_FALSE(view->canGoBack());
-
-    server.restart();
-    pressTryAgain();
-    EXPECT_TRUE(isReadyWith("Home"));
-    EXPECT_EQ(valueOf("location.hash"), "#fuel");
-}
-
-TEST_F(WebViewRecoveryTest, anyScriptBringsAFailedPageBack)
-{
-    const char* scripts[] = {"location.reload()", "showPage('fuel')", "document.title = 'Mine'"};
-    openView();
-    for (const auto* script : scripts) {
-        server.stop();
-        load("/two");
-        ASSERT_TRUE(failsWith("Page Unavailable")) << script;
-        server.restart();
-
-        view->evaluateJavaScript(script);
-
-        EXPECT_TRUE(isReadyWith("Two")) << script;
-    }
-}
-
 TEST_F(WebViewRecoveryTest, aReloadThatFailsIsCoveredAndMadeAgain)
 {
     openView();
@@ -191,68 +144,71 @@ TEST_F(WebViewRecoveryTest, aPageUnderThePanelIsMuteAndBackLeadsToIt)
     EXPECT_FALSE(panel());
 }
 
-TEST_F(WebViewRecoveryTest, aFailedPageComesBackByItself)
-{
-    patience.firstRetry = 0.05;
-    applyPatience();
-    server.stop();
-    openView();
-    load("/");
-    ASSERT_TRUE(failsWith("Page Unavailable"));
-
-    server.restart();
-
-    EXPECT_TRUE(isReadyWith("Home"));
-}
-
-TEST_F(WebViewRecoveryTest, aFailedPageComesBackWithTheNetworkEvenUnseen)
+TEST_F(WebViewRecoveryTest, aServerThatIsDownShowsThePanelAndNothingReachesTheBridges)
 {
     server.stop();
     openView();
-    load("/");
+    load("/#fuel");
     ASSERT_TRUE(failsWith("Page Unavailable"));
-    view->setShown(false);
-    server.restart();
-
-    g_signal_emit_by_name(g_network_monitor_get_default(), "network-changed", TRUE);
-
-    EXPECT_TRUE(until([&] { return view->title() == "Home"; }));
-}
-
-TEST_F(WebViewRecoveryTest, aFailedPageIsTriedAgainWhenItsTabIsChosen)
-{
-    server.stop();
-    openView();
-    load("/");
-    ASSERT_TRUE(failsWith("Page Unavailable"));
-    view->setShown(false);
-    server.restart();
-
-    view->setShown(true);
-
-    EXPECT_TRUE(isReadyWith("Home"));
-}
-
-TEST_F(WebViewRecoveryTest, aCertificateOfSomebodyElseIsNeverAccepted)
-{
-    openView();
-
-    view->load({.url = *platform::URL::fromString(server.url("/", "other.localhost"))});
-
-    EXPECT_TRUE(failsWith("Connection Not Secure"));
-    EXPECT_EQ(server.requestCount("/"), 0u);
+    EXPECT_FALSE(engine->isFrontPageReady());
     EXPECT_TRUE(probe->messages.empty());
+    EXPECT_FALSE(view->canGoBack());
+
+    server.restart();
+    pressTryAgain();
+    EXPECT_TRUE(isReadyWith("Home"));
+    EXPECT_EQ(valueOf("location.hash"), "#fuel");
+}
+
+TEST_F(WebViewRecoveryTest, aFailedPageComesBackByItselfOrAtAnyOccasion)
+{
+    const auto run = [this](const char* script) {
+        return [this, script] { view->evaluateJavaScript(script); };
+    };
+    struct Case {
+        const char* name;
+        std::function<void()> occasion;
+        double firstRetry = 3600; // seconds
+    };
+    const Case cases[] = {
+        {"time", [] {}, 0.05},
+        {"network",
+            [this] {
+                view->setShown(false);
+                g_signal_emit_by_name(g_network_monitor_get_default(), "network-changed", TRUE);
+            }},
+        {"tab", [this] { view->setShown(false), view->setShown(true); }},
+        {"reload", run("location.reload()")},
+        {"route", run("showPage('fuel')")},
+        {"other script", run("document.title = 'Mine'")},
+    };
+    for (const auto& [name, occasion, firstRetry] : cases) {
+        SCOPED_TRACE(name);
+        patience.firstRetry = firstRetry;
+        startEngine();
+        server.stop();
+        openView();
+        load("/two");
+        ASSERT_TRUE(failsWith("Page Unavailable"));
+        server.restart();
+        occasion();
+        EXPECT_TRUE(until([&] { return view->title() == "Two"; }));
+    }
 }
 
 TEST_F(WebViewRecoveryTest, aCertificateOfTheUsersAuthorityIsAcceptedForItsHostAlone)
 {
-    startEngine(authorityCertificate);
-    openView();
-    EXPECT_TRUE(loads("/"));
-
-    view->load({.url = *platform::URL::fromString(server.url("/two", "other.localhost"))});
-
-    EXPECT_TRUE(failsWith("Connection Not Secure"));
+    for (const auto* trusted : {serverCertificate, authorityCertificate}) {
+        startEngine(trusted);
+        openView();
+        EXPECT_TRUE(loads("/"));
+        const auto requests = server.requestCount("/");
+        const auto messages = probe->messages.size();
+        view->load({.url = *platform::URL::fromString(server.url("/", "other.localhost"))});
+        EXPECT_TRUE(failsWith("Connection Not Secure"));
+        EXPECT_EQ(server.requestCount("/"), requests);
+        EXPECT_EQ(probe->messages.size(), messages);
+    }
 }
 
 TEST_F(WebViewRecoveryTest, anAnswerThatDoesNotComeEndsTheLoad)

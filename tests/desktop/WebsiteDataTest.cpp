@@ -1,6 +1,8 @@
 // Nothing of a host is left on the disk when its data were removed.
 
 #include "platform/gtk/webkit/WebsiteData.h"
+
+#include "harness/Files.h"
 #include "webview/WebViewTest.h"
 
 #include <set>
@@ -30,25 +32,6 @@ const stored = request => new Promise(done => request.onsuccess = () => done(req
     document.title = 'Stored';
 })().catch(error => document.title = String(error));
 </script>)";
-
-std::string contentsOf(const std::filesystem::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-// Files come and go meanwhile.
-std::vector<std::filesystem::path> filesBelow(const std::filesystem::path& folder)
-{
-    std::vector<std::filesystem::path> files;
-    std::error_code error;
-    for (std::filesystem::recursive_directory_iterator file(folder, error), end;
-         !error && file != end; file.increment(error)) {
-        if (file->is_regular_file(error))
-            files.push_back(file->path());
-    }
-    return files;
-}
 
 // As databases of the engine keep texts.
 std::string asUtf16(const std::string& text)

@@ -1,6 +1,8 @@
 #include "AppProcess.h"
 
+#include "AccessibleObject.h"
 #include "PageOnScreen.h"
+#include "UserInput.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
@@ -67,6 +69,35 @@ bool AppProcess::waitForPage()
 {
     const auto window = waitForWindow();
     return window && pageOnScreen(*window, generousLimit).has_value();
+}
+
+bool AppProcess::shows(const std::string& control) const
+{
+    return eventually([&] { return AccessibleObject::find(process_.pid(), control).has_value(); });
+}
+
+bool AppProcess::loses(const std::string& control) const
+{
+    return eventually([&] { return !AccessibleObject::find(process_.pid(), control); });
+}
+
+bool AppProcess::press(const std::string& control) const
+{
+    std::optional<AccessibleObject> found;
+    return eventually([&] {
+        found = AccessibleObject::find(process_.pid(), control);
+        return found.has_value();
+    }) && found->activate();
+}
+
+void AppProcess::pressFirstControlOfPage()
+{
+    const auto window = waitForWindow();
+    ASSERT_TRUE(window);
+    const auto frame = window->frame();
+    UserInput::click(frame.x + frame.width / 2, frame.y + frame.height - 40);
+    UserInput::press("Tab");
+    UserInput::press("Return");
 }
 
 } // namespace desktop

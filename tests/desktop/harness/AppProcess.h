@@ -24,6 +24,19 @@ public:
     // changing.
     bool waitForPage();
 
+    // Whether a control with this name comes to be on screen.
+    [[nodiscard]] bool shows(const std::string& control) const;
+
+    // Whether there comes to be none.
+    [[nodiscard]] bool loses(const std::string& control) const;
+
+    // Clicks on that control as soon as it is on screen. False when it does not come.
+    [[nodiscard]] bool press(const std::string& control) const;
+
+    // Clicks into the page, so that it has the keyboard, and presses its first control, with which
+    // somebody signs in on the page that asks for it.
+    void pressFirstControlOfPage();
+
     // The engine's processes that run pages.
     std::vector<pid_t> webProcesses() const { return process_.descendants("WebKitWebProcess"); }
 

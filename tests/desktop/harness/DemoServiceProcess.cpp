@@ -97,6 +97,11 @@ std::vector<DemoServiceProcess::Request> DemoServiceProcess::requests(const std:
     return result;
 }
 
+bool DemoServiceProcess::isAsked(const std::string& path, std::size_t times) const
+{
+    return eventually([&] { return requests(path).size() >= times; });
+}
+
 void DemoServiceProcess::forgetRequests()
 {
     ask("POST", origin_ + "/demo/reset", certificate_);

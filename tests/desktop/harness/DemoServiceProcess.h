@@ -42,6 +42,9 @@ public:
     // Those of them that asked for `path`.
     std::vector<Request> requests(const std::string& path) const;
 
+    // Whether `path` comes to be asked for so many times or more.
+    [[nodiscard]] bool isAsked(const std::string& path, std::size_t times = 1) const;
+
     // Also takes the service's data back to what it was at the start.
     void forgetRequests();
 

@@ -1,5 +1,7 @@
 #include "Process.h"
 
+#include "Files.h"
+
 #include <csignal>
 #include <fcntl.h>
 #include <fstream>
@@ -50,13 +52,6 @@ void redirect(int descriptor, const char* path)
     const int file = open(path, O_WRONLY | O_CREAT | O_TRUNC | O_APPEND, 0600);
     dup2(file, descriptor);
     close(file);
-}
-
-std::string contents(const std::filesystem::path& path)
-{
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
 }
 
 struct ProcessStatus {
@@ -138,12 +133,12 @@ std::optional<int> Process::waitForExit(std::chrono::milliseconds limit)
 
 std::string Process::output() const
 {
-    return contents(folder_ / "output");
+    return contentsOf(folder_ / "output");
 }
 
 std::string Process::errors() const
 {
-    return contents(folder_ / "errors");
+    return contentsOf(folder_ / "errors");
 }
 
 std::vector<pid_t> Process::descendants(const std::string& name) const

@@ -1,11 +1,20 @@
 #include "ReportsPage.h"
 
+#include <algorithm>
+
 namespace desktop {
 
 namespace {
 
 constexpr std::uint32_t accent = 0x0e6f63; // the colour of the page's main button, which saves
+constexpr std::uint32_t fuelColor = 0xe39a35; // of the bars, which come with the figures
 constexpr int fromSaveToPrint = 120; // pixels to the left
+
+// Until its figures are there the page is drawn anew, and a click into it may be lost.
+bool showsFigures(const Picture& picture)
+{
+    return std::ranges::find(picture.pixels, fuelColor) != picture.pixels.end();
+}
 
 // The middle of the first wide bar of the accent colour, from above.
 std::optional<std::pair<int, int>> mainButton(const Picture& picture)
@@ -31,7 +40,7 @@ bool press(AppProcess& app, int toTheLeft)
     std::optional<std::pair<int, int>> button;
     const bool isThere = eventually([&] {
         const auto picture = window->picture();
-        button = picture ? mainButton(*picture) : std::nullopt;
+        button = picture && showsFigures(*picture) ? mainButton(*picture) : std::nullopt;
         return button.has_value();
     });
     if (isThere)

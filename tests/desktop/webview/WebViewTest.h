@@ -1,5 +1,6 @@
 #pragma once
 
+#include "harness/MainLoop.h"
 #include "platform/foundation/JSONSerialization.h"
 #include "platform/gtk/webkit/FailurePanel.h"
 #include "platform/gtk/webkit/GtkWebView.h"
@@ -23,24 +24,6 @@ inline void PrintTo(const Value& value, std::ostream* stream)
 } // namespace platform
 
 namespace desktop {
-
-// Lets the main loop run until `condition` holds and returns true, or false when it has not held
-// for a minute.
-[[nodiscard]] inline bool until(const std::function<bool()>& condition)
-{
-    bool isOver = false;
-    gtk::Timer limit;
-    limit.start(60, [&] { isOver = true; });
-    gtk::Timer pulse;
-    const std::function<void()> beat = [&] { pulse.start(0.02, beat); };
-    beat();
-    while (!condition()) {
-        if (isOver)
-            return false;
-        g_main_context_iteration(nullptr, TRUE);
-    }
-    return true;
-}
 
 // Keeps what pages post.
 struct Recorder final : platform::WKScriptMessageHandler {

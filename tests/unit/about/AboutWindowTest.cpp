@@ -18,14 +18,7 @@ struct AboutTest : Stage, testing::Test {
         return application.window(application.windows().size() - 1);
     }
 
-    void click(const std::string& title)
-    {
-        for (const auto* button : about().content().findAll<ui::ButtonNode>()) {
-            if (button->node<ui::ButtonNode>()->options.help == title)
-                return button->node<ui::ButtonNode>()->action();
-        }
-        ADD_FAILURE() << "there is no button " << title;
-    }
+    void click(const std::string& title) { EXPECT_TRUE(press(about().content(), title)) << title; }
 };
 
 std::string thisYear()

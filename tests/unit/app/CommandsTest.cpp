@@ -1,6 +1,4 @@
-#include "app/VelmaroOnlineApp.h"
-#include "platform/simulated/SimulatedPlatform.h"
-#include "tabs/TabbedAppModel.h"
+#include "RunningApp.h"
 #include "web/PageScripts.h"
 
 #include <gtest/gtest.h>
@@ -13,20 +11,14 @@ using ui::shiftCommand;
 namespace {
 
 // The application with three tabs, the first of which is shown.
-struct Commands : testing::Test {
+struct Commands : RunningApp, testing::Test {
     Commands()
     {
-        platform.addScreen({{0, 0}, {1440, 900}});
-        platform.userDefaults().plant(
-            "vl.open.routes", std::vector<std::string>{"drives", "fuel", "reports"});
-        platform.application().launch(app.appDelegate, scene);
-        settle();
+        launch({{"vl.open.routes", std::vector<std::string>{"drives", "fuel", "reports"}}});
     }
 
     simulated::SimulatedMenus& menus() { return platform.application().menus(); }
-    std::shared_ptr<TabbedAppModel> tabs() const { return TabbedAppModel::shared(); }
-    simulated::SimulatedWebView& page() const { return *platform.webViews()[0].lock(); }
-    void settle() { platform.mainQueue().runUntilIdle(); }
+    simulated::SimulatedWebView& page() const { return *webView(); }
 
     void press(const KeyEquivalent& keys)
     {
@@ -53,89 +45,9 @@ struct Commands : testing::Test {
         }
         return titles;
     }
-
-    VelmaroOnlineApp app;
-    ui::Scene scene = app.body();
-    simulated::SimulatedPlatform platform;
 };
 
 } // namespace
-
-TEST_F(Commands, standInTheMenusInTheirOrder)
-{
-    std::string text;
-    for (const auto& menu : menus().menus()) {
-        text += menu.title + "\n";
-        for (const auto& section : menu.sections) {
-            std::string lines;
-            for (const auto& item : section) {
-                if (!item.isListed)
-                    continue;
-                lines += "  " + item.title;
-                if (!item.shortcuts.empty())
-                    lines += " " + label(item.shortcuts.front());
-                lines += "\n";
-            }
-            text += lines.empty() || &section == &menu.sections.front() ? lines : "  —\n" + lines;
-        }
-    }
-    EXPECT_EQ(text, R"(Velmaro Online
-  About Velmaro Online
-  Check for Updates…
-  —
-  Quit Ctrl+Q
-File
-  New Tab Ctrl+T
-  Close Tab Ctrl+W
-  —
-  New Driver Ctrl+Shift+D
-  New Vehicle Ctrl+Shift+V
-  Log Fuel Ctrl+Shift+F
-  Log Charging Session Ctrl+Shift+C
-  —
-  Reload Ctrl+R
-  Overview Ctrl+Shift+H
-  —
-  Reopen Closed Tab Ctrl+Shift+T
-Edit
-  Undo Ctrl+Z
-  Redo Ctrl+Shift+Z
-  —
-  Cut Ctrl+X
-  Copy Ctrl+C
-  Paste Ctrl+V
-  Select All Ctrl+A
-  —
-  Find… Ctrl+F
-  Find Next Ctrl+G
-  Find Previous Ctrl+Shift+G
-View
-  Back Ctrl+[
-  Forward Ctrl+]
-  —
-  Next Tab Ctrl+Shift+]
-  Previous Tab Ctrl+Shift+[
-  —
-  Restore Last Active Tab on Launch
-  —
-  Zoom In Ctrl++
-  Zoom Out Ctrl+-
-  Actual Size Ctrl+0
-  —
-  Full Screen F11
-Window
-  Minimize Ctrl+M
-Help
-  What's New
-  —
-  Velmaro Help Center
-  Support Tickets
-  —
-  Clear All Cache…
-  —
-  Keyboard Shortcuts Ctrl+?
-)");
-}
 
 TEST_F(Commands, ofThePageReachThePageThatIsShown)
 {

@@ -1,5 +1,5 @@
-// docs/shortcuts.md lists the keys of all menu items. With VELMARO_WRITE_DOCS set in the
-// environment it is written anew, else it has to be up to date.
+// docs/shortcuts.md lists all menu items in their order, with their keys. With VELMARO_WRITE_DOCS
+// set in the environment it is written anew, else it has to be up to date.
 
 #include "app/VelmaroOnlineApp.h"
 #include "platform/simulated/SimulatedPlatform.h"
@@ -23,14 +23,15 @@ std::string keysOf(const ui::MenuItem& item)
 
 std::string document(const std::vector<ui::Menu>& menus)
 {
-    std::string text = "# Keyboard shortcuts\n\nThese work wherever the keyboard is in the main "
-                       "window, also in a page. Ctrl+? shows them in the program.\nA click with "
-                       "the middle button closes a tab.\n";
+    std::string text =
+        "# Menus and keyboard shortcuts\n\nThe keys work wherever the keyboard is in "
+        "the main window, also in a page. Ctrl+? shows them in the program.\n"
+        "A click with the middle button closes a tab.\n";
     for (const auto& menu : menus) {
         text += "\n## " + menu.title + "\n\n| Command | Keys |\n|---|---|\n";
         for (const auto& section : menu.sections) {
             for (const auto& item : section) {
-                if (!item.shortcuts.empty())
+                if (item.isListed || !item.shortcuts.empty())
                     text += "| " + item.title + " | " + keysOf(item) + " |\n";
             }
         }

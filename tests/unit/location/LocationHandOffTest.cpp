@@ -1,52 +1,19 @@
 #include "location/LocationScripts.h"
 
+#include "location/StationKind.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "web/WebModel.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace velmaro {
 
-TEST(LocationHandOff, hasOneScriptForEachPlaceAndKind)
+TEST(StationKind, isKnownByItsNameOnly)
 {
-    EXPECT_EQ(LocationScripts::handOffLocation(
-                  StationKind::evstations, {48.858844, -2.5, "a\\'b \"\u2028"}),
-        "(function(){\n"
-        "  window.__vlOverrideLocation = { lat: 48.858844, lng: -2.5, label: 'a\\\\\\'b "
-        "\"\u2028' };\n"
-        "  if (typeof showPage === 'function') { showPage('evstations'); } else { location.href = "
-        "'/online#evstations'; }\n"
-        "})();");
-}
-
-TEST(LocationHandOff, writesTheShortestNumeralThatReadsBack)
-{
-    struct Case {
-        double number;
-        std::string numeral;
-    };
-    const Case cases[] = {
-        {0, "0.0"},
-        {-0.0, "-0.0"},
-        {8, "8.0"},
-        {-180, "-180.0"},
-        {48.858844, "48.858844"},
-        {0.1 + 0.2, "0.30000000000000004"},
-        {0.0001, "0.0001"},
-        {-0.00012345, "-0.00012345"},
-        {0.00005, "5e-05"},
-        {-0.000012345, "-1.2345e-05"},
-        {std::numeric_limits<double>::denorm_min(), "5e-324"},
-        {1e20, "100000000000000000000.0"},
-    };
-    for (const auto& [number, numeral] : cases) {
-        const auto script =
-            LocationScripts::handOffLocation(StationKind::gas, {number, number, ""});
-        EXPECT_NE(
-            script.find("{ lat: " + numeral + ", lng: " + numeral + ", label"), std::string::npos)
-            << script;
-    }
+    for (const auto kind : {StationKind::gas, StationKind::evstations, StationKind::traffic})
+        EXPECT_EQ(stationKind(rawValue(kind)), kind);
+    for (const auto* name : {"", "Gas", "gas ", "charging"})
+        EXPECT_EQ(stationKind(name), std::nullopt) << name;
 }
 
 TEST(LocationHandOff, runsOncePerPickAndOnlyInAWebView)

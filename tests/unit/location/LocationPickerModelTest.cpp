@@ -98,17 +98,10 @@ TEST_F(LocationPickerModelTest, suggestionsFollowTheCompleterOnly)
     EXPECT_EQ(model->suggestions(), completer->results());
     model->setQuery("");
     EXPECT_EQ(model->suggestions().size(), 3u);
-    completer->simulateResults({});
-    EXPECT_TRUE(model->suggestions().empty());
-}
-
-TEST_F(LocationPickerModelTest, aCompleterFailureEmptiesTheListAndLeavesTheStatusLine)
-{
-    completer->simulateResults({{"a", ""}});
     model->requestCurrentLocation(record());
     completer->simulateFailure(lostNetwork);
     EXPECT_TRUE(model->suggestions().empty());
-    EXPECT_EQ(model->statusMessage(), locatingText);
+    EXPECT_EQ(model->statusMessage(), locatingText) << "the failure is not the position's";
 }
 
 TEST_F(LocationPickerModelTest, labelsJoinWhatASuggestionSays)
@@ -144,39 +137,30 @@ TEST_F(LocationPickerModelTest, aSearchEndsInALaterTurn)
     EXPECT_EQ(results.size(), 1u);
 }
 
-TEST_F(LocationPickerModelTest, aSearchWithoutAPlaceFails)
+TEST_F(LocationPickerModelTest, aSearchEndsWithAPlaceElseWithItsError)
 {
     using Response = platform::MKLocalSearch::Response;
     struct Case {
         std::optional<Response> response;
         std::optional<NSError> error;
-        LocationPickerModel::Error expected;
-        std::string status;
+        Result expected;
+        std::string status; // stays when a place is found
     };
+    const Response place{{{.placemark = {.coordinate = {1, 2}}}}};
     const Case cases[] = {
-        {std::nullopt, std::nullopt, LocationError::notFound, notFoundText},
-        {Response{}, std::nullopt, LocationError::notFound, notFoundText},
-        {std::nullopt, lostNetwork, lostNetwork, lostNetwork.localizedDescription},
-        {Response{}, lostNetwork, lostNetwork, lostNetwork.localizedDescription},
+        {std::nullopt, std::nullopt, failure(LocationError::notFound), notFoundText},
+        {Response{}, std::nullopt, failure(LocationError::notFound), notFoundText},
+        {std::nullopt, lostNetwork, failure(lostNetwork), lostNetwork.localizedDescription},
+        {Response{}, lostNetwork, failure(lostNetwork), lostNetwork.localizedDescription},
+        {place, lostNetwork, PickedLocation{1, 2, "Cafe"}, lostNetwork.localizedDescription},
     };
-    for (const auto& expected : cases) {
-        resolve("Cafe").simulateCompletion(expected.response, expected.error);
+    for (const auto& [response, error, expected, status] : cases) {
+        resolve("Cafe").simulateCompletion(response, error);
         platform.mainQueue().runUntilIdle();
-        EXPECT_EQ(results.back(), failure(expected.expected));
-        EXPECT_EQ(model->statusMessage(), expected.status);
+        EXPECT_EQ(results.back(), expected);
+        EXPECT_EQ(model->statusMessage(), status);
         EXPECT_FALSE(model->isResolving());
     }
-}
-
-TEST_F(LocationPickerModelTest, aPlaceCountsMoreThanAnErrorAndLeavesAnOldStatus)
-{
-    resolve("Cafe").simulateCompletion(std::nullopt);
-    platform.mainQueue().runUntilIdle();
-    resolve("Cafe").simulateCompletion(
-        platform::MKLocalSearch::Response{{{.placemark = {.coordinate = {1, 2}}}}}, lostNetwork);
-    platform.mainQueue().runUntilIdle();
-    EXPECT_EQ(results.back(), Result(PickedLocation{1, 2, "Cafe"}));
-    EXPECT_EQ(model->statusMessage(), notFoundText);
 }
 
 TEST_F(LocationPickerModelTest, searchesEndInTheirOwnOrder)
@@ -210,70 +194,35 @@ TEST_F(LocationPickerModelTest, thePermissionDecidesWhatAPositionRequestDoes)
 {
     struct Case {
         CLAuthorizationStatus status;
-        int authorizationRequests, locationRequests;
+        int questions, requests; // where that has been decided before
+        int lateRequests; // where it is decided while the request waits
         bool isRefused;
     };
     const Case cases[] = {
-        {CLAuthorizationStatus::notDetermined, 1, 0, false},
-        {CLAuthorizationStatus::restricted, 0, 0, true},
-        {CLAuthorizationStatus::denied, 0, 0, true},
-        {CLAuthorizationStatus::authorizedAlways, 0, 1, false},
-        {CLAuthorizationStatus::authorizedWhenInUse, 0, 1, false},
-        {static_cast<CLAuthorizationStatus>(9), 0, 1, false},
+        {CLAuthorizationStatus::notDetermined, 1, 0, 0, false},
+        {CLAuthorizationStatus::restricted, 0, 0, 0, true},
+        {CLAuthorizationStatus::denied, 0, 0, 0, true},
+        {CLAuthorizationStatus::authorizedAlways, 0, 1, 1, false},
+        {CLAuthorizationStatus::authorizedWhenInUse, 0, 1, 0, false},
+        {static_cast<CLAuthorizationStatus>(9), 0, 1, 0, false},
     };
-    for (const auto& expected : cases) {
-        SCOPED_TRACE(static_cast<int>(expected.status));
-        manager->authorizationRequests = manager->locationRequests = 0;
-        results.clear();
-        manager->simulateAuthorization(expected.status);
-        model->requestCurrentLocation(record());
-
-        EXPECT_EQ(manager->authorizationRequests, expected.authorizationRequests);
-        EXPECT_EQ(manager->locationRequests, expected.locationRequests);
-        EXPECT_EQ(model->isResolving(), !expected.isRefused);
-        EXPECT_EQ(model->statusMessage(), expected.isRefused ? deniedText : locatingText);
-        EXPECT_EQ(results, expected.isRefused ? refusal : noResults);
-        manager->simulateLocations(locationsAt({{0, 0}})); // ends what is pending
+    for (const auto& [status, questions, requests, lateRequests, isRefused] : cases) {
+        for (const bool isLate : {false, true}) {
+            SCOPED_TRACE(std::to_string(static_cast<int>(status)) + (isLate ? " late" : ""));
+            results.clear();
+            manager->simulateAuthorization(isLate ? CLAuthorizationStatus::notDetermined : status);
+            manager->authorizationRequests = manager->locationRequests = 0;
+            model->requestCurrentLocation(record());
+            if (isLate)
+                manager->simulateAuthorization(status);
+            EXPECT_EQ(manager->authorizationRequests, isLate ? 1 : questions);
+            EXPECT_EQ(manager->locationRequests, isLate ? lateRequests : requests);
+            EXPECT_EQ(model->isResolving(), !isRefused);
+            EXPECT_EQ(model->statusMessage(), isRefused ? deniedText : locatingText);
+            EXPECT_EQ(results, isRefused ? refusal : noResults);
+            manager->simulateLocations(locationsAt({{0, 0}})); // ends what is pending
+        }
     }
-}
-
-TEST_F(LocationPickerModelTest, aDecisionWhileARequestWaits)
-{
-    struct Case {
-        CLAuthorizationStatus status;
-        int locationRequests;
-        bool isRefused;
-    };
-    const Case cases[] = {
-        {CLAuthorizationStatus::notDetermined, 0, false},
-        {CLAuthorizationStatus::restricted, 0, true},
-        {CLAuthorizationStatus::denied, 0, true},
-        {CLAuthorizationStatus::authorizedAlways, 1, false},
-        {CLAuthorizationStatus::authorizedWhenInUse, 0, false},
-        {static_cast<CLAuthorizationStatus>(9), 0, false},
-    };
-    for (const auto& expected : cases) {
-        SCOPED_TRACE(static_cast<int>(expected.status));
-        manager->simulateAuthorization(CLAuthorizationStatus::notDetermined);
-        manager->locationRequests = 0;
-        results.clear();
-        model->requestCurrentLocation(record());
-        manager->simulateAuthorization(expected.status);
-
-        EXPECT_EQ(manager->locationRequests, expected.locationRequests);
-        EXPECT_EQ(model->isResolving(), !expected.isRefused);
-        EXPECT_EQ(results, expected.isRefused ? refusal : noResults);
-        manager->simulateLocations(locationsAt({{0, 0}}));
-    }
-}
-
-TEST_F(LocationPickerModelTest, aDecisionThatNobodyWaitsForChangesNothing)
-{
-    for (const auto status :
-        {CLAuthorizationStatus::denied, CLAuthorizationStatus::authorizedAlways})
-        manager->simulateAuthorization(status);
-    EXPECT_EQ(manager->locationRequests, 0);
-    EXPECT_EQ(model->statusMessage(), std::nullopt);
 }
 
 TEST_F(LocationPickerModelTest, theLastOfSeveralLocationsCounts)
@@ -301,8 +250,13 @@ TEST_F(LocationPickerModelTest, aFailureOfTheServiceIsShownAsItWordsIt)
     EXPECT_FALSE(model->isResolving());
 }
 
-TEST_F(LocationPickerModelTest, answersThatNobodyAskedForChangeTheStatusOnly)
+TEST_F(LocationPickerModelTest, whatNobodyAskedForChangesTheStatusOnly)
 {
+    for (const auto status :
+        {CLAuthorizationStatus::denied, CLAuthorizationStatus::authorizedAlways})
+        manager->simulateAuthorization(status);
+    EXPECT_EQ(manager->locationRequests, 0);
+    EXPECT_EQ(model->statusMessage(), std::nullopt);
     manager->simulateFailure(lostNetwork);
     EXPECT_EQ(model->statusMessage(), lostNetwork.localizedDescription);
     resolve("Cafe");

@@ -4,6 +4,7 @@
 #include "platform/foundation/Unicode.h"
 #include "platform/simulated/SimulatedDownload.h"
 #include "platform/webkit/WKNavigationDelegate.h"
+#include "ui/Stage.h"
 
 #include <algorithm>
 #include <array>
@@ -299,10 +300,7 @@ const UserSession::Step& UserSession::step(const std::string& name)
 UserSession::UserSession(Settings stored, unsigned seed)
     : random_(seed)
 {
-    platform.addScreen({{0, 0}, {1440, 900}});
-    platform.userDefaults().plant(std::move(stored));
-    platform.application().launch(app.appDelegate, scene);
-    settle();
+    launch(std::move(stored));
     noteTabs();
 }
 
@@ -391,14 +389,9 @@ std::shared_ptr<SimulatedWebView> UserSession::page() const
 bool UserSession::press(const std::string& help)
 {
     settle();
-    for (const auto* button : platform.application().window().content().findAll<ui::ButtonNode>()) {
-        if (button->node<ui::ButtonNode>()->options.help == help) {
-            button->node<ui::ButtonNode>()->action();
-            settle();
-            return true;
-        }
-    }
-    return false;
+    const bool isPressed = ::press(platform.application().window().content(), help);
+    settle();
+    return isPressed;
 }
 
 void UserSession::post(const std::string& bridge, Value body)

@@ -1,17 +1,13 @@
 #pragma once
 
-#include "app/VelmaroOnlineApp.h"
-#include "platform/simulated/SimulatedPlatform.h"
-#include "tabs/TabbedAppModel.h"
+#include "RunningApp.h"
 
 #include <random>
 
 // The application in use: what its user, its pages and the desktop may do, in any order. Whatever
 // can fail goes as the platform's faults have it, and the user goes on after it.
-class UserSession {
+class UserSession : public RunningApp {
 public:
-    using Settings = std::map<std::string, simulated::SimulatedUserDefaults::Stored>;
-
     struct Step {
         const char* name;
         void (*take)(UserSession&);
@@ -41,21 +37,12 @@ public:
     std::vector<std::string> routesToSave() const;
 
     // What steps are made of. The page in front is null while it has not been built.
-    std::shared_ptr<velmaro::TabbedAppModel> tabs() const
-    {
-        return velmaro::TabbedAppModel::shared();
-    }
     std::shared_ptr<simulated::SimulatedWebView> page() const;
     bool fails() { return platform.faults().strike(); }
     int choose(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
-    void settle() { platform.mainQueue().runUntilIdle(); }
     bool press(const std::string& help); // a button in the main window; false when there is none
     void post(const std::string& bridge, platform::Value body);
     void answerQuestions(); // of all kinds, as a user does who wants to go on
-
-    velmaro::VelmaroOnlineApp app;
-    ui::Scene scene = app.body();
-    simulated::SimulatedPlatform platform;
 
 private:
     void noteTabs();

@@ -32,11 +32,6 @@ TEST(UserScripts, theMarkerTellsPagesWhereTheyRun)
     EXPECT_EQ(engine.value("window.__vlPlatform"), Value("desktop"));
 }
 
-TEST(UserScripts, theSignInWatcherIsWhatTheServiceExpectsToTheLetter)
-{
-    EXPECT_EQ(std::string(UserScripts::signInWatcher).size(), 572u);
-}
-
 TEST(UserScripts, theSignInWatcherPostsOnceAndThenOnlyChanges)
 {
     ScriptEngine engine(page);

@@ -3,7 +3,6 @@
 #include "FailureRecorder.h"
 
 #include <gtest/gtest.h>
-#include <thread>
 
 using simulated::SimulatedQueue;
 
@@ -41,51 +40,6 @@ TEST(SimulatedQueue, isIdleWhileNothingIsDue)
     queue.asyncAfter(0.1, [&] { order += 'f'; });
     queue.advance(1);
     EXPECT_EQ(order, "abcdef");
-}
-
-TEST(SimulatedQueue, whatATaskQueuesRunsInTheSameGoWhenItIsDue)
-{
-    SimulatedQueue queue;
-    int runs = 0;
-    queue.async([&] {
-        queue.async([&] { ++runs; });
-        queue.asyncAfter(1, [&] { ++runs; });
-    });
-    queue.runUntilIdle();
-    EXPECT_EQ(runs, 1);
-    EXPECT_EQ(queue.pendingCount(), 1u);
-}
-
-TEST(SimulatedQueue, otherThreadsMayQueue)
-{
-    SimulatedQueue queue;
-    int runs = 0;
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i) {
-        threads.emplace_back([&] {
-            for (int j = 0; j < 100; ++j)
-                queue.async([&] { ++runs; });
-        });
-    }
-    for (auto& thread : threads)
-        thread.join();
-    queue.runUntilIdle();
-    EXPECT_EQ(runs, 400);
-}
-
-TEST(SimulatedQueue, dropsTasksThatQueueMoreOnTheirWayOut)
-{
-    struct QueuesWhenGone {
-        SimulatedQueue& queue;
-        ~QueuesWhenGone()
-        {
-            queue.async([] {});
-        }
-    };
-    SimulatedQueue queue;
-    queue.async([guard = std::make_shared<QueuesWhenGone>(QueuesWhenGone{queue})] { FAIL(); });
-    queue.drop();
-    EXPECT_EQ(queue.pendingCount(), 1u);
 }
 
 TEST(SimulatedQueue, complainsOfATaskThatNeverEnds)

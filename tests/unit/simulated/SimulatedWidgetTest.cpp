@@ -10,68 +10,24 @@
 using simulated::SimulatedRenderer;
 using simulated::SimulatedWidget;
 
-namespace {
-
-struct Widgets : testing::Test {
-    Widgets()
-    {
-        parent.apply(stack);
-        first.apply(a);
-        second.apply(b);
-        parent.place(first, 0);
-        parent.place(second, 1);
-    }
-
-    simulated::SimulatedPlatform platform;
-    ui::StackNode stack{ui::Axis::vertical, {.spacing = 4}, {}};
-    ui::TextNode a{"a", {}};
-    ui::TextNode b{"b", {}};
-    SimulatedRenderer renderer;
-    SimulatedWidget parent{renderer};
-    SimulatedWidget first{renderer};
-    SimulatedWidget second{renderer};
-};
-
-} // namespace
-
-TEST_F(Widgets, areReadInTheOrderInWhichTheyStand)
-{
-    parent.place(second, 0);
-    EXPECT_EQ(parent.describe(),
-        "column spacing 4\n"
-        "  text \"b\" size 13 regular label\n"
-        "  text \"a\" size 13 regular label\n");
-    EXPECT_TRUE(parent.showsText("a"));
-    EXPECT_FALSE(parent.showsText("c"));
-}
-
-TEST_F(Widgets, complainWhenAWidgetWouldLoseItsState)
+TEST(SimulatedWidget, complainsWhenAWidgetWouldLoseItsState)
 {
     FailureRecorder failures;
-    SimulatedWidget stranger(renderer);
+    const simulated::SimulatedPlatform platform;
+    SimulatedRenderer renderer;
+    SimulatedWidget parent{renderer}, first{renderer}, second{renderer}, stranger{renderer};
+    const ui::StackNode stack{ui::Axis::vertical, {}, {}};
+    const ui::TextNode text{"a", {}};
+    parent.apply(stack);
+    for (auto* child : {&first, &second}) {
+        child->apply(text);
+        parent.place(*child, 0);
+    }
+    EXPECT_TRUE(failures.messages.empty());
     stranger.place(first, 0);
     parent.remove(first, nullptr);
     parent.place(first, 0);
     parent.remove(first, nullptr);
     parent.place(second, 7);
     EXPECT_EQ(failures.messages.size(), 4u);
-}
-
-TEST_F(Widgets, onTheirWayOutStayForTheirTransitionOnly)
-{
-    ui::GroupNode fading{ui::View()};
-    fading.transition = {.fades = true, .movesFrom = {}, .duration = 0.2};
-    auto group = std::make_shared<SimulatedWidget>(renderer);
-    group->apply(fading);
-    parent.place(*group, 1);
-
-    parent.remove(*group, group);
-    const auto* leaving = "  group fades duration 0.2 leaving\n";
-    EXPECT_NE(parent.describe().find(leaving), std::string::npos);
-    EXPECT_EQ(parent.children().size(), 2u);
-    EXPECT_FALSE(group->isVisible());
-
-    platform.mainQueue().advance(0.2);
-    EXPECT_EQ(parent.describe().find(leaving), std::string::npos);
-    EXPECT_EQ(group.use_count(), 1);
 }

@@ -1,6 +1,4 @@
-#include "app/VelmaroOnlineApp.h"
-#include "platform/simulated/SimulatedPlatform.h"
-#include "tabs/TabbedAppModel.h"
+#include "RunningApp.h"
 
 #include <gtest/gtest.h>
 
@@ -13,23 +11,18 @@ const Strings forgottenKeys = {"vl.onboarding.shown", "vl.onboarding.completed",
     "vl.open.routes.active", "vl.restore.active.tab"};
 
 // The application of somebody who has used it: three tabs, the second of which is shown.
-struct ClearAllCache : testing::Test {
+struct ClearAllCache : RunningApp, testing::Test {
     ClearAllCache()
     {
-        platform.addScreen({{0, 0}, {1440, 900}});
-        auto& settings = platform.userDefaults();
-        settings.plant("vl.onboarding.shown", true);
-        settings.plant("vl.onboarding.completed", true);
-        settings.plant("vl.open.routes", Strings{"drives", "fuel", "reports"});
-        settings.plant("vl.open.routes.active", std::int64_t(1));
-        settings.plant("vl.restore.active.tab", true);
-        settings.plant("vl.user.identity", platform::Data{std::byte('{'), std::byte('}')});
-        platform.application().launch(app.appDelegate, scene);
-        settle();
+        launch({
+            {"vl.onboarding.shown", true},
+            {"vl.onboarding.completed", true},
+            {"vl.open.routes", Strings{"drives", "fuel", "reports"}},
+            {"vl.open.routes.active", std::int64_t(1)},
+            {"vl.restore.active.tab", true},
+            {"vl.user.identity", platform::Data{std::byte('{'), std::byte('}')}},
+        });
     }
-
-    std::shared_ptr<TabbedAppModel> tabs() const { return TabbedAppModel::shared(); }
-    void settle() { platform.mainQueue().runUntilIdle(); }
 
     void ask(const char* answer)
     {
@@ -48,10 +41,6 @@ struct ClearAllCache : testing::Test {
     {
         return platform.webViews().back().lock()->loads.at(0).url.absoluteString();
     }
-
-    VelmaroOnlineApp app;
-    ui::Scene scene = app.body();
-    simulated::SimulatedPlatform platform;
 };
 
 constexpr auto welcome = "https://velmaro.example/online/welcome.php";

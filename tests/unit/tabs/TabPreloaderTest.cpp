@@ -1,25 +1,19 @@
 #include "tabs/TabPreloader.h"
-#include "app/VelmaroOnlineApp.h"
-#include "platform/simulated/SimulatedPlatform.h"
-#include "tabs/TabbedAppModel.h"
+
+#include "RunningApp.h"
 
 #include <gtest/gtest.h>
 
-using velmaro::TabbedAppModel;
 using velmaro::TabPreloader;
 using Strings = std::vector<std::string>;
 
 namespace {
 
-struct TabPreloading : testing::Test {
-    void launch(int active)
+struct TabPreloading : RunningApp, testing::Test {
+    void launchWithTab(std::int64_t active)
     {
-        platform.addScreen({{0, 25}, {1440, 875}});
-        platform.userDefaults().plant({
-            {"vl.open.routes", Strings{"a", "b", "c", "d", "e", "f"}},
-            {"vl.open.routes.active", std::int64_t(active)},
-        });
-        platform.application().launch(app.appDelegate, scene);
+        launch({{"vl.open.routes", Strings{"a", "b", "c", "d", "e", "f"}},
+            {"vl.open.routes.active", active}});
     }
 
     // The routes of the pages asked for so far, in their order.
@@ -41,17 +35,13 @@ struct TabPreloading : testing::Test {
         webView->simulateLoading(false, 1);
         platform.mainQueue().advance(2 * TabPreloader::pause);
     }
-
-    velmaro::VelmaroOnlineApp app;
-    ui::Scene scene = app.body();
-    simulated::SimulatedPlatform platform;
 };
 
 } // namespace
 
 TEST_F(TabPreloading, goesOutwardsFromTheActiveTabOnePageAfterTheOtherUpToFour)
 {
-    launch(2);
+    launchWithTab(2);
     EXPECT_EQ(loaded(), "c");
     platform.mainQueue().advance(100 * TabPreloader::pause);
     EXPECT_EQ(loaded(), "cd");
@@ -62,18 +52,18 @@ TEST_F(TabPreloading, goesOutwardsFromTheActiveTabOnePageAfterTheOtherUpToFour)
     finishLoad();
     EXPECT_EQ(loaded(), "cdbe");
 
-    TabbedAppModel::shared()->activeIndex = 3;
-    platform.mainQueue().runUntilIdle();
+    tabs()->activeIndex = 3;
+    settle();
     EXPECT_EQ(loaded(), "cdbe");
     EXPECT_EQ(platform.webViews().at(1).lock()->loads.size(), 1u);
 }
 
 TEST_F(TabPreloading, countsWhatTheUserHasOpened)
 {
-    launch(0);
+    launchWithTab(0);
     for (const int index : {5, 4, 3}) {
-        TabbedAppModel::shared()->activeIndex = index;
-        platform.mainQueue().runUntilIdle();
+        tabs()->activeIndex = index;
+        settle();
     }
     platform.mainQueue().advance(2 * TabPreloader::pause);
     EXPECT_EQ(loaded(), "afed");
@@ -82,7 +72,7 @@ TEST_F(TabPreloading, countsWhatTheUserHasOpened)
 TEST_F(TabPreloading, leavesMemoryToOthersWhenItIsShort)
 {
     platform.processInfo().memory = TabPreloader::spareMemory - 1;
-    launch(0);
+    launchWithTab(0);
     platform.mainQueue().advance(100 * TabPreloader::pause);
     EXPECT_EQ(loaded(), "a");
 }

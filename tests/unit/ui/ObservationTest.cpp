@@ -83,12 +83,3 @@ TEST(Observation, anObserverMayTakeAnotherAwayDuringANotification)
     second = std::make_unique<Observation>([&] { field(); }, [] { FAIL() << "it had gone"; });
     field = 2;
 }
-
-TEST(Published, aBindingReadsAndWrites)
-{
-    Published<std::string> query;
-    const auto binding = query.binding();
-    binding.set("drives");
-    EXPECT_EQ(query(), "drives");
-    EXPECT_EQ(binding.get(), "drives");
-}

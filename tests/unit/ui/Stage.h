@@ -18,6 +18,18 @@ struct Stage {
     simulated::SimulatedPlatform platform;
 };
 
+// Presses the button that says what `help` says; false when there is none.
+inline bool press(const simulated::SimulatedWidget& widget, const std::string& help)
+{
+    for (const auto* button : widget.findAll<ui::ButtonNode>()) {
+        if (button->node<ui::ButtonNode>()->options.help == help) {
+            button->node<ui::ButtonNode>()->action();
+            return true;
+        }
+    }
+    return false;
+}
+
 // The texts below `widget`, in order, with one blank between.
 inline std::string textsOf(const simulated::SimulatedWidget& widget)
 {

@@ -54,14 +54,9 @@ struct Downloads : Stage, testing::Test {
     // Presses the button with that help; false when there is none.
     bool press(const std::string& help)
     {
-        for (const auto* button : root().findAll<ui::ButtonNode>()) {
-            if (button->node<ui::ButtonNode>()->options.help == help) {
-                button->node<ui::ButtonNode>()->action();
-                settle();
-                return true;
-            }
-        }
-        return false;
+        const bool isPressed = ::press(root(), help);
+        settle();
+        return isPressed;
     }
 
     simulated::SimulatedWindow& window = show(ui::VStack{

@@ -47,21 +47,6 @@ WKNavigationAction action(const std::string& address)
 
 } // namespace
 
-TEST(NavigationAddresses, areUsedByTheirHostAndScheme)
-{
-    simulated::SimulatedPlatform platform;
-    const auto& service = velmaro::Service::current();
-    EXPECT_GE(std::size(navigationAddresses()), 60u);
-    for (const auto& [written, delivered, navigation, newWindow] : navigationAddresses()) {
-        if (delivered.empty())
-            continue;
-        const auto url = URL::encodingInvalidCharacters(delivered);
-        ASSERT_TRUE(url) << delivered;
-        EXPECT_EQ(useOfNavigation(*url, service), navigation) << written;
-        EXPECT_EQ(useOfNewWindow(*url, service), newWindow) << written;
-    }
-}
-
 TEST(AllowedHosts, areTheServicesAndThePaymentProvidersInAnyCase)
 {
     simulated::SimulatedPlatform platform;
@@ -87,6 +72,7 @@ TEST(AllowedHosts, areTheServicesAndThePaymentProvidersInAnyCase)
 
 TEST_F(NavigationPolicy, leavesForeignPagesAndCallsToTheSystem)
 {
+    EXPECT_GE(std::size(navigationAddresses()), 60u);
     for (const auto& [written, delivered, navigation, newWindow] : navigationAddresses()) {
         if (delivered.empty())
             continue;

@@ -180,36 +180,6 @@ TEST_F(PageMessages, handOverReports)
     }
 }
 
-TEST_F(PageMessages, bearEveryValueInEveryMember)
-{
-    struct Bridge {
-        const char* name;
-        const char* required; // the member without which nothing is done; null: none
-        std::vector<const char*> members;
-    };
-    const Bridge bridges[] = {
-        {"authBridge", nullptr, {"firstname", "lastname"}},
-        {"routeBridge", "page", {"page"}},
-        {"onboardingBridge", nullptr, {"x"}},
-        {"notifyBridge", nullptr, {"title", "body", "url", "id"}},
-        {"logoutBridge", nullptr, {"x"}},
-        {"tabBridge", nullptr, {"x"}},
-    };
-    const Value values[] = {nullptr, true, 0, -1.5e300, "", "text", std::string("a\0b", 3),
-        "\uFFFD", Value::Array{"page"}, Value::Object{{"page", "x"}}};
-    const auto app = velmaro::TabbedAppModel::make();
-    for (const auto& [name, required, members] : bridges) {
-        for (const auto* member : members) {
-            for (const auto& value : values) {
-                const bool acts = post(name, Value::Object{{member, value}});
-                EXPECT_EQ(acts, !required || value.string()) << name << "." << member;
-            }
-        }
-    }
-    platform.mainQueue().runUntilIdle();
-    EXPECT_EQ(app->tabs().size(), 11u) << "ten new ones after the others were closed";
-}
-
 TEST_F(PageMessages, underUnknownNamesAreDropped)
 {
     for (const auto* name : {"", "AuthBridge", "unknownBridge"})

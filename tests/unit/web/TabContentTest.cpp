@@ -79,29 +79,3 @@ TEST_F(TabContents, progressRedrawsNothingButItsLine)
     EXPECT_LE(counts.applied, 2); // the line and its frame
     EXPECT_EQ(progress(), 0.7);
 }
-
-TEST_F(TabContents, keepTheWebViewWhateverComesAndGoes)
-{
-    open();
-    const auto webView = platform.webViews().at(0).lock();
-    for (const auto* title : {"a", "", "b"}) {
-        model->pageTitle = title;
-        model->isLoading = !model->isLoading();
-        platform.mainQueue().advance(1);
-    }
-    EXPECT_EQ(platform.webViews().size(), 1u);
-    EXPECT_EQ(webView->loads.size(), 1u);
-    EXPECT_EQ(webView->window(), window);
-}
-
-TEST_F(TabContents, showTheIconFaintlyWhereThereIsOne)
-{
-    open();
-    EXPECT_TRUE(window->content().findAll<ui::ApplicationIconNode>().empty());
-    platform.application().hasIcon = true;
-    open();
-    const auto text = window->content().describe();
-    EXPECT_NE(text.find("opacity 0.15"), std::string::npos);
-    EXPECT_NE(text.find("width 160 height 160"), std::string::npos);
-    EXPECT_EQ(window->content().findAll<ui::ApplicationIconNode>().size(), 1u);
-}

@@ -7,7 +7,6 @@
 using platform::Data;
 using velmaro::UserIdentity;
 using velmaro::WebModel;
-using Scripts = std::vector<std::string>;
 
 namespace {
 
@@ -38,14 +37,6 @@ struct ShownWebModel : WebModels {
 };
 
 } // namespace
-
-TEST_F(WebModels, startOnTheirRoute)
-{
-    EXPECT_EQ(WebModel().currentRoute(), "");
-    EXPECT_EQ(WebModel("newtab").currentRoute(), "newtab");
-    EXPECT_EQ(WebModel("").initialRoute, "");
-    EXPECT_NE(WebModel().id, WebModel().id);
-}
 
 TEST_F(WebModels, startWithTheStoredIdentity)
 {
@@ -115,44 +106,6 @@ TEST_F(WebModels, doNothingWithoutAWebView)
     model.goForward();
     model.handleDeepLink(*platform::URL::fromString("velmaro://fuel"));
     EXPECT_EQ(model.currentRoute(), "fuel");
-}
-
-TEST_F(ShownWebModel, evaluatesThePageScriptsToTheLetter)
-{
-    model.showRoute("o'brien");
-    model.showRouteAndCall("fu'el", "add'Fuel");
-    model.showRouteAndCall("drives", "viewDriveDetail", "a'b\\c");
-    model.reloadKeepingRoute();
-    EXPECT_EQ(webView->scripts,
-        (Scripts{
-            "if (typeof showPage === 'function') { showPage('obrien'); } else { location.href = "
-            "'/online#obrien'; }",
-            "(function(){\n  if (typeof showPage === 'function') { showPage('fuel'); } else { "
-            "location.href = "
-            "'/online#fuel'; }\n  if (typeof addFuel === 'function') { try { addFuel(); } "
-            "catch(_){} }\n})();",
-            "(function(){\n  if (typeof showPage === 'function') { showPage('drives'); } else { "
-            "location.href = "
-            "'/online#drives'; }\n  if (typeof viewDriveDetail === 'function') { try { "
-            "viewDriveDetail('a\\'b\\\\c'); } catch(_){} }\n})();",
-            "(function () {\n  try {\n    if (typeof _currentPage === 'string' && _currentPage) "
-            "{\n      if "
-            "(window.location.hash !== '#' + _currentPage) {\n        window.location.hash = "
-            "_currentPage;\n      "
-            "}\n    }\n  } catch (_) {}\n  window.location.reload();\n})();",
-        }));
-}
-
-TEST_F(ShownWebModel, goesBackAndForth)
-{
-    model.goBack();
-    webView->simulateHistory(true, true);
-    model.goBack();
-    model.goForward();
-    model.goForward();
-    EXPECT_EQ(webView->stepsBack, 1);
-    EXPECT_EQ(webView->stepsForward, 2);
-    EXPECT_TRUE(webView->scripts.empty());
 }
 
 TEST_F(ShownWebModel, followsDeepLinks)

@@ -1,0 +1,28 @@
+#include "MainLoop.h"
+
+#include <glib.h>
+
+namespace desktop {
+
+bool until(const std::function<bool()>& condition)
+{
+    constexpr guint pause = 20; // milliseconds, after which the loop turns though nothing happens
+    constexpr gint64 limit = 60 * G_USEC_PER_SEC;
+    const auto end = g_get_monotonic_time() + limit;
+    const auto pulse = g_timeout_add(
+        pause, [](gpointer) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr);
+    bool holds = condition();
+    while (!holds && g_get_monotonic_time() < end) {
+        g_main_context_iteration(nullptr, TRUE);
+        holds = condition();
+    }
+    g_source_remove(pulse);
+    return holds;
+}
+
+void runWaitingEvents()
+{
+    while (g_main_context_iteration(nullptr, FALSE)) { }
+}
+
+} // namespace desktop
