@@ -337,4 +337,15 @@ TEST_F(PolicyTest, framesStayOnTheServiceAndManyForeignOnesDoNotFreezeTheWindow)
     EXPECT_LT(longestPause, G_USEC_PER_SEC);
 }
 
+TEST_F(PolicyTest, redirectsElsewhereLeaveThePageAlone)
+{
+    ASSERT_TRUE(loads("/help", "Handbook — Velmaro Online"));
+    view->load({*platform::URL::fromString(service.origin() + "/hostile/redirect-elsewhere")});
+    EXPECT_TRUE(until([&] { return !program.starts().empty(); }));
+    EXPECT_TRUE(opened({elsewhere()}));
+    EXPECT_EQ(view->title(), "Handbook — Velmaro Online");
+
+    EXPECT_TRUE(loads("/checkout", "Checkout — Velmaro Online"));
+}
+
 } // namespace desktop

@@ -17,11 +17,18 @@ const nlohmann::json untidyTabs = {
 };
 const nlohmann::json tidyRoutes = {"drives", "vehicles", "fuel"};
 
-bool showsTheVehiclesPage(AppProcess& app, const DemoServiceProcess& service)
+// The other tabs may follow as soon as this one is complete.
+bool opensTheVehiclesPageFirst(AppProcess& app, const DemoServiceProcess& service)
 {
-    return app.waitForPage()
-        && eventually([&] { return !service.requests("/online/api/vehicles").empty(); })
-        && service.requests("/online").size() == 1 && service.requests("/online/api/fuel").empty();
+    if (!app.waitForPage() || !service.isAsked("/online/api/vehicles"))
+        return false;
+    for (const auto& request : service.requests()) {
+        for (const char* page : {"drives", "vehicles", "fuel"}) {
+            if (request.path == std::string("/online/api/") + page)
+                return request.path.ends_with("vehicles");
+        }
+    }
+    return false;
 }
 
 void closeWindow(AppProcess& app)
@@ -57,7 +64,7 @@ TEST(Restore, tabsAreSavedAtAnOrderlyEndAndComeBackAfterAnyEnd)
         SavedSettings::write(untidyTabs);
         service.forgetRequests();
         AppProcess app(service);
-        EXPECT_TRUE(showsTheVehiclesPage(app, service));
+        EXPECT_TRUE(opensTheVehiclesPageFirst(app, service));
         end(app);
         EXPECT_EQ(app.process().waitForExit(), isOrderly ? 0 : -SIGKILL);
         const auto& routes = isOrderly ? tidyRoutes : untidyTabs["vl.open.routes"];
@@ -66,7 +73,7 @@ TEST(Restore, tabsAreSavedAtAnOrderlyEndAndComeBackAfterAnyEnd)
     }
     service.forgetRequests();
     AppProcess next(service);
-    EXPECT_TRUE(showsTheVehiclesPage(next, service));
+    EXPECT_TRUE(opensTheVehiclesPageFirst(next, service));
 }
 
 } // namespace desktop

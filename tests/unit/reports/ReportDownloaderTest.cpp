@@ -184,7 +184,7 @@ TEST_F(Reports, arePrintedOnePageWideUnderTheirTitle)
 {
     platform::NSPrintInfo::shared().topMargin = 5;
     platform.application().simulateBareWindow({});
-    const auto& operation = openPanel();
+    auto& operation = openPanel();
     EXPECT_EQ(operation.jobTitle, "Drives");
     const auto& info = operation.printInfo;
     EXPECT_EQ(info.jobDisposition, NSPrintInfo::JobDisposition::spool);
@@ -193,6 +193,7 @@ TEST_F(Reports, arePrintedOnePageWideUnderTheirTitle)
     EXPECT_EQ(info.horizontalPagination, NSPrintInfo::PaginationMode::fit);
     EXPECT_EQ(info.verticalPagination, NSPrintInfo::PaginationMode::automatic);
     EXPECT_EQ(NSPrintInfo::shared().topMargin, 5) << "others have their own";
+    operation.simulateEnd(true);
 }
 
 TEST_F(Reports, endTheirPrintInSilenceHoweverItEnds)
