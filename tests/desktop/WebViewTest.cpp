@@ -1,5 +1,9 @@
 #include "webview/WebViewTest.h"
 
+#include "harness/Desktop.h"
+
+#include <algorithm>
+
 namespace desktop {
 
 using CachePolicy = platform::URLRequest::CachePolicy;
@@ -148,6 +152,31 @@ TEST_F(WebViewTest, showsOverlayScrollersAndNoBackgroundOfItsOwn)
     GdkRGBA color;
     webkit_web_view_get_background_color(native(), &color);
     EXPECT_EQ(color.alpha, 0);
+}
+
+TEST_F(WebViewTest, nothingIsLeftOfASearchOnceTheSelectionIsCleared)
+{
+    server.pages["/"].body = "<title>Home</title><h1>one two one</h1>";
+    openView();
+    window->set_title("Search");
+    ASSERT_TRUE(loads("/"));
+    const auto isColorful = [] { // as matches are, in a page of black and white
+        const auto shown = Desktop::window("Search");
+        const auto picture = shown ? shown->picture() : std::nullopt;
+        return picture && std::ranges::any_of(picture->pixels, [](std::uint32_t pixel) {
+            const auto [least, most] = std::minmax({pixel >> 16, pixel >> 8 & 0xff, pixel & 0xff});
+            return most - least > 0x60;
+        });
+    };
+    EXPECT_FALSE(isColorful());
+    for (int count = 0; count < 2; ++count) {
+        bool isFound = false;
+        view->find(
+            "one", {.wraps = true}, [&](const auto& result) { isFound = result.matchFound; });
+        EXPECT_TRUE(until([&] { return isFound && isColorful(); }));
+    }
+    view->evaluateJavaScript("getSelection().removeAllRanges()");
+    EXPECT_TRUE(until([&] { return !isColorful(); }));
 }
 
 TEST_F(WebViewTest, pinchesOnlyWhereThatIsAllowed)

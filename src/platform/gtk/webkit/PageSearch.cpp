@@ -34,8 +34,6 @@ void PageSearch::find(const std::string& text, const platform::WKFindConfigurati
     Completion completion)
 {
     waiting_.push_back(std::move(completion));
-    // Without a limit of matches only the current one is selected, which clearing the selection
-    // undoes.
     webkit_find_controller_search(controller_, text.c_str(), optionsOf(configuration), 0);
 }
 
@@ -45,6 +43,8 @@ void PageSearch::answer(bool matchFound)
         return;
     const auto completion = std::move(waiting_.front());
     waiting_.pop_front();
+    // Takes the engine's own marks away, of which clearing the selection would leave some.
+    webkit_find_controller_search_finish(controller_);
     completion({.matchFound = matchFound});
 }
 

@@ -4,15 +4,32 @@
 
 namespace gtk {
 
+namespace {
+
+// While the keyboard is in the find field, the match that is selected in the page is as well to be
+// seen as when it is in the page. Pages may have it otherwise.
+constexpr auto selectionStyle = "::selection { background-color: Highlight; color: HighlightText }";
+
+} // namespace
+
 UserContent::UserContent(
     const platform::WKUserContentController& controller, std::function<bool()> acceptsMessages)
     : manager_(webkit_user_content_manager_new())
     , acceptsMessages_(std::move(acceptsMessages))
 {
+    addStyle(selectionStyle);
     for (const auto& script : controller.userScripts)
         addScript(script);
     for (const auto& receiver : controller.scriptMessageHandlers)
         addBridge(receiver);
+}
+
+void UserContent::addStyle(const char* source)
+{
+    auto* style = webkit_user_style_sheet_new(source, WEBKIT_USER_CONTENT_INJECT_ALL_FRAMES,
+        WEBKIT_USER_STYLE_LEVEL_USER, nullptr, nullptr);
+    webkit_user_content_manager_add_style_sheet(manager_.get(), style);
+    webkit_user_style_sheet_unref(style);
 }
 
 void UserContent::addScript(const platform::WKUserScript& script)

@@ -23,6 +23,7 @@ private:
         platform::WKUserContentController::MessageHandler receiver;
     };
 
+    void addStyle(const char* source);
     void addScript(const platform::WKUserScript& script);
     void addBridge(const platform::WKUserContentController::MessageHandler& receiver);
     static void receive(WebKitUserContentManager*, JSCValue* body, Bridge* bridge);
