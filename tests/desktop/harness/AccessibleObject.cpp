@@ -9,6 +9,7 @@ namespace {
 using Answer = std::unique_ptr<GVariant, decltype(&g_variant_unref)>;
 
 constexpr int limit = 5000; // milliseconds, for each question
+constexpr guint32 inWindow = 1; // number of the coordinates in the protocol
 constexpr guint visible = 30; // number of the state in the protocol
 
 Answer ask(GDBusConnection* bus, const char* program, const char* path, const char* interface,
@@ -88,6 +89,17 @@ std::string AccessibleObject::role() const
     if (answer)
         g_variant_get(answer.get(), "(&s)", &role);
     return role;
+}
+
+Rectangle AccessibleObject::bounds() const
+{
+    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
+        "org.a11y.atspi.Component", "GetExtents", g_variant_new("(u)", inWindow));
+    Rectangle bounds;
+    if (answer)
+        g_variant_get(
+            answer.get(), "((iiii))", &bounds.x, &bounds.y, &bounds.width, &bounds.height);
+    return bounds;
 }
 
 bool AccessibleObject::activate() const

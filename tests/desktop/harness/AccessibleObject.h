@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Rectangle.h"
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,6 +21,9 @@ public:
     static int count(int pid, const std::string& role);
 
     std::string role() const;
+
+    // In pixels of the window that it is in.
+    Rectangle bounds() const;
 
     // Does what a click does. False when the object cannot be clicked.
     bool activate() const;

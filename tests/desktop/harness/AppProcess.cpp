@@ -90,6 +90,16 @@ bool AppProcess::press(const std::string& control) const
     }) && found->activate();
 }
 
+std::optional<Point> AppProcess::place(const std::string& control)
+{
+    const auto window = waitForWindow();
+    if (!window || !shows(control))
+        return {};
+    const auto frame = window->frame();
+    const auto bounds = AccessibleObject::find(process_.pid(), control)->bounds();
+    return Point{frame.x + bounds.x + bounds.width / 2, frame.y + bounds.y + bounds.height / 2};
+}
+
 void AppProcess::pressFirstControlOfPage()
 {
     const auto window = waitForWindow();

@@ -33,6 +33,10 @@ public:
     // Clicks on that control as soon as it is on screen. False when it does not come.
     [[nodiscard]] bool press(const std::string& control) const;
 
+    // The middle of that control in pixels of the screen, as soon as it is there. Absent when it
+    // does not come.
+    std::optional<Point> place(const std::string& control);
+
     // Clicks into the page, so that it has the keyboard, and presses its first control, with which
     // somebody signs in on the page that asks for it.
     void pressFirstControlOfPage();

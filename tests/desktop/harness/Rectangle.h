@@ -5,6 +5,14 @@
 namespace desktop {
 
 // In pixels from the upper left corner of the screen.
+struct Point {
+    int x = 0;
+    int y = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
+// In pixels likewise, where nothing else is said.
 struct Rectangle {
     int x = 0;
     int y = 0;

@@ -22,6 +22,11 @@ void UserInput::press(const std::string& key)
     run({"key", "--clearmodifiers", key});
 }
 
+void UserInput::press(const std::string& key, int times)
+{
+    run({"key", "--clearmodifiers", "--delay", "0", "--repeat", std::to_string(times), key});
+}
+
 void UserInput::type(const std::string& text)
 {
     run({"type", "--delay", "1", text});
@@ -40,6 +45,18 @@ void UserInput::click(int button)
 void UserInput::click(int x, int y, int button)
 {
     run({"mousemove", std::to_string(x), std::to_string(y), "click", std::to_string(button)});
+}
+
+void UserInput::drag(Point from, Point to)
+{
+    constexpr int steps = 20; // a drag in one leap is none
+    movePointer(from.x, from.y);
+    run({"mousedown", "1"});
+    for (int step = 1; step <= steps; ++step) {
+        run({"mousemove", std::to_string(from.x + (to.x - from.x) * step / steps),
+            std::to_string(from.y + (to.y - from.y) * step / steps), "sleep", "0.02"});
+    }
+    run({"mouseup", "1"});
 }
 
 } // namespace desktop

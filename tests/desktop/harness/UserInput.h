@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Rectangle.h"
+
 #include <string>
 
 namespace desktop {
@@ -11,6 +13,9 @@ public:
     // One key with its modifiers, such as "Return" or "ctrl+a".
     static void press(const std::string& key);
 
+    // The same key so many times, as fast as can be.
+    static void press(const std::string& key, int times);
+
     static void type(const std::string& text);
 
     // In pixels from the upper left corner of the screen.
@@ -19,6 +24,9 @@ public:
     static void click(int button = leftButton);
     // Moves the pointer there, in pixels from the upper left corner of the screen, and clicks.
     static void click(int x, int y, int button = leftButton);
+
+    // Presses the left button at one place of the screen and lets it go at another one.
+    static void drag(Point from, Point to);
 
     static constexpr int leftButton = 1;
     static constexpr int middleButton = 2;
