@@ -41,6 +41,7 @@ void showReportSavedAlert(const URL& file)
     const NSAlert alert{
         .messageText = "Report saved",
         .informativeText = "Saved " + file.lastPathComponent() + " to your Downloads folder.",
+        .alertStyle = NSAlert::Style::informational,
         .buttons = {"Share…", "Reveal in Finder", "Done"},
     };
     alert.runModal([file](int button) {

@@ -48,6 +48,7 @@ void showExportSavedAlert(const URL& file)
     const NSAlert alert{
         .messageText = "Export saved",
         .informativeText = "Saved " + file.lastPathComponent() + " to your Downloads folder.",
+        .alertStyle = NSAlert::Style::informational,
         .buttons = {"Reveal in Finder", "Done"},
     };
     alert.runModal([file](int button) {

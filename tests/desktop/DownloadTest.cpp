@@ -244,6 +244,23 @@ TEST_F(DownloadTest, leavesNothingBehindWhenItFails)
     EXPECT_TRUE(coordinator->downloadDestinations.empty());
 }
 
+TEST_F(DownloadTest, removesWhatAProgramThatWasStoppedHardHasLeft)
+{
+    offer("", {.body = std::string(1 << 20, 'x'), .isStalled = true});
+    ASSERT_TRUE(until([&] { return !names().empty(); }));
+    const auto running = *names().begin();
+    const auto left = folder / ".velmaro-download-abcdef";
+    std::filesystem::create_directory(left);
+    std::ofstream(left / "unfinished") << "half";
+    const auto notOurs = folder / ".velmaro-download-notes.txt";
+    std::ofstream(notOurs) << "the user's";
+
+    offer("; filename=report.csv");
+
+    ASSERT_TRUE(ends(1, State::finished));
+    EXPECT_EQ(names(), (std::set<std::string>{running, notOurs.filename().string(), "report.csv"}));
+}
+
 TEST_F(DownloadTest, failsWhereNothingCanBeWritten)
 {
     setDownloadsFolder("/proc/downloads");

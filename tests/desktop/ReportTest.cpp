@@ -1,5 +1,6 @@
 // Reports of the demo's pages, as somebody at the desktop saves and prints them.
 
+#include "harness/FakeService.h"
 #include "harness/ReportsPage.h"
 #include "harness/SavedSettings.h"
 
@@ -9,6 +10,37 @@
 namespace desktop {
 
 namespace {
+
+// The desktop's file manager; it notes what it is to show.
+class FakeFileManager final : public FakeService {
+public:
+    FakeFileManager()
+        : FakeService("DBUS_SESSION_BUS_ADDRESS", "org.freedesktop.FileManager1")
+    {
+        start();
+    }
+    ~FakeFileManager() override { stop(); }
+
+private:
+    void registerObjects() override
+    {
+        registerObject("/org/freedesktop/FileManager1",
+            R"(<node><interface name="org.freedesktop.FileManager1">
+                 <method name="ShowItems">
+                   <arg direction="in" type="as"/><arg direction="in" type="s"/>
+                 </method>
+               </interface></node>)");
+    }
+
+    void handle(const std::string&, GVariant* arguments, GDBusMethodInvocation* invocation) override
+    {
+        g_autofree const char** addresses = nullptr;
+        g_variant_get(arguments, "(^a&ss)", &addresses, nullptr);
+        for (auto address = addresses; *address; ++address)
+            note(*address);
+        g_dbus_method_invocation_return_value(invocation, nullptr);
+    }
+};
 
 class Report : public testing::Test {
 protected:
@@ -34,8 +66,9 @@ protected:
 
 } // namespace
 
-TEST_F(Report, isSavedFromThePage)
+TEST_F(Report, isSavedFromThePageAndShownInItsFolder)
 {
+    const FakeFileManager fileManager;
     AppProcess app(service_);
     ASSERT_TRUE(ReportsPage::pressSave(app));
     EXPECT_TRUE(app.shows("Share…"));
@@ -48,6 +81,11 @@ TEST_F(Report, isSavedFromThePage)
     EXPECT_EQ(text.waitForExit(), 0);
     EXPECT_NE(text.output().find("Energy costs by month"), std::string::npos);
     EXPECT_TRUE(endsItsProcess(app));
+
+    EXPECT_TRUE(app.press("Reveal in Finder"));
+    EXPECT_TRUE(eventually([&] { return !fileManager.calls().empty(); }));
+    EXPECT_EQ(fileManager.calls(),
+        std::vector{"file://" + downloads_.string() + "/Velmaro%20report%202026-10.pdf"});
 }
 
 TEST_F(Report, thatCannotBeWrittenSaysWhyAndLeavesNothing)
@@ -56,7 +94,7 @@ TEST_F(Report, thatCannotBeWrittenSaysWhyAndLeavesNothing)
     AppProcess app(service_);
     ASSERT_TRUE(ReportsPage::pressSave(app));
     EXPECT_TRUE(app.shows("Couldn't save PDF: Not a directory"));
-    EXPECT_TRUE(app.press("OK"));
+    EXPECT_TRUE(app.press("OK") && app.loses("OK"));
     EXPECT_TRUE(std::filesystem::is_regular_file(downloads_));
 }
 

@@ -13,6 +13,8 @@ protected:
             {.source = "webkit.messageHandlers.probe.postMessage('hello ' + location.href)",
                 .injectionTime = platform::WKUserScript::InjectionTime::atDocumentStart}};
         server.pages["/two"] = {.body = "<title>Two</title>"};
+        server.pages["/file"] = {.body = "bytes",
+            .headers = {{"Content-Disposition", "attachment"}, {"Content-Type", "text/csv"}}};
         applyPatience();
     }
 
@@ -254,17 +256,40 @@ TEST_F(WebViewRecoveryTest, aPageThatIsCutOffIsCovered)
     EXPECT_TRUE(isReadyWith("Whole"));
 }
 
-TEST_F(WebViewRecoveryTest, anAddressWithoutAPageIsNoDeadEnd)
+TEST_F(WebViewRecoveryTest, anAddressWithoutAPageIsTriedAgainOnlyByAPerson)
 {
-    server.pages["/file"] = {.body = "bytes",
-        .headers = {{"Content-Disposition", "attachment"}, {"Content-Type", "text/csv"}}};
     openView();
-
     load("/file");
-
     ASSERT_TRUE(failsWith("Page Unavailable"));
-    EXPECT_TRUE(loads("/"));
-    EXPECT_FALSE(panel());
+
+    view->setShown(false);
+    view->setShown(true);
+    g_signal_emit_by_name(g_network_monitor_get_default(), "network-changed", TRUE);
+    EXPECT_FALSE(view->isLoading());
+    EXPECT_EQ(server.requestCount("/file"), 1u);
+
+    server.pages["/file"] = {.body = "<title>A page</title>"};
+    pressTryAgain();
+    EXPECT_TRUE(isReadyWith("A page"));
+}
+
+TEST_F(WebViewRecoveryTest, aLoadOfWhichNothingCameIsNotMadeInPlaceOfALaterOne)
+{
+    server.pages["/slow"] = {.body = "", .isSilent = true};
+    openView();
+    for (const auto* path : {"/file", "/slow"}) {
+        SCOPED_TRACE(path);
+        ASSERT_TRUE(loads("/"));
+        load(path);
+        ASSERT_TRUE(until([&] { return server.requestCount(path) == 1; }));
+        server.stop();
+        view->evaluateJavaScript("location.href = '/two'");
+        ASSERT_TRUE(failsWith("Page Unavailable"));
+
+        server.restart();
+        pressTryAgain();
+        EXPECT_TRUE(isReadyWith("Two"));
+    }
 }
 
 TEST_F(WebViewRecoveryTest, aLoadThatReplacesAnotherIsNoFailure)

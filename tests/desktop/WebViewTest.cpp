@@ -1,4 +1,5 @@
 #include "webview/WebViewTest.h"
+#include "platform/gtk/ui/ThemeColor.h"
 
 #include "harness/Desktop.h"
 
@@ -149,9 +150,14 @@ TEST_F(WebViewTest, showsOverlayScrollersAndNoBackgroundOfItsOwn)
     ASSERT_TRUE(loads("/"));
 
     EXPECT_EQ(valueOf("innerWidth - document.documentElement.clientWidth"), 0);
-    GdkRGBA color;
-    webkit_web_view_get_background_color(native(), &color);
-    EXPECT_EQ(color.alpha, 0);
+    for (const bool isDark : {true, false}) {
+        Gtk::Settings::get_default()->property_gtk_application_prefer_dark_theme() = isDark;
+        const auto expected = gtk::themeColor(*window, ui::Color::windowBackground);
+        GdkRGBA color;
+        webkit_web_view_get_background_color(native(), &color);
+        EXPECT_EQ(Gdk::RGBA(&color), expected);
+        EXPECT_EQ(expected.get_red() < 0.5, isDark);
+    }
 }
 
 TEST_F(WebViewTest, nothingIsLeftOfASearchOnceTheSelectionIsCleared)

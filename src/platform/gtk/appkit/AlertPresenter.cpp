@@ -88,8 +88,10 @@ void AlertPresenter::showFirst()
         alert.messageText, false, messageType(alert.alertStyle), Gtk::ButtonsType::NONE, true);
     if (!alert.informativeText.empty())
         dialog_->set_secondary_text(alert.informativeText);
-    for (std::size_t number = 0; number < alert.buttons.size(); ++number)
-        dialog_->add_button(alert.buttons[number], static_cast<int>(number));
+    for (std::size_t number = 0; number < alert.buttons.size(); ++number) {
+        const auto& title = alert.buttons[number];
+        setAccessibleName(*dialog_->add_button(title, static_cast<int>(number)), title);
+    }
     dialog_->set_default_response(platform::NSAlert::firstButton);
     dialog_->get_widget_for_response(platform::NSAlert::firstButton)
         ->add_css_class("suggested-action");

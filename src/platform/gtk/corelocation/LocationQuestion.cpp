@@ -1,6 +1,7 @@
 #include "platform/gtk/corelocation/LocationQuestion.h"
 
 #include "platform/gtk/corelocation/LocationPermission.h"
+#include "platform/gtk/ui/AccessibleName.h"
 
 #include <glibmm/main.h>
 #include <gtkmm/application.h>
@@ -24,8 +25,11 @@ void askForLocation(std::function<void(bool isAllowed)> answer)
     auto* alert = new Gtk::MessageDialog(LocationPermission::question, false,
         Gtk::MessageType::QUESTION, Gtk::ButtonsType::NONE, true);
     alert->set_secondary_text(LocationPermission::explanation);
-    alert->add_button(LocationPermission::deny, Gtk::ResponseType::REJECT);
-    alert->add_button(LocationPermission::allow, Gtk::ResponseType::ACCEPT);
+    const auto addButton = [&](const char* title, Gtk::ResponseType response) {
+        setAccessibleName(*alert->add_button(title, response), title);
+    };
+    addButton(LocationPermission::deny, Gtk::ResponseType::REJECT);
+    addButton(LocationPermission::allow, Gtk::ResponseType::ACCEPT);
     alert->set_default_response(Gtk::ResponseType::ACCEPT);
     if (auto* window = activeWindow())
         alert->set_transient_for(*window);

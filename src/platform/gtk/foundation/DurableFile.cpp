@@ -104,6 +104,9 @@ Contents read(const std::filesystem::path& path)
     }
 
     Contents contents{.text = {}, .failure = {}, .exists = true};
+    struct stat status = {};
+    if (::fstat(file.number(), &status) == 0)
+        contents.text.reserve(static_cast<std::size_t>(status.st_size));
     char buffer[16384];
     while (true) {
         const auto count = ::read(file.number(), buffer, sizeof buffer);

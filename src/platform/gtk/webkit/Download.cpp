@@ -1,44 +1,15 @@
 #include "platform/gtk/webkit/Download.h"
 
-#include "platform/foundation/DispatchQueue.h"
-
 #include "platform/foundation/FileName.h"
 #include "platform/gtk/foundation/Renaming.h"
 
 #include <cerrno>
 #include <cmath>
-#include <cstdlib>
 #include <utility>
 
 namespace gtk {
 
 using platform::URL;
-
-namespace {
-
-constexpr auto folderPattern = ".velmaro-download-XXXXXX";
-constexpr double secondsToStop = 1;
-constexpr auto unfinishedName = "unfinished";
-
-// A new folder that only this user can look into; empty, with `errno` set, when it cannot be made.
-std::filesystem::path makeFolder(const std::filesystem::path& parent)
-{
-    auto path = (parent / folderPattern).string();
-    return mkdtemp(path.data()) ? path : "";
-}
-
-// The engine may still be writing, and has stopped by the second time.
-void removeUnfinished(const std::filesystem::path& folder)
-{
-    const auto remove = [folder] {
-        std::error_code error;
-        std::filesystem::remove_all(folder, error);
-    };
-    remove();
-    platform::DispatchQueue::main().asyncAfter(secondsToStop, remove);
-}
-
-} // namespace
 
 Download::Download(WebKitDownload* download, std::function<void(Download&)> onEnd)
     : download_(retain(download))
@@ -105,16 +76,17 @@ void Download::receiveInto(const std::optional<URL>& destination)
     if (!destination || !destination->isFileURL())
         return cancel();
     destination_ = destination->path();
-    folder_ = makeFolder(destination_.parent_path());
-    if (folder_.empty())
-        return stop("The folder " + destination_.parent_path().string()
-            + " cannot be written to: " + g_strerror(errno));
-    webkit_download_set_destination(download_.get(), (folder_ / unfinishedName).c_str());
+    const auto parent = destination_.parent_path();
+    folder_ = std::make_unique<UnfinishedFolder>(parent);
+    if (folder_->error())
+        return stop("The folder " + parent.string()
+            + " cannot be written to: " + g_strerror(folder_->error()));
+    webkit_download_set_destination(download_.get(), folder_->file().c_str());
 }
 
 void Download::moveToDestination()
 {
-    const int error = renameWithoutReplacing(folder_ / unfinishedName, destination_);
+    const int error = renameWithoutReplacing(folder_->file(), destination_);
     if (error == 0)
         return finish();
     if (error != EEXIST)
@@ -134,8 +106,7 @@ void Download::moveToDestination()
 void Download::finish()
 {
     const auto onEnd = std::exchange(onEnd_, nullptr);
-    std::error_code error; // a folder that stays is empty and hidden
-    std::filesystem::remove(folder_, error);
+    folder_.reset();
     if (const auto owner = delegate.lock())
         owner->downloadDidFinish(shared_from_this());
     onEnd(*this);
@@ -155,8 +126,7 @@ void Download::fail(const std::string& reason)
     const auto onEnd = std::exchange(onEnd_, nullptr);
     if (!onEnd)
         return;
-    if (!folder_.empty())
-        removeUnfinished(folder_);
+    folder_.reset();
     const auto owner = delegate.lock();
     const auto self = weak_from_this().lock(); // null on its way out
     if (owner && self)

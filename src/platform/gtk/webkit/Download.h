@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/gtk/webkit/SignalHandlers.h"
+#include "platform/gtk/webkit/UnfinishedFolder.h"
 #include "platform/webkit/WKDownload.h"
 
 #include <filesystem>
@@ -36,7 +37,7 @@ private:
     const ObjectPointer<WebKitDownload> download_;
     std::function<void(Download&)> onEnd_; // empty once it has ended
     std::string suggestedName_;
-    std::filesystem::path folder_; // of the unfinished file; empty while there is none
+    std::unique_ptr<UnfinishedFolder> folder_; // null while nothing has been received
     std::filesystem::path destination_;
     SignalHandlers signals_;
 };

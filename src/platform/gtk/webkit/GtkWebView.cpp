@@ -63,6 +63,7 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
               },
               [this] { frontPage_->readinessChanged(this, keeper_.isReady()); },
           })
+    , background_(view_.get(), area_)
     , search_(view_.get())
     , output_(view_.get(), engine.printChoice())
     , requests_(view_.get(), *this)
@@ -247,9 +248,7 @@ void GtkWebView::setUsesOverlayScrollers(bool isOverlay)
 
 void GtkWebView::setDrawsBackground(bool isDrawn)
 {
-    constexpr GdkRGBA white = {1, 1, 1, 1};
-    constexpr GdkRGBA clear = {0, 0, 0, 0};
-    webkit_web_view_set_background_color(view_.get(), isDrawn ? &white : &clear);
+    background_.setWhite(isDrawn);
 }
 
 } // namespace gtk

@@ -2,6 +2,7 @@
 
 #include "platform/gtk/ui/NativeView.h"
 #include "platform/gtk/webkit/FileDrop.h"
+#include "platform/gtk/webkit/PageBackground.h"
 #include "platform/gtk/webkit/PageDownloads.h"
 #include "platform/gtk/webkit/PageKeeper.h"
 #include "platform/gtk/webkit/PageOutput.h"
@@ -79,6 +80,7 @@ private:
     const ObjectPointer<WebKitWebView> view_;
     Gtk::Overlay area_;
     PageKeeper keeper_;
+    PageBackground background_;
     PageSearch search_;
     PageOutput output_;
     PageRequests requests_;

@@ -24,8 +24,9 @@ struct LoadFailure {
     // A sentence or two.
     const char* explanation() const;
 
-    // Whether it may pass without anybody doing anything here.
-    bool mayPass() const { return reason != Reason::processDied; }
+    // Whether it may pass without anybody doing anything here. An address without a page is none
+    // the next time either, and asking for it may open a program or save a file each time.
+    bool mayPass() const { return reason != Reason::processDied && reason != Reason::noPage; }
 
     Reason reason;
     std::string address;

@@ -111,8 +111,13 @@ gboolean PageKeeper::loadFailed(
         reason = LoadFailure::Reason::timeout;
     else if (!reason && error->domain == WEBKIT_POLICY_ERROR && hasNothingToShow)
         reason = LoadFailure::Reason::noPage;
-    if (!reason)
+    if (!reason) {
+        // Nothing comes of the load, so it is not what is to be tried again when another one fails.
+        // One that it was given up for may already have been asked for.
+        if (error->domain == WEBKIT_POLICY_ERROR || self->isAskedFor(address))
+            self->request_.reset();
         return TRUE;
+    }
 
     if (event == WEBKIT_LOAD_COMMITTED)
         self->hasPage_ = false; // half of one is none
@@ -138,6 +143,11 @@ gboolean PageKeeper::certificateFailed(WebKitWebView* view, char* address,
 void PageKeeper::processDied(WebKitWebView*, WebKitWebProcessTerminationReason, PageKeeper* self)
 {
     self->replaceProcess();
+}
+
+bool PageKeeper::isAskedFor(const std::string& address) const
+{
+    return request_ && request_->url.absoluteString() == address;
 }
 
 void PageKeeper::send(const std::string& address, bool revalidates, double secondsToAnswer)

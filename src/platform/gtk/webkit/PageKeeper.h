@@ -53,6 +53,7 @@ private:
         GTlsCertificateFlags, PageKeeper* self);
     static void processDied(WebKitWebView*, WebKitWebProcessTerminationReason, PageKeeper* self);
 
+    bool isAskedFor(const std::string& address) const;
     void send(const std::string& address, bool revalidates, double secondsToAnswer);
     void awaitAnswer(double seconds);
     void giveUp();
