@@ -261,6 +261,27 @@ TEST_F(DownloadTest, removesWhatAProgramThatWasStoppedHardHasLeft)
     EXPECT_EQ(names(), (std::set<std::string>{running, notOurs.filename().string(), "report.csv"}));
 }
 
+TEST_F(DownloadTest, goesOnWithoutThePageThatBeganIt)
+{
+    const std::string whole(std::size_t(64) << 20, 'x');
+    offer("", {.body = whole});
+    ASSERT_TRUE(until([&] { return !names().empty(); }));
+    ASSERT_EQ(items()[0].state, State::running);
+    webkit_web_view_terminate_web_process(native());
+    ASSERT_TRUE(ends(0, State::finished));
+    EXPECT_EQ(contentsOf(folder / "file"), whole);
+    EXPECT_TRUE(isReadyWith("Home"));
+
+    offer("", {.body = whole.substr(0, 1 << 20), .isStalled = true});
+    ASSERT_TRUE(until([&] { return items().size() == 2 && names().size() == 2; }));
+    webkit_web_view_terminate_web_process(native());
+    EXPECT_TRUE(until([&] { return panel() != nullptr; })); // the second death so soon
+    EXPECT_EQ(items()[1].state, State::running);
+    items()[1].download->cancel();
+    EXPECT_TRUE(ends(1, State::failed));
+    EXPECT_TRUE(until([&] { return names() == std::set<std::string>{"file"}; }));
+}
+
 TEST_F(DownloadTest, failsWhereNothingCanBeWritten)
 {
     setDownloadsFolder("/proc/downloads");

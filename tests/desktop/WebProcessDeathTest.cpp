@@ -1,0 +1,95 @@
+// The processes of pages die while the program is busy with something else.
+
+#include "harness/AccessibleObject.h"
+#include "harness/AppProcess.h"
+#include "harness/Files.h"
+#include "harness/SavedCookies.h"
+#include "harness/SavedSettings.h"
+#include "harness/UserInput.h"
+
+#include <algorithm>
+#include <csignal>
+#include <gtest/gtest.h>
+
+namespace desktop {
+
+namespace {
+
+// Before it listens to the program, a process has told the engine its number. Without that the
+// engine would end the program.
+bool listens(pid_t process)
+{
+    std::error_code error;
+    const auto threads = "/proc/" + std::to_string(process) + "/task";
+    const std::filesystem::directory_iterator entries(threads, error);
+    return std::any_of(begin(entries), end(entries),
+        [](const auto& thread) { return contentsOf(thread.path() / "comm") == "ReceiveQueue\n"; });
+}
+
+// Kills that of the page and those that the engine keeps for later pages: which is which cannot be
+// told from outside.
+bool killWebProcesses(AppProcess& app)
+{
+    std::vector<pid_t> processes;
+    const bool areReady = eventually([&] {
+        processes = app.webProcesses();
+        return !processes.empty() && std::ranges::all_of(processes, listens);
+    });
+    for (const auto process : processes)
+        kill(process, SIGKILL);
+    return areReady;
+}
+
+bool hasTabs(AppProcess& app, int count)
+{
+    return eventually([&] { return AccessibleObject::count(app.process().pid(), "tab") == count; });
+}
+
+bool askToClear(AppProcess& app)
+{
+    if (!app.waitForPage())
+        return false;
+    UserInput::press("alt+h");
+    if (!app.shows("Clear All Cache…"))
+        return false;
+    UserInput::press("Up");
+    UserInput::press("Up");
+    UserInput::press("Return");
+    return app.shows("Clear all cached data?");
+}
+
+// Somebody who is signed in and has left two tabs.
+class WebProcessDeath : public testing::Test {
+protected:
+    void saveTabs(const nlohmann::json& routes)
+    {
+        SavedCookies::signIn("Robin", "Alder");
+        SavedSettings::write({{"vl.open.routes", routes}, {"vl.onboarding.shown", true}});
+        SavedSettings::writePermissions({{"notificationsAllowed", false}});
+        service.forgetRequests();
+    }
+
+    DemoServiceProcess service;
+};
+
+} // namespace
+
+TEST_F(WebProcessDeath, afterClearingWasConfirmedStillEndsOnTheWelcomePage)
+{
+    saveTabs({"drives", "vehicles"});
+    AppProcess app(service);
+    ASSERT_TRUE(askToClear(app));
+
+    UserInput::press("Return");
+    ASSERT_TRUE(eventually([] { return !SavedSettings::read().contains("vl.open.routes"); }));
+    ASSERT_TRUE(killWebProcesses(app));
+
+    EXPECT_TRUE(service.isAsked("/online/welcome.php"));
+    EXPECT_TRUE(app.waitForPage());
+    EXPECT_TRUE(hasTabs(app, 1));
+    app.process().signal(SIGTERM);
+    EXPECT_EQ(app.process().waitForExit(), 0);
+    EXPECT_FALSE(SavedSettings::read().contains("vl.open.routes"));
+}
+
+} // namespace desktop
