@@ -30,9 +30,11 @@ URL uniqueDestination(const URL& folder, const std::string& name)
         extension.insert(0, ".");
     const auto base = name.substr(0, name.size() - extension.size());
 
+    const auto numbered = [&](int number) {
+        return base + " (" + std::to_string(number) + ")" + extension;
+    };
     for (int number = 2; FileManager::defaultManager().fileExists(candidate); ++number)
-        candidate =
-            folder.appendingPathComponent(base + " (" + std::to_string(number) + ")" + extension);
+        candidate = folder.appendingPathComponent(numbered(number));
     return candidate;
 }
 

@@ -75,7 +75,7 @@ AlertPresenter::~AlertPresenter() = default;
 void AlertPresenter::run(platform::NSAlert alert, std::function<void(int button)> completion)
 {
     if (alert.buttons.empty())
-        alert.buttons.push_back("OK");
+        alert.buttons.emplace_back("OK");
     waiting_.push_back({std::move(alert), std::move(completion)});
     if (!dialog_)
         showFirst();
