@@ -96,7 +96,7 @@ std::shared_ptr<WindowSizer::Coordinator> WindowSizer::makeCoordinator() const
 
 std::shared_ptr<NSView> WindowSizer::makeNSView(Coordinator& coordinator) const
 {
-    const auto view = platform::Platform::current().makeView();
+    auto view = platform::Platform::current().makeView();
     updateNSView(*view, coordinator);
     return view;
 }

@@ -11,7 +11,6 @@ using ui::Button;
 using ui::ButtonStyle;
 using ui::Color;
 using ui::Divider;
-using ui::Fill;
 using ui::Font;
 using ui::HStack;
 using ui::RoundedRectangle;

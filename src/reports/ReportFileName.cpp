@@ -49,7 +49,7 @@ URL reportFileURL(const std::string& name, std::chrono::system_clock::time_point
     auto& files = FileManager::defaultManager();
     const auto folder = files.downloadsDirectory(false).value_or(files.temporaryDirectory());
     const auto clean = cleanReportName(name);
-    const auto file = folder.appendingPathComponent(clean + fileExtension);
+    auto file = folder.appendingPathComponent(clean + fileExtension);
     if (!files.fileExists(file))
         return file;
     return folder.appendingPathComponent(clean + " " + stamp(now) + fileExtension);

@@ -55,7 +55,7 @@ std::shared_ptr<TabbedAppModel> TabbedAppModel::shared()
 
 std::shared_ptr<TabbedAppModel> TabbedAppModel::make()
 {
-    const std::shared_ptr<TabbedAppModel> model(new TabbedAppModel);
+    std::shared_ptr<TabbedAppModel> model(new TabbedAppModel);
     platform::Platform::current().shared<SharedModel>().model = model;
     model->terminationObserver_ =
         NotificationCenter::defaultCenter().addObserver(NSApplication::willTerminateNotification,

@@ -20,7 +20,7 @@ std::shared_ptr<AutoFocusedFindField::Coordinator> AutoFocusedFindField::makeCoo
 
 std::shared_ptr<NSTextField> AutoFocusedFindField::makeNSView(Coordinator& coordinator) const
 {
-    const auto field = platform::Platform::current().makeTextField();
+    auto field = platform::Platform::current().makeTextField();
     field->setPlaceholder("Find on page");
     field->setFontSize(fontSize);
     field->setDelegate(coordinator.weak_from_this());

@@ -137,6 +137,7 @@ constexpr std::array messageRules{
 std::vector<std::string> pageMessageNames()
 {
     std::vector<std::string> names;
+    names.reserve(std::size(messageRules));
     for (const auto& rule : messageRules)
         names.emplace_back(rule.name);
     return names;

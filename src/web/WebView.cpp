@@ -60,7 +60,7 @@ std::shared_ptr<Coordinator> WebView::makeCoordinator() const
 
 std::shared_ptr<WKWebView> WebView::makeNSView(Coordinator& coordinator) const
 {
-    const auto webView = platform::Platform::current().makeWebView(configuration(coordinator));
+    auto webView = platform::Platform::current().makeWebView(configuration(coordinator));
     webView->setAllowsBackForwardNavigationGestures(true);
     webView->setAllowsMagnification(true);
     webView->setCustomUserAgent(userAgentString());
