@@ -1,6 +1,5 @@
 // The strip of tabs in the hands of somebody with a mouse and a keyboard.
 
-#include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
 #include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"

@@ -1,6 +1,5 @@
 #include "AppProcess.h"
 
-#include "AccessibleObject.h"
 #include "PageOnScreen.h"
 #include "UserInput.h"
 
@@ -73,7 +72,7 @@ bool AppProcess::waitForPage()
 
 bool AppProcess::shows(const std::string& control) const
 {
-    return eventually([&] { return AccessibleObject::find(process_.pid(), control).has_value(); });
+    return waitFor(control).has_value();
 }
 
 bool AppProcess::loses(const std::string& control) const
@@ -83,21 +82,29 @@ bool AppProcess::loses(const std::string& control) const
 
 bool AppProcess::press(const std::string& control) const
 {
-    std::optional<AccessibleObject> found;
-    return eventually([&] {
-        found = AccessibleObject::find(process_.pid(), control);
-        return found.has_value();
-    }) && found->activate();
+    const auto found = waitFor(control);
+    return found && found->activate();
 }
 
 std::optional<Point> AppProcess::place(const std::string& control)
 {
     const auto window = waitForWindow();
-    if (!window || !shows(control))
+    const auto found = waitFor(control);
+    if (!window || !found)
         return {};
     const auto frame = window->frame();
-    const auto bounds = AccessibleObject::find(process_.pid(), control)->bounds();
+    const auto bounds = found->bounds();
     return Point{frame.x + bounds.x + bounds.width / 2, frame.y + bounds.y + bounds.height / 2};
+}
+
+std::optional<AccessibleObject> AppProcess::waitFor(const std::string& control) const
+{
+    std::optional<AccessibleObject> found;
+    const bool isThere = eventually([&] {
+        found = AccessibleObject::find(process_.pid(), control);
+        return found.has_value();
+    });
+    return isThere ? found : std::nullopt;
 }
 
 void AppProcess::pressFirstControlOfPage()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AccessibleObject.h"
 #include "DemoServiceProcess.h"
 #include "Desktop.h"
 
@@ -45,6 +46,8 @@ public:
     std::vector<pid_t> webProcesses() const { return process_.descendants("WebKitWebProcess"); }
 
 private:
+    std::optional<AccessibleObject> waitFor(const std::string& control) const;
+
     Process process_;
 };
 
