@@ -13,9 +13,6 @@ namespace desktop {
 
 namespace {
 
-constexpr auto busName = "example.velmaro.Online";
-constexpr auto busPath = "/example/velmaro/Online";
-
 class NotificationTest : public testing::Test {
 protected:
     NotificationTest()
@@ -60,26 +57,14 @@ protected:
         return false;
     }
 
-    static void call(const char* destination, const char* path, const char* interface,
-        const char* method, GVariant* arguments)
-    {
-        GError* error = nullptr;
-        GDBusConnection* bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
-        GVariant* reply = g_dbus_connection_call_sync(bus, destination, path, interface, method,
-            arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, 30'000, nullptr, &error);
-        EXPECT_TRUE(reply) << error->message;
-        g_clear_pointer(&reply, g_variant_unref);
-        g_clear_error(&error);
-        g_object_unref(bus);
-    }
-
     DemoServiceProcess service;
 };
 
 } // namespace
 
-TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsBackToItsPage)
+TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsToItsPage)
 {
+    installProgram(service);
     FakeNotificationDaemon daemon;
     {
         AppProcess app(service);
@@ -101,6 +86,8 @@ TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsBackToItsPage)
         UserInput::press("space"); // the same reminder
         ASSERT_TRUE(eventually([&] { return daemon.shown().size() == 2; }));
         EXPECT_EQ(daemon.shown()[1].replaced, first.number);
+        ASSERT_TRUE(pressReminder(daemon)); // another, for later
+        EXPECT_EQ(daemon.shown()[2].replaced, 0u);
 
         service.forgetRequests();
         daemon.click(first.number);
@@ -110,19 +97,11 @@ TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsBackToItsPage)
     }
     EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"vehicles"}));
     EXPECT_TRUE(SavedSettings::read().contains("vl.user.identity"));
-}
 
-TEST_F(NotificationTest, aClickStartsTheApplicationAndLeadsToThePage)
-{
-    installProgram(service);
-    GVariantBuilder target;
-    g_variant_builder_init(&target, G_VARIANT_TYPE("av"));
-    g_variant_builder_add(
-        &target, "v", g_variant_new_parsed("{'vlDeepLink': 'velmaro://page/fuel'}"));
-    call(busName, busPath, "org.freedesktop.Application", "ActivateAction",
-        g_variant_new("(sava{sv})", "notification", &target, nullptr));
-
-    EXPECT_TRUE(service.isAsked("/online/api/fuel"));
+    SavedSettings::write({{"vl.open.routes", {"dashboard"}}});
+    service.forgetRequests();
+    daemon.click(daemon.shown()[2].number); // starts the application
+    EXPECT_TRUE(service.isAsked("/online/api/vehicles"));
     const auto window = Desktop::window("Velmaro Online");
     ASSERT_TRUE(window);
     window->close();

@@ -354,6 +354,9 @@ UserNotificationCenter& GtkPlatform::notificationCenter()
             application_->allowToComeForward(activationToken);
             notificationCenter_->receiveClick(userInfo);
         });
+    termination_ = platform::NotificationCenter::defaultCenter().addObserver(
+        Application::willTerminateNotification, nullptr,
+        [service = service.get()](const auto&) { service->leaveToAgent(); });
     notificationCenter_ = std::make_unique<UserNotificationCenter>(
         *mainQueue_, std::move(permission), std::move(service));
     return *notificationCenter_;

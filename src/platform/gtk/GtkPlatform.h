@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/gtk/foundation/MainLoopQueue.h"
 #include "platform/gtk/webkit/HostCertificate.h"
 #include "platform/Platform.h"
@@ -132,6 +133,7 @@ private:
     std::unique_ptr<SettingsFile> permissions_; // on first use, like the two below
     std::unique_ptr<LocationServices> locationServices_;
     std::unique_ptr<UserNotificationCenter> notificationCenter_;
+    platform::NotificationCenter::Observer termination_; // with notifications still shown
     std::unique_ptr<ResponseCache> responseCache_; // made on first use, like the service below
     std::shared_ptr<GeocodingService> geocodingService_;
     std::unique_ptr<SettingsFile> updateSettings_; // made with the first updater

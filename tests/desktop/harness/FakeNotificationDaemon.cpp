@@ -65,8 +65,8 @@ void FakeNotificationDaemon::handle(
 {
     note(method);
     if (method == "GetCapabilities") {
-        const char* capabilities[] = {"body", "actions",
-            manner_ == Manner::showsMarkup ? "body-markup" : "persistence", nullptr};
+        const char* capabilities[] = {"body", "actions", "persistence",
+            manner_ == Manner::showsMarkup ? "body-markup" : nullptr, nullptr};
         return g_dbus_method_invocation_return_value(
             invocation, g_variant_new("(^as)", capabilities));
     }

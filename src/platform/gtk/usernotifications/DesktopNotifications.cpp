@@ -1,6 +1,8 @@
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
 
+#include "platform/gtk/usernotifications/NotificationAgent.h"
 #include "platform/gtk/usernotifications/NotificationText.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
 
@@ -8,16 +10,12 @@ namespace gtk {
 
 namespace {
 
-constexpr auto serviceName = "org.freedesktop.Notifications";
-constexpr auto servicePath = "/org/freedesktop/Notifications";
+constexpr auto serviceName = ShownNotifications::serviceName;
 constexpr auto busName = "org.freedesktop.DBus";
 
 constexpr int patience = 10'000; // milliseconds for one answer
-constexpr std::size_t mostRemembered = 1000; // notifications whose clicks are understood
 constexpr gint32 serviceDecides = -1; // how long it shows
-constexpr std::uint32_t hasExpired = 1; // why a notification was closed
 
-constexpr auto clickAction = "default";
 constexpr auto clickTitle = "Open";
 constexpr auto defaultSound = "message-new-instant";
 
@@ -42,18 +40,19 @@ template <class T> T child(const Glib::VariantContainerBase& values, unsigned in
 
 } // namespace
 
-DesktopNotifications::DesktopNotifications(std::string application, ClickHandler onClick)
+DesktopNotifications::DesktopNotifications(
+    std::string application, ShownNotifications::ClickHandler onClick)
     : application_(std::move(application))
-    , onClick_(std::move(onClick))
     , cancellable_(Gio::Cancellable::create())
+    , shown_(std::move(onClick))
 {
 }
 
 DesktopNotifications::~DesktopNotifications()
 {
     cancellable_->cancel();
-    for (const auto subscription : subscriptions_)
-        connection_->signal_unsubscribe(subscription);
+    if (connection_)
+        connection_->signal_unsubscribe(subscription_);
 }
 
 void DesktopNotifications::post(
@@ -93,30 +92,27 @@ void DesktopNotifications::connect()
 
 void DesktopNotifications::listen()
 {
-    const auto receive = [this](const Glib::RefPtr<Gio::DBus::Connection>&, const Glib::ustring&,
-                             const Glib::ustring&, const Glib::ustring&,
-                             const Glib::ustring& signal,
-                             const Arguments& values) { hear(signal, values); };
     const auto forgetAll = [this](const auto&, const auto&, const auto&, const auto&, const auto&,
                                const auto&) {
         // Another service has other numbers and other capabilities.
         readsMarkup_.reset();
         shown_.clear();
-        numbers_.clear();
     };
-    subscriptions_ = {
-        connection_->signal_subscribe(receive, serviceName, serviceName, {}, servicePath),
-        connection_->signal_subscribe(
-            forgetAll, busName, busName, "NameOwnerChanged", {}, serviceName),
-    };
+    subscription_ = connection_->signal_subscribe(
+        forgetAll, busName, busName, "NameOwnerChanged", {}, serviceName);
+    shown_.listen(connection_);
 }
 
 void DesktopNotifications::askForCapabilities()
 {
     call("GetCapabilities", {}, "(as)", [this](const auto& result) {
         const auto capabilities = child<std::vector<Glib::ustring>>(result, 0);
-        readsMarkup_ = std::find(capabilities.begin(), capabilities.end(), "body-markup")
-            != capabilities.end();
+        const auto has = [&](const char* capability) {
+            return std::find(capabilities.begin(), capabilities.end(), capability)
+                != capabilities.end();
+        };
+        readsMarkup_ = has("body-markup");
+        shown_.setKeepsExpired(has("persistence"));
         notify();
     });
 }
@@ -125,7 +121,8 @@ void DesktopNotifications::notify()
 {
     const auto& request = jobs_.front().request;
     call("Notify", notifyArguments(request), "(u)", [this](const auto& result) {
-        remember(child<guint32>(result, 0), jobs_.front().request);
+        const auto& shown = jobs_.front().request;
+        shown_.add(child<guint32>(result, 0), shown.identifier, shown.content.userInfo);
         finish({});
     });
 }
@@ -134,7 +131,6 @@ DesktopNotifications::Arguments DesktopNotifications::notifyArguments(
     const platform::UNNotificationRequest& request) const
 {
     const auto& content = request.content;
-    const auto earlier = numbers_.find(request.identifier);
     Hints hints{{"desktop-entry", variantText(application_)}};
     if (content.sound)
         hints.emplace("sound-name", variantText(defaultSound));
@@ -143,12 +139,12 @@ DesktopNotifications::Arguments DesktopNotifications::notifyArguments(
 
     return Arguments::create_tuple({
         variantText("Velmaro Online"),
-        variant<guint32>(earlier == numbers_.end() ? 0 : earlier->second),
+        variant<guint32>(shown_.number(request.identifier)),
         variantText(application_), // the icon's name too
         variantText(notificationText(content.title)),
         variantText(
             *readsMarkup_ ? notificationMarkup(content.body) : notificationText(content.body)),
-        variant(std::vector<Glib::ustring>{clickAction, clickTitle}),
+        variant(std::vector<Glib::ustring>{ShownNotifications::clickAction, clickTitle}),
         variant(hints),
         variant(serviceDecides),
     });
@@ -170,8 +166,9 @@ void DesktopNotifications::call(
         const auto kept = then;
         kept(values);
     };
-    connection_->call(servicePath, serviceName, method, arguments, finishCall, cancellable_,
-        serviceName, patience, Gio::DBus::CallFlags::NONE, Glib::VariantType(resultType));
+    connection_->call(ShownNotifications::servicePath, serviceName, method, arguments, finishCall,
+        cancellable_, serviceName, patience, Gio::DBus::CallFlags::NONE,
+        Glib::VariantType(resultType));
 }
 
 void DesktopNotifications::finish(const std::optional<platform::NSError>& error)
@@ -183,43 +180,13 @@ void DesktopNotifications::finish(const std::optional<platform::NSError>& error)
     completion(error);
 }
 
-void DesktopNotifications::remember(
-    std::uint32_t number, const platform::UNNotificationRequest& request)
+void DesktopNotifications::leaveToAgent() const
 {
-    shown_[number] = {request.identifier, request.content.userInfo, ""};
-    numbers_[request.identifier] = number;
-    if (shown_.size() > mostRemembered)
-        forget(shown_.begin()->first);
-}
-
-void DesktopNotifications::forget(std::uint32_t number)
-{
-    const auto found = shown_.find(number);
-    if (found == shown_.end())
+    if (shown_.isEmpty())
         return;
-    const auto named = numbers_.find(found->second.identifier);
-    if (named != numbers_.end() && named->second == number)
-        numbers_.erase(named);
-    shown_.erase(found);
-}
-
-void DesktopNotifications::hear(const std::string& signal, const Arguments& values)
-{
-    const bool hasText = values.is_of_type(Glib::VariantType("(us)"));
-    const bool hasReason = values.is_of_type(Glib::VariantType("(uu)"));
-    if (!hasText && !hasReason)
-        return;
-    const auto number = child<guint32>(values, 0);
-    const auto found = shown_.find(number);
-    if (found == shown_.end())
-        return; // another program's
-    if (signal == "ActivationToken" && hasText)
-        found->second.activationToken = child<Glib::ustring>(values, 1);
-    // One that has expired may still be clicked where the desktop keeps a list of them.
-    else if (signal == "NotificationClosed" && hasReason && child<guint32>(values, 1) != hasExpired)
-        forget(number);
-    else if (signal == "ActionInvoked" && hasText && child<Glib::ustring>(values, 1) == clickAction)
-        onClick_(UserInfo(found->second.userInfo), std::move(found->second.activationToken));
+    const auto handover = shown_.serialized();
+    if (const auto failure = startNotificationAgent(application_, handover))
+        platform::NSLog("Velmaro notifications cannot be clicked any more: " + *failure);
 }
 
 } // namespace gtk
