@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <glib.h>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -91,18 +92,8 @@ bool synchronizeFolder(const std::filesystem::path& folder)
     return descriptor.isOpen() && (::fsync(descriptor.number()) == 0 || errno == EINVAL);
 }
 
-} // namespace
-
-Contents read(const std::filesystem::path& path)
+Contents readAll(const Descriptor& file)
 {
-    // Opening a pipe that somebody put there must not wait for a writer.
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    if (!file.isOpen()) {
-        if (errno == ENOENT || errno == ENOTDIR)
-            return {};
-        return {.text = {}, .failure = lastError(), .exists = true};
-    }
-
     Contents contents{.text = {}, .failure = {}, .exists = true};
     struct stat status = {};
     if (::fstat(file.number(), &status) == 0)
@@ -116,6 +107,25 @@ Contents read(const std::filesystem::path& path)
             return contents;
         else if (errno != EINTR)
             return {.text = {}, .failure = lastError(), .exists = true};
+    }
+}
+
+} // namespace
+
+Contents read(const std::filesystem::path& path)
+{
+    // Opening a pipe that somebody put there must not wait for a writer.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!file.isOpen()) {
+        if (errno == ENOENT || errno == ENOTDIR)
+            return {};
+        return {.text = {}, .failure = lastError(), .exists = true};
+    }
+
+    try {
+        return readAll(file);
+    } catch (const std::bad_alloc&) {
+        return {.text = {}, .failure = g_strerror(ENOMEM), .exists = true};
     }
 }
 
