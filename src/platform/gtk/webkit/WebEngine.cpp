@@ -28,6 +28,14 @@ void replaceLanguageOfNoCountry()
     webkit_web_context_set_preferred_languages(webkit_web_context_get_default(), languages);
 }
 
+// A process without pages would be kept for the next one of the same site, with all that its closed
+// pages have left behind.
+void endProcessesWithTheirPages()
+{
+    webkit_web_context_set_cache_model(
+        webkit_web_context_get_default(), WEBKIT_CACHE_MODEL_DOCUMENT_BROWSER);
+}
+
 bool asksForInspector()
 {
     return std::getenv("WEBKIT_INSPECTOR_SERVER") || std::getenv("WEBKIT_INSPECTOR_HTTP_SERVER");
@@ -91,6 +99,7 @@ ObjectPointer<WebKitNetworkSession> WebEngine::session(platform::WKWebsiteDataSt
         return retain(session_.get());
 
     replaceLanguageOfNoCountry();
+    endProcessesWithTheirPages();
     auto session = isPersistent
         ? makePersistentSession(paths_)
         : ObjectPointer<WebKitNetworkSession>(webkit_network_session_new_ephemeral());
