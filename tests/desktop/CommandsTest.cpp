@@ -6,6 +6,7 @@
 #include "harness/SavedSettings.h"
 #include "harness/UserInput.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace desktop {
@@ -149,6 +150,30 @@ TEST_F(Commands, doNothingToTheTabsBehindAnotherWindow)
     Desktop::window("Velmaro Online")->close();
     EXPECT_EQ(app->process().waitForExit(), 0); // About does not keep it
     EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"drives"}));
+}
+
+TEST_F(Commands, permissionsCanBeChanged)
+{
+    const auto permissions = [] {
+        std::ifstream file(SavedSettings::path().parent_path() / "permissions.json");
+        return nlohmann::json::parse(file, nullptr, false);
+    };
+    const auto isKept = [&](const char* name, bool isAllowed, std::chrono::seconds limit) {
+        return eventually(
+            [&] { return permissions().value(name, !isAllowed) == isAllowed; }, limit);
+    };
+    choose("F10", "Permissions\u2026", -2);
+    ASSERT_TRUE(eventually([&] { // the window may not have the keyboard yet
+        UserInput::press("space");
+        return isKept("locationAllowed", true, std::chrono::seconds(5));
+    }));
+    UserInput::press("Tab");
+    for (const bool isAllowed : {true, false}) {
+        UserInput::press("space");
+        EXPECT_TRUE(isKept("notificationsAllowed", isAllowed, generousLimit));
+    }
+    UserInput::press("Escape");
+    EXPECT_TRUE(eventually([] { return Desktop::windows().size() == 1; }));
 }
 
 TEST_F(Commands, clearAllDataLeavesOneTabOnTheWelcomePageAndNothingOfTheUser)

@@ -1,5 +1,6 @@
 #include "platform/gtk/GtkPlatform.h"
 
+#include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/gtk/appkit/AlertPresenter.h"
@@ -7,6 +8,7 @@
 #include "platform/gtk/appkit/Application.h"
 #include "platform/gtk/appkit/OffscreenWindow.h"
 #include "platform/gtk/appkit/OpenPanel.h"
+#include "platform/gtk/appkit/PermissionsPanel.h"
 #include "platform/gtk/appkit/PlainView.h"
 #include "platform/gtk/appkit/RendererSafeguard.h"
 #include "platform/gtk/appkit/Screen.h"
@@ -360,6 +362,25 @@ UserNotificationCenter& GtkPlatform::notificationCenter()
     notificationCenter_ = std::make_unique<UserNotificationCenter>(
         *mainQueue_, std::move(permission), std::move(service));
     return *notificationCenter_;
+}
+
+void GtkPlatform::showPermissions()
+{
+    if (LocationServices::isInsideSandbox()) {
+        const platform::NSAlert alert{
+            .messageText = "Velmaro Online",
+            .informativeText = "Your desktop asks what this application may do, and keeps the "
+                               "answers in its settings.",
+            .alertStyle = platform::NSAlert::Style::informational,
+            .buttons = {"OK"},
+        };
+        return alert.runModal([](int) {});
+    }
+    permissionsPanel_ = std::make_unique<PermissionsPanel>(std::vector<PermissionsPanel::Entry>{
+        {"Use your location", LocationPermission::explanation, locationServices().permission()},
+        {"Show notifications", UserNotificationCenter::explanation,
+            *notificationCenter().permission()},
+    });
 }
 
 } // namespace gtk

@@ -16,6 +16,7 @@ class Files;
 class GeocodingService;
 class LocationServices;
 class MachineInfo;
+class PermissionsPanel;
 class ProgramBundle;
 class RendererSafeguard;
 class ResponseCache;
@@ -99,6 +100,9 @@ public:
 
     UserNotificationCenter& notificationCenter();
 
+    // Lets the user change what they have allowed, in a window over the one in use.
+    void showPermissions();
+
     // Sets the web engine going while the window has yet to be made. Returns why the program cannot
     // run; absent when it can.
     std::optional<std::string> prepare();
@@ -133,6 +137,7 @@ private:
     std::unique_ptr<SettingsFile> permissions_; // on first use, like the two below
     std::unique_ptr<LocationServices> locationServices_;
     std::unique_ptr<UserNotificationCenter> notificationCenter_;
+    std::unique_ptr<PermissionsPanel> permissionsPanel_; // the one shown last
     platform::NotificationCenter::Observer termination_; // with notifications still shown
     std::unique_ptr<ResponseCache> responseCache_; // made on first use, like the service below
     std::shared_ptr<GeocodingService> geocodingService_;

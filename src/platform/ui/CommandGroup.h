@@ -10,6 +10,7 @@ namespace ui {
 // there.
 enum class CommandGroupPlacement {
     appInfo,
+    appSettings,
     appTermination,
     newItem,
     printItem,

@@ -32,6 +32,8 @@ std::vector<StandardMenu> standardMenus()
         {nullptr,
             {
                 {appInfo, {}},
+                {appSettings,
+                    {{.title = "Permissions\u2026", .standard = StandardCommand::showPermissions}}},
                 {appTermination, {standard("Quit", StandardCommand::quit, command("q"))}},
             }},
         {"File", {{newItem, {}}, {printItem, {}}}},

@@ -20,6 +20,7 @@ enum class StandardCommand {
     selectAll,
     toggleFullScreen,
     minimize,
+    showPermissions, // a window with what the user lets the application do
     showShortcuts, // a window with the keys of all items
 };
 

@@ -223,6 +223,8 @@ void Application::perform(ui::StandardCommand command)
 {
     if (command == ui::StandardCommand::quit)
         terminate();
+    else if (command == ui::StandardCommand::showPermissions)
+        platform_.showPermissions();
     else if (command == ui::StandardCommand::showShortcuts)
         showShortcuts(menuBar_->menus(), focus_->window());
     else

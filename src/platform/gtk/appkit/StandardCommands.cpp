@@ -55,6 +55,7 @@ void perform(ui::StandardCommand command, FocusTracker& focus)
             gtk_window_minimize(focus.window());
         return;
     case quit:
+    case showPermissions:
     case showShortcuts:
         return;
     }

@@ -29,6 +29,9 @@ public:
     // Must not outlive this.
     std::shared_ptr<platform::CLLocationManager> makeManager();
 
+    // The user's, outside a sandbox.
+    LocationPermission& permission() { return permission_; }
+
 private:
     const Options options_;
     LocationPermission permission_;

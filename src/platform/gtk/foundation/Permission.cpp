@@ -34,7 +34,7 @@ void Permission::request()
 void Permission::ask()
 {
     prompt_([this, life = std::weak_ptr(life_)](bool isAllowed) {
-        if (!life.expired())
+        if (!life.expired() && isAsking_)
             decide(isAllowed);
     });
 }
@@ -47,8 +47,6 @@ platform::NotificationCenter::Observer Permission::observe(std::function<void()>
 
 void Permission::decide(bool isAllowed)
 {
-    if (!isAsking_)
-        return;
     isAsking_ = false;
     store_.setBoolean(key_, isAllowed);
     changes_.post(changed);

@@ -30,12 +30,14 @@ public:
     // Asks, unless the user has decided or is being asked.
     void request();
 
+    // The user decides without having been asked, or has changed their mind.
+    void decide(bool isAllowed);
+
     // Calls `handler` after each decision.
     [[nodiscard]] platform::NotificationCenter::Observer observe(std::function<void()> handler);
 
 private:
     void ask();
-    void decide(bool isAllowed);
 
     platform::DispatchQueue& queue_;
     platform::UserDefaults& store_;

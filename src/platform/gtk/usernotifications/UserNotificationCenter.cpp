@@ -16,7 +16,7 @@ void UserNotificationCenter::askUser(std::function<void(bool isAllowed)> answer)
 {
     const NSAlert alert{
         .messageText = "Allow Velmaro Online to show notifications?",
-        .informativeText = "Notifications remind you of what is due and tell you what has changed.",
+        .informativeText = explanation,
         .alertStyle = NSAlert::Style::informational,
         .buttons = {"Allow", "Don\u2019t Allow"},
     };

@@ -15,6 +15,10 @@ class UserNotificationCenter final : public platform::UNUserNotificationCenter {
 public:
     static constexpr auto permissionKey = "notificationsAllowed";
 
+    // What the user is told about the permission.
+    static constexpr auto explanation =
+        "Notifications remind you of what is due and tell you what has changed.";
+
     // Asks the user, in an alert of the current platform, whether notifications may be shown.
     static void askUser(std::function<void(bool isAllowed)> answer);
 
@@ -31,6 +35,9 @@ public:
         override;
     void add(const platform::UNNotificationRequest& request,
         std::function<void(const std::optional<platform::NSError>&)> completion) override;
+
+    // Null where the desktop has one of its own.
+    Permission* permission() { return permission_.get(); }
 
     // The user has clicked a notification. It waits for a delegate if there is none.
     void receiveClick(const std::map<std::string, std::string>& userInfo);
