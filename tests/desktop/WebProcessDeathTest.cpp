@@ -1,4 +1,5 @@
-// The processes of pages die while the program is busy with something else.
+// The processes of pages die at every stage of a tab's life: the window goes on, and the page comes
+// back.
 
 #include "harness/AccessibleObject.h"
 #include "harness/AppProcess.h"
@@ -58,6 +59,40 @@ bool askToClear(AppProcess& app)
     return app.shows("Clear all cached data?");
 }
 
+struct Stage {
+    const char* name;
+    const char* route;
+    bool (*reach)(AppProcess& app, const DemoServiceProcess& service);
+    const char* panel = nullptr; // a name in what is open then, which Escape closes
+};
+
+const Stage stages[] = {
+    {"before the first load", "drives", [](auto&, auto&) { return true; }},
+    {"while the page loads", "drives",
+        [](auto&, auto& service) { return service.isAsked("/online"); }},
+    {"with the page", "drives", [](auto& app, auto&) { return app.waitForPage(); }},
+    {"while it searches", "drives",
+        [](auto& app, auto&) {
+            if (!app.waitForPage())
+                return false;
+            UserInput::press("ctrl+f");
+            if (!app.shows("Next match (⌘G)"))
+                return false;
+            UserInput::type("Ferry");
+            UserInput::press("Return");
+            return true;
+        },
+        "Next match (⌘G)"},
+    {"under the location picker", "fuel",
+        [](auto& app, auto&) {
+            return app.waitForPage() && app.press("Find gas stations")
+                && app.shows("Use my current location");
+        },
+        "Use my current location"},
+    {"under the question whether to clear everything", "drives",
+        [](auto& app, auto&) { return askToClear(app); }, "Clear all cached data?"},
+};
+
 // Somebody who is signed in and has left two tabs.
 class WebProcessDeath : public testing::Test {
 protected:
@@ -73,6 +108,32 @@ protected:
 };
 
 } // namespace
+
+TEST_F(WebProcessDeath, atEveryStageLeavesAWindowThatIsUsable)
+{
+    for (const auto& stage : stages) {
+        SCOPED_TRACE(stage.name);
+        const nlohmann::json routes = {stage.route, "vehicles"};
+        saveTabs(routes);
+        AppProcess app(service);
+        ASSERT_TRUE(stage.reach(app, service));
+
+        service.forgetRequests();
+        ASSERT_TRUE(killWebProcesses(app));
+        EXPECT_TRUE(service.isAsked("/online/api/" + std::string(stage.route)));
+        if (stage.panel) {
+            EXPECT_TRUE(app.shows(stage.panel));
+            UserInput::press("Escape");
+            EXPECT_TRUE(app.loses(stage.panel));
+        }
+        EXPECT_TRUE(app.waitForPage());
+        EXPECT_TRUE(hasTabs(app, 2));
+
+        app.process().signal(SIGTERM);
+        EXPECT_EQ(app.process().waitForExit(), 0);
+        EXPECT_EQ(SavedSettings::read()["vl.open.routes"], routes);
+    }
+}
 
 TEST_F(WebProcessDeath, afterClearingWasConfirmedStillEndsOnTheWelcomePage)
 {

@@ -112,6 +112,11 @@ void GtkWebView::watch()
         [](GObject*, GParamSpec*, GtkWebView* self) {
             self->changed(Property::estimatedProgress);
         });
+    connect(view_.get(), "web-process-terminated",
+        [](WebKitWebView* view, WebKitWebProcessTerminationReason, GtkWebView* self) {
+            if (self->sharing_)
+                self->sharing_->processDied(view);
+        });
     connect(webkit_web_view_get_back_forward_list(view_.get()), "changed",
         [](WebKitBackForwardList*, WebKitBackForwardListItem*, gpointer, GtkWebView* self) {
             self->historyChanged();

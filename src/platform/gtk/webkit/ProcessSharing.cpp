@@ -32,4 +32,11 @@ void ProcessSharing::remove(WebKitWebView* view)
     std::erase_if(groups_, [](const auto& group) { return group.views.empty(); });
 }
 
+void ProcessSharing::processDied(WebKitWebView* view)
+{
+    std::erase_if(groups_, [view](const auto& group) {
+        return std::ranges::find(group.views, view) != group.views.end();
+    });
+}
+
 } // namespace gtk

@@ -24,6 +24,10 @@ public:
     void add(WebKitWebView* view, WebKitWebView* companion);
     void remove(WebKitWebView* view);
 
+    // The process of `view` has died: no more views join those that were in it. A view that starts
+    // its first page there while they load theirs again can lose it, or take theirs away.
+    void processDied(WebKitWebView* view);
+
 private:
     struct Group {
         std::vector<WebKitWebView*> views; // never empty
