@@ -1,9 +1,8 @@
 // Menu items and their keys in the real window, with a page, with another window and with none.
 
-#include "harness/AppProcess.h"
 #include "harness/Files.h"
-#include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"
+#include "harness/SignedInTest.h"
 #include "harness/UserInput.h"
 
 #include <gtest/gtest.h>
@@ -14,15 +13,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The application of somebody who is signed in, with its page in the window and the keyboard.
-struct Commands : testing::Test {
+struct Commands : SignedInTest {
     void SetUp() override
     {
-        SavedCookies::signIn("Robin", "Alder");
-        SavedSettings::write({{"vl.open.routes", {"drives"}}, {"vl.onboarding.shown", true}});
-        SavedSettings::writePermissions({{"notificationsAllowed", false}});
-        app.emplace(service);
-        ASSERT_TRUE(app->waitForPage());
+        launch({"drives"});
         service.forgetRequests();
     }
 
@@ -32,9 +26,6 @@ struct Commands : testing::Test {
         UserInput::press(menu);
         ASSERT_TRUE(app->press(item)) << item;
     }
-
-    DemoServiceProcess service;
-    std::optional<AppProcess> app;
 };
 
 // Everything of the program that a file in the home folder tells.
