@@ -86,13 +86,6 @@ TEST_F(HostedViews, areMadeWithTheirPlaceAndKeptWhenHidden)
     EXPECT_EQ(log->gone, "");
 }
 
-TEST_F(HostedViews, comingLateIntoSomethingInvisibleAreHidden)
-{
-    change(HStack{{}, Text("a")}.opacity(0));
-    change(HStack{{}, Text("a"), Host{log}}.opacity(0));
-    EXPECT_NE(window.content().describe().find("hosted hidden"), std::string::npos);
-}
-
 TEST_F(HostedViews, areUpdatedAtEveryRedrawAndStandInTheWindowUntilTheirPlaceGoes)
 {
     change(VStack{{}, Host{log}});
@@ -105,13 +98,6 @@ TEST_F(HostedViews, areUpdatedAtEveryRedrawAndStandInTheWindowUntilTheirPlaceGoe
     EXPECT_EQ(view->window(), &window);
     change(View());
     EXPECT_EQ(view->window(), nullptr);
-}
-
-TEST_F(HostedViews, goBeforeTheirCoordinatorWithTheirPlace)
-{
-    change(Host{log});
-    change(Text("a"));
-    EXPECT_EQ(log->gone, "view coordinator");
 }
 
 TEST_F(HostedViews, stayMountedWhenTheirSiblingsComeGoAndMove)

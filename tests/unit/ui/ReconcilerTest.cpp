@@ -219,22 +219,6 @@ TEST_F(Reconciler, skipsAComponentThatEqualsThePreviousUnlessItsFieldChanged)
     EXPECT_EQ(*evaluations, 3);
 }
 
-TEST_F(Reconciler, aFieldWrittenWhileRedrawingIsShownInTheSameSettling)
-{
-    struct Follower {
-        std::shared_ptr<Published<std::string>> leader;
-        std::shared_ptr<Published<std::string>> follower;
-        View body() const { return Text((*leader)() + (*follower)()); }
-    };
-    const auto leader = std::make_shared<Published<std::string>>("a");
-    const auto follower = std::make_shared<Published<std::string>>("a");
-    auto& window = show(Follower{leader, follower});
-    const Observation observation([&] { (*leader)(); }, [&] { *follower = "b"; });
-    *leader = "b";
-    settle();
-    EXPECT_EQ(textsOf(window.content()), "bb");
-}
-
 TEST_F(Reconciler, aWindowMayGoWithARedrawOnItsWay)
 {
     auto renderer = std::make_unique<simulated::SimulatedRenderer>();
