@@ -51,22 +51,9 @@ struct Host {
     void updateNSView(LoggedView&, Coordinator&) const { ++log->updated; }
 };
 
-struct Screen {
-    std::shared_ptr<Published<View>> content;
-    View body() const { return (*content)(); }
-};
-
-struct HostedViews : Stage, testing::Test {
-    void change(View content)
-    {
-        *screen = std::move(content);
-        settle();
-    }
-
+struct HostedViews : ChangingStage, testing::Test {
     std::shared_ptr<Log> log = std::make_shared<Log>();
     std::shared_ptr<Log> otherLog = std::make_shared<Log>();
-    std::shared_ptr<Published<View>> screen = std::make_shared<Published<View>>();
-    simulated::SimulatedWindow& window = show(Screen{screen});
 };
 
 } // namespace

@@ -12,12 +12,6 @@ namespace {
 
 constexpr auto key = "vl.user.identity";
 
-Data dataOf(std::string_view text)
-{
-    const auto* bytes = reinterpret_cast<const std::byte*>(text.data());
-    return Data(bytes, bytes + text.size());
-}
-
 struct WebModels : testing::Test {
     std::optional<UserIdentity> stored()
     {
@@ -32,7 +26,7 @@ struct WebModels : testing::Test {
 
 TEST_F(WebModels, ignoreAndKeepAnIdentityThatCannotBeRead)
 {
-    for (const auto& damaged : {simulated::SimulatedUserDefaults::Stored(dataOf("not JSON")),
+    for (const auto& damaged : {simulated::SimulatedUserDefaults::Stored(Data{std::byte('{')}),
              simulated::SimulatedUserDefaults::Stored(std::string("text"))}) {
         platform.userDefaults().plant(key, damaged);
         EXPECT_FALSE(WebModel().user());
