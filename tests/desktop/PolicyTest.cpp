@@ -79,6 +79,13 @@ protected:
 
     ~PolicyTest() override { window.unset_child(); }
 
+    // While the engine starts on a busy machine, a page that takes the place of one that has not
+    // been asked for yet may wait in vain.
+    void SetUp() override
+    {
+        ASSERT_TRUE(until([&] { return !service.requests("/online").empty(); }));
+    }
+
     // Whether a page of the service that misbehaves is there.
     [[nodiscard]] bool loads(const std::string& path, const std::string& title)
     {
