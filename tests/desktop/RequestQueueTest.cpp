@@ -39,6 +39,10 @@ TEST_F(RequestQueueTest, requestsWaitInOrderUntilTheyCanBePerformed)
     isReady = false; // the page has gone again, just in time
     runWaitingEvents();
     EXPECT_EQ(performed.size(), 2u);
+    isReady = true;
+    queue.update();
+    runWaitingEvents();
+    EXPECT_EQ(performed.back(), "fuel");
 }
 
 } // namespace gtk
