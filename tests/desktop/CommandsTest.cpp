@@ -142,7 +142,7 @@ TEST_F(Commands, clearAllDataLeavesOneTabOnTheWelcomePageAndNothingOfTheUser)
 {
     UserInput::press("ctrl+t");
     ASSERT_TRUE(app->shows("New tab"));
-    ASSERT_TRUE(eventually([] { return filesThatTellOf("Robin").size() > 0; }));
+    ASSERT_TRUE(eventually([] { return !filesThatTellOf("Robin").empty(); }));
 
     const auto ask = [this] {
         choose("alt+h", "Clear All Cache…");
