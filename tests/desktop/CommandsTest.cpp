@@ -1,9 +1,8 @@
 // Menu items and their keys in the real window, with a page, with another window and with none.
 
-#include "harness/AppProcess.h"
 #include "harness/Files.h"
-#include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"
+#include "harness/SignedInTest.h"
 #include "harness/UserInput.h"
 
 #include <fstream>
@@ -15,31 +14,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The application of somebody who is signed in, with its page in the window and the keyboard.
-struct Commands : testing::Test {
+struct Commands : SignedInTest {
     void SetUp() override
     {
-        SavedCookies::signIn("Robin", "Alder");
-        SavedSettings::write({{"vl.open.routes", {"drives"}}, {"vl.onboarding.shown", true}});
-        SavedSettings::writePermissions({{"notificationsAllowed", false}});
-        app.emplace(service);
-        ASSERT_TRUE(app->waitForPage());
+        launch({"drives"});
         service.forgetRequests();
     }
 
-    // Opens a menu with its key and chooses the item that is `steps` below the first one, which is
-    // above the last one for less than 0.
-    void choose(const std::string& menu, const std::string& item, int steps)
+    // Opens a menu with its key and chooses an item.
+    void choose(const std::string& menu, const std::string& item)
     {
         UserInput::press(menu);
-        ASSERT_TRUE(app->shows(item));
-        for (int step = 0; step < std::abs(steps); ++step)
-            UserInput::press(steps > 0 ? "Down" : "Up");
-        UserInput::press("Return");
+        ASSERT_TRUE(app->press(item)) << item;
     }
-
-    DemoServiceProcess service;
-    std::optional<AppProcess> app;
 };
 
 // Everything of the program that a file in the home folder tells.
@@ -78,11 +65,11 @@ TEST_F(Commands, reachThePageWhileItHasTheKeyboard)
         EXPECT_TRUE(service.isAsked(request)) << keys;
     }
 
-    choose("alt+h", "What's New", 0);
+    choose("alt+h", "What's New");
     EXPECT_TRUE(app->shows("What’s new"));
-    choose("alt+h", "Velmaro Help Center", 1);
+    choose("alt+h", "Velmaro Help Center");
     EXPECT_TRUE(app->shows("Help center"));
-    choose("alt+h", "Support Tickets", 2);
+    choose("alt+h", "Support Tickets");
     EXPECT_TRUE(app->shows("Support"));
 }
 
@@ -113,7 +100,7 @@ TEST_F(Commands, rememberTheZoomAndTheRestoringOfTabs)
     EXPECT_TRUE(eventually([] { return SavedSettings::read()["vl.page.zoom"] == 110; }));
     UserInput::press("ctrl+0");
     EXPECT_TRUE(eventually([] { return SavedSettings::read()["vl.page.zoom"] == 100; }));
-    choose("alt+v", "Restore Last Active Tab on Launch", 4);
+    choose("alt+v", "Restore Last Active Tab on Launch");
     EXPECT_TRUE(eventually([] { return SavedSettings::read()["vl.restore.active.tab"] == false; }));
 }
 
@@ -127,7 +114,7 @@ TEST_F(Commands, leaveTheClipboardToWhoHasTheKeyboard)
     UserInput::type("no such words");
     UserInput::press("Return");
     ASSERT_TRUE(app->shows("Not found"));
-    choose("alt+e", "Select All", 5);
+    choose("alt+e", "Select All");
     UserInput::press("ctrl+v"); // in place of all words
     UserInput::press("Return");
     EXPECT_TRUE(app->loses("Not found"));
@@ -141,7 +128,7 @@ TEST_F(Commands, doNothingToTheTabsBehindAnotherWindow)
     UserInput::press("Escape");
     ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 1; }));
 
-    choose("F10", "About Velmaro Online", 0);
+    choose("F10", "About Velmaro Online");
     ASSERT_TRUE(eventually([] { return Desktop::window("About Velmaro Online").has_value(); }));
     UserInput::press("ctrl+t");
     UserInput::press("ctrl+w");
@@ -162,7 +149,7 @@ TEST_F(Commands, permissionsCanBeChanged)
         return eventually(
             [&] { return permissions().value(name, !isAllowed) == isAllowed; }, limit);
     };
-    choose("F10", "Permissions\u2026", -2);
+    choose("F10", "Permissions\u2026");
     ASSERT_TRUE(eventually([&] { // the window may not have the keyboard yet
         UserInput::press("space");
         return isKept("locationAllowed", true, std::chrono::seconds(5));
@@ -180,10 +167,10 @@ TEST_F(Commands, clearAllDataLeavesOneTabOnTheWelcomePageAndNothingOfTheUser)
 {
     UserInput::press("ctrl+t");
     ASSERT_TRUE(app->shows("New tab"));
-    ASSERT_TRUE(eventually([] { return filesThatTellOf("Robin").size() > 0; }));
+    ASSERT_TRUE(eventually([] { return !filesThatTellOf("Robin").empty(); }));
 
     const auto ask = [this] {
-        choose("alt+h", "Clear All Cache…", -2);
+        choose("alt+h", "Clear All Cache…");
         ASSERT_TRUE(app->shows("Clear all cached data?"));
     };
     ask();

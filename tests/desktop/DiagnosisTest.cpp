@@ -2,42 +2,14 @@
 
 #include "harness/AppProcess.h"
 
-#include <arpa/inet.h>
 #include <chrono>
 #include <fstream>
+#include <gio/gio.h>
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace desktop {
 
 namespace {
-
-// A server that lets everybody in and says nothing.
-class SilentServer {
-public:
-    SilentServer()
-    {
-        sockaddr_in address = {};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof address;
-        bind(socket_, reinterpret_cast<sockaddr*>(&address), size);
-        listen(socket_, 10);
-        getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &size);
-        port_ = ntohs(address.sin_port);
-    }
-    ~SilentServer() { close(socket_); }
-
-    SilentServer(const SilentServer&) = delete;
-    SilentServer& operator=(const SilentServer&) = delete;
-
-    std::string origin() const { return "https://127.0.0.1:" + std::to_string(port_); }
-
-private:
-    const int socket_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    int port_ = 0;
-};
 
 void chooseDownloads(const std::string& folder)
 {
@@ -52,7 +24,9 @@ TEST(Diagnosis, namesWhatIsWrongAndEndsInTime)
 {
     constexpr auto limit = std::chrono::seconds(10);
     const DemoServiceProcess service;
-    const SilentServer silent;
+    g_autoptr(GSocketListener) listener = g_socket_listener_new(); // lets all in and says nothing
+    const auto port = g_socket_listener_add_any_inet_port(listener, nullptr, nullptr);
+    const auto silent = "https://127.0.0.1:" + std::to_string(port);
     struct Case {
         const char* name;
         Process::Environment changes;
@@ -69,8 +43,8 @@ TEST(Diagnosis, namesWhatIsWrongAndEndsInTime)
             "problem  Certificate     issued by CN="},
         {"nobody is there", {{"VELMARO_SERVICE_ORIGIN", "https://127.0.0.1:9"}},
             "problem  Service         https://127.0.0.1:9 cannot be reached"},
-        {"the service says nothing", {{"VELMARO_SERVICE_ORIGIN", silent.origin()}},
-            "problem  Service         " + silent.origin() + " cannot be reached"},
+        {"the service says nothing", {{"VELMARO_SERVICE_ORIGIN", silent}},
+            "problem  Service         " + silent + " cannot be reached"},
         {"files cannot be saved", {}, "problem  Downloads       /proc cannot be written to"},
     };
     for (const auto& [name, changes, line] : cases) {

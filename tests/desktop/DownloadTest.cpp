@@ -24,50 +24,6 @@ void setDownloadsFolder(const std::filesystem::path& folder)
     g_reload_user_special_dirs_cache();
 }
 
-// Puts something of its own under the name that was just chosen for a download.
-class Interloper final : public platform::WKNavigationDelegate,
-                         public platform::WKDownloadDelegate,
-                         public std::enable_shared_from_this<Interloper> {
-public:
-    Interloper(std::shared_ptr<velmaro::Coordinator> coordinator,
-        std::function<void(const std::string& path)> intrude)
-        : coordinator_(std::move(coordinator))
-        , intrude_(std::move(intrude))
-    {
-    }
-
-    void navigationResponseDidBecomeDownload(
-        platform::WKWebView&, const std::shared_ptr<platform::WKDownload>& download) override
-    {
-        download->delegate = weak_from_this();
-    }
-
-    void decideDestination(const std::shared_ptr<platform::WKDownload>& download,
-        const std::string& name,
-        const std::function<void(const std::optional<platform::URL>&)>& decide) override
-    {
-        coordinator_->decideDestination(download, name, [&](const auto& destination) {
-            if (const auto intrude = std::exchange(intrude_, nullptr))
-                intrude(destination->path());
-            decide(destination);
-        });
-    }
-
-    void downloadDidFinish(const std::shared_ptr<platform::WKDownload>& download) override
-    {
-        coordinator_->downloadDidFinish(download);
-    }
-    void downloadDidFail(const std::shared_ptr<platform::WKDownload>& download,
-        const platform::NSError& error) override
-    {
-        coordinator_->downloadDidFail(download, error);
-    }
-
-private:
-    const std::shared_ptr<velmaro::Coordinator> coordinator_;
-    std::function<void(const std::string& path)> intrude_;
-};
-
 } // namespace
 
 // A tab whose downloads go to an empty folder.
@@ -198,19 +154,21 @@ TEST_F(DownloadTest, takesWhatPagesMakeThemselves)
 
 TEST_F(DownloadTest, neverReplacesWhatHasComeUnderItsNameMeanwhile)
 {
+    const std::string whole(std::size_t(64) << 20, 'x');
     const auto path = folder / "velmaro_data.csv";
-    const std::function<void(const std::string&)> intrusions[] = {
-        [](const std::string& path) { std::ofstream(path) << "the user's"; },
-        [](const std::string& path) { std::filesystem::create_symlink("/nowhere", path); },
-        [](const std::string& path) { std::filesystem::create_directory(path); },
+    const std::function<void()> intrusions[] = {
+        [&] { std::ofstream(path) << "the user's"; },
+        [&] { std::filesystem::create_symlink("/nowhere", path); },
+        [&] { std::filesystem::create_directory(path); },
     };
     for (std::size_t place = 0; const auto& intrude : intrusions) {
-        const auto interloper = std::make_shared<Interloper>(coordinator, intrude);
-        view->navigationDelegate = interloper;
-        offer(R"(; filename="velmaro_data.csv")");
+        offer(R"(; filename="velmaro_data.csv")", {.body = whole});
+        ASSERT_TRUE(until([&] { return !names().empty(); }));
+        ASSERT_EQ(items()[place].state, State::running);
+        intrude();
 
         ASSERT_TRUE(ends(place, State::finished));
-        EXPECT_EQ(contentsOf(folder / "velmaro_data (2).csv"), "bytes");
+        EXPECT_TRUE(contentsOf(folder / "velmaro_data (2).csv") == whole);
         EXPECT_EQ(names(), (std::set<std::string>{"velmaro_data.csv", "velmaro_data (2).csv"}));
         EXPECT_TRUE(until([&] { return !alertText().empty(); }));
         EXPECT_EQ(alertText(), "Saved velmaro_data (2).csv to your Downloads folder.");

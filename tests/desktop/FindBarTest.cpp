@@ -1,8 +1,6 @@
 // Looking for words in a page.
 
-#include "harness/AppProcess.h"
-#include "harness/SavedCookies.h"
-#include "harness/SavedSettings.h"
+#include "harness/SignedInTest.h"
 #include "harness/UserInput.h"
 
 #include <algorithm>
@@ -35,23 +33,19 @@ std::optional<int> selectedLine(const Picture& picture)
     return static_cast<int>(found - pixels.begin()) / picture.width;
 }
 
+struct FindBar : SignedInTest { };
+
 } // namespace
 
-TEST(FindBar, goesFromMatchToMatchWithTheKeyboardAlone)
+TEST_F(FindBar, goesFromMatchToMatchWithTheKeyboardAlone)
 {
-    DemoServiceProcess service;
-    SavedCookies::signIn("Robin", "Alder");
-    SavedSettings::write({{"vl.open.routes", {"drives"}}, {"vl.onboarding.shown", true}});
-    SavedSettings::writePermissions({{"notificationsAllowed", false}});
-    AppProcess app(service);
-    ASSERT_TRUE(service.isAsked("/online/api/drives")); // which it lists
-    ASSERT_TRUE(app.waitForPage());
+    launch({"drives"});
 
     UserInput::press("ctrl+f");
-    ASSERT_TRUE(app.shows("Next match (⌘G)"));
+    ASSERT_TRUE(app->shows("Next match (⌘G)"));
     UserInput::type("harbour");
     std::optional<int> match;
-    const auto comes = [&, window = app.waitForWindow()](auto condition) {
+    const auto comes = [&, window = app->waitForWindow()](auto condition) {
         return eventually([&] {
             match = selectedLine(window->picture().value_or(Picture{}));
             return condition();
@@ -72,7 +66,7 @@ TEST(FindBar, goesFromMatchToMatchWithTheKeyboardAlone)
     EXPECT_TRUE(comes(isFirst));
     UserInput::press("Escape");
     EXPECT_TRUE(comes([&] { return !match; }));
-    EXPECT_TRUE(app.loses("Next match (⌘G)"));
+    EXPECT_TRUE(app->loses("Next match (⌘G)"));
 }
 
 } // namespace desktop

@@ -43,21 +43,4 @@ TEST(Launch, anAddressThatCannotBeUsedEndsWithOneLineAndStatusTwo)
     }
 }
 
-TEST(Launch, theFirstOneWelcomesAndTheNextOnesDoNot)
-{
-    DemoServiceProcess service;
-    {
-        AppProcess app(service);
-        ASSERT_TRUE(app.waitForPage());
-        EXPECT_EQ(service.requests("/online/welcome.php").size(), 1u);
-        EXPECT_EQ(service.requests("/online").size(), 0u);
-        EXPECT_EQ(SavedSettings::read()["vl.onboarding.shown"], true);
-    }
-    service.forgetRequests();
-    AppProcess app(service);
-    ASSERT_TRUE(app.waitForPage());
-    EXPECT_EQ(service.requests("/online/welcome.php").size(), 0u);
-    EXPECT_EQ(service.requests("/online").size(), 1u);
-}
-
 } // namespace desktop

@@ -1,12 +1,11 @@
 // Whatever stands in front of the window, the program can be ended, and then its tabs are saved.
 
 #include "harness/ReportsPage.h"
-#include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"
+#include "harness/SignedInTest.h"
 #include "harness/UserInput.h"
 
 #include <csignal>
-#include <fstream>
 #include <gtest/gtest.h>
 
 namespace desktop {
@@ -57,26 +56,20 @@ const End ends[] = {
     {"window manager", [](auto& app) { app.waitForWindow()->close(); }},
 };
 
+struct Panels : SignedInTest { };
+
 } // namespace
 
-TEST(Panels, doNotKeepTheProgram)
+TEST_F(Panels, doNotKeepTheProgram)
 {
-    // The other printers are looked for through services that are not on this desktop.
-    const std::filesystem::path folder = std::getenv("XDG_CONFIG_HOME");
-    std::filesystem::create_directories(folder / "gtk-4.0");
-    std::ofstream(folder / "gtk-4.0/settings.ini") << "[Settings]\ngtk-print-backends=file\n";
-    SavedCookies::signIn("Robin", "Alder");
-    DemoServiceProcess service;
     for (const auto& panel : panels) {
         for (const auto& end : ends) {
             SCOPED_TRACE(std::string(panel.name) + ", " + end.name);
-            SavedSettings::write({{"vl.open.routes", {"reports", " fuel "}}, // to be tidied up
-                {"vl.onboarding.shown", true}});
-            SavedSettings::writePermissions({{"notificationsAllowed", false}});
-            AppProcess app(service);
-            ASSERT_TRUE(panel.open(app));
-            end.ask(app);
-            EXPECT_EQ(app.process().waitForExit(), 0);
+            saveTabs({"reports", " fuel "}); // to be tidied up
+            app.emplace(service);
+            ASSERT_TRUE(panel.open(*app));
+            end.ask(*app);
+            EXPECT_EQ(app->process().waitForExit(), 0);
             EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"reports", "fuel"}));
         }
     }

@@ -1,10 +1,9 @@
 // The location picker in the real window, from the pills of the toolbar to the page that gets the
 // place.
 
-#include "harness/AppProcess.h"
 #include "harness/FakeGeoClue.h"
-#include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"
+#include "harness/SignedInTest.h"
 #include "harness/UserInput.h"
 
 #include <gtest/gtest.h>
@@ -18,12 +17,11 @@ constexpr auto chargingPill = "Find charging stations";
 constexpr auto trafficPill = "Traffic alerts";
 constexpr auto currentLocation = "Use my current location";
 
-// The application of somebody who is signed in and lets it use the computer's location.
-struct Places : testing::Test {
+// The application may use the computer's location.
+struct Places : SignedInTest {
     void SetUp() override
     {
-        SavedCookies::signIn("Robin", "Alder");
-        SavedSettings::write({{"vl.open.routes", {"drives"}}, {"vl.onboarding.shown", true}});
+        saveTabs({"drives"});
         SavedSettings::writePermissions(
             {{"notificationsAllowed", false}, {"locationAllowed", true}});
         auto environment = service.clientEnvironment();
@@ -43,8 +41,6 @@ struct Places : testing::Test {
     }
 
     FakeGeoClue geoClue{FakeGeoClue::Manner::grants, {{47.25, -31.5, 20}}};
-    DemoServiceProcess service;
-    std::optional<AppProcess> app;
 };
 
 } // namespace

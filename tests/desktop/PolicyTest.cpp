@@ -37,18 +37,6 @@ constexpr auto pointedAt = "Pointed at";
     });
 }
 
-gboolean findNewWindowItem(
-    WebKitWebView*, WebKitContextMenu* menu, WebKitHitTestResult*, GAction** found)
-{
-    for (auto* item = webkit_context_menu_get_items(menu); item; item = item->next) {
-        auto* candidate = WEBKIT_CONTEXT_MENU_ITEM(item->data);
-        if (webkit_context_menu_item_get_stock_action(candidate)
-            == WEBKIT_CONTEXT_MENU_ACTION_OPEN_LINK_IN_NEW_WINDOW)
-            *found = G_ACTION(g_object_ref(webkit_context_menu_item_get_gaction(candidate)));
-    }
-    return FALSE;
-}
-
 // The panel in which files are chosen; null while there is none.
 GtkFileChooser* filePanel()
 {
@@ -91,6 +79,13 @@ protected:
 
     ~PolicyTest() override { window.unset_child(); }
 
+    // While the engine starts on a busy machine, a page that takes the place of one that has not
+    // been asked for yet may wait in vain.
+    void SetUp() override
+    {
+        ASSERT_TRUE(until([&] { return !service.requests("/online").empty(); }));
+    }
+
     // Whether a page of the service that misbehaves is there.
     [[nodiscard]] bool loads(const std::string& path, const std::string& title)
     {
@@ -117,38 +112,6 @@ protected:
         };
         ASSERT_TRUE(repeatUntil(point, [&] { return view->title() == pointedAt; }));
         UserInput::click(button);
-    }
-
-    // Presses the right button, and "Open Link in New Window" in the menu that comes.
-    void openLinkInNewWindow()
-    {
-        GAction* item = nullptr;
-        const auto handler =
-            g_signal_connect(page(), "context-menu", G_CALLBACK(findNewWindowItem), &item);
-        clickInWindow(UserInput::rightButton);
-        ASSERT_TRUE(until([&] { return item && contextMenu(); }));
-        g_signal_handler_disconnect(page(), handler);
-        g_action_activate(item, nullptr);
-        g_object_unref(item);
-        gtk_popover_popdown(contextMenu());
-        ASSERT_TRUE(until([&] { return !contextMenu(); }));
-    }
-
-    GtkWidget* page() const
-    {
-        return gtk_overlay_get_child(
-            GTK_OVERLAY(dynamic_cast<gtk::GtkWebView&>(*view).nativeWidget().gobj()));
-    }
-
-    // The one that is open; null while there is none.
-    GtkPopover* contextMenu() const
-    {
-        for (auto* child = gtk_widget_get_first_child(page()); child;
-             child = gtk_widget_get_next_sibling(child)) {
-            if (GTK_IS_POPOVER(child) && gtk_widget_get_mapped(child))
-                return GTK_POPOVER(child);
-        }
-        return nullptr;
     }
 
     void click(const std::string& id)
@@ -245,7 +208,7 @@ TEST_F(PolicyTest, linksAndWindowsStayInTheTabOrGoToTheDefaultProgram)
         EXPECT_NE(start.activationToken, "") << start.address;
 }
 
-TEST_F(PolicyTest, aMiddleClickAndTheContextMenuAskForAWindow)
+TEST_F(PolicyTest, aMiddleClickAsksForAWindow)
 {
     const auto showLink = [&](const std::string& address) {
         ASSERT_TRUE(loads("/help", "Handbook — Velmaro Online"));
@@ -259,22 +222,17 @@ TEST_F(PolicyTest, aMiddleClickAndTheContextMenuAskForAWindow)
     showLink("sms:+1"); // is opened as a navigation, and is not as a window
     clickInWindow(UserInput::middleButton);
     EXPECT_TRUE(opened({}));
-    openLinkInNewWindow();
-    EXPECT_TRUE(opened({}));
     clickInWindow(UserInput::leftButton);
     EXPECT_TRUE(opened({"sms:+1"}));
 
-    for (const bool isMiddleClick : {true, false}) {
-        SCOPED_TRACE(isMiddleClick ? "middle click" : "context menu");
-        showLink(elsewhere());
-        isMiddleClick ? clickInWindow(UserInput::middleButton) : openLinkInNewWindow();
-        EXPECT_TRUE(opened({elsewhere()}));
-        EXPECT_EQ(view->title(), pointedAt);
+    showLink(elsewhere());
+    clickInWindow(UserInput::middleButton);
+    EXPECT_TRUE(opened({elsewhere()}));
+    EXPECT_EQ(view->title(), pointedAt);
 
-        showLink("/checkout");
-        isMiddleClick ? clickInWindow(UserInput::middleButton) : openLinkInNewWindow();
-        EXPECT_TRUE(shows("Checkout — Velmaro Online"));
-    }
+    showLink("/checkout");
+    clickInWindow(UserInput::middleButton);
+    EXPECT_TRUE(shows("Checkout — Velmaro Online"));
     EXPECT_EQ(Desktop::windows().size(), 1u);
 }
 

@@ -44,14 +44,7 @@ private:
 
 class Report : public testing::Test {
 protected:
-    Report()
-    {
-        SavedSettings::write({{"vl.open.routes", {"reports"}}});
-        // The other printers are looked for through services that are not on this desktop.
-        const std::filesystem::path folder = std::getenv("XDG_CONFIG_HOME");
-        std::filesystem::create_directories(folder / "gtk-4.0");
-        std::ofstream(folder / "gtk-4.0/settings.ini") << "[Settings]\ngtk-print-backends=file\n";
-    }
+    Report() { SavedSettings::write({{"vl.open.routes", {"reports"}}}); }
 
     // The tab keeps its process, and the engine one more for whatever comes next.
     [[nodiscard]] static bool endsItsProcess(const AppProcess& app)

@@ -34,20 +34,15 @@ TEST_F(RequestQueueTest, requestsWaitInOrderUntilTheyCanBePerformed)
     queue.update();
     runWaitingEvents();
     EXPECT_EQ(performed, (std::vector<std::string>{"drive 42", "dashboard"}));
-}
 
-TEST_F(RequestQueueTest, requestsWaitAgainWhenThePageHasGone)
-{
-    isReady = true;
     enqueue("fuel");
-    isReady = false;
+    isReady = false; // the page has gone again, just in time
     runWaitingEvents();
-    EXPECT_TRUE(performed.empty());
-
+    EXPECT_EQ(performed.size(), 2u);
     isReady = true;
     queue.update();
     runWaitingEvents();
-    EXPECT_EQ(performed, (std::vector<std::string>{"fuel"}));
+    EXPECT_EQ(performed.back(), "fuel");
 }
 
 } // namespace gtk

@@ -146,34 +146,6 @@ TEST_F(SettingsFileTest, aMemberOfAnotherTypeIsAnAbsence)
     EXPECT_TRUE(log.empty());
 }
 
-TEST_F(SettingsFileTest, aDamagedFileCountsAsEmptyAndIsKeptAside)
-{
-    const std::string damaged[] = {
-        "",
-        "{\"routes\": [\"dri",
-        "[\"drives\"]",
-        "\"text\"",
-        "{\"routes\": 1} {}",
-        "{\"routes\": \"\xff\"}",
-        "{\"number\": 1e400}",
-        std::string(100, '\0'),
-        "{\"deep\": " + std::string(100'000, '[') + std::string(100'000, ']') + "}",
-    };
-    for (const auto& text : damaged) {
-        SCOPED_TRACE(text.substr(0, 30));
-        log.clear();
-        write(text);
-        open();
-        EXPECT_FALSE(settings->contains("routes"));
-        EXPECT_EQ(contentsOf(path.string() + ".damaged"), text);
-        EXPECT_EQ(log.size(), 1u);
-
-        settings->setInteger("active", 2);
-        settings->flush();
-        EXPECT_EQ(stored(), (Json{{"active", 2}}));
-    }
-}
-
 TEST_F(SettingsFileTest, aFolderInThePlaceOfTheFileIsKeptAside)
 {
     std::filesystem::create_directories(path / "inside");
@@ -181,25 +153,6 @@ TEST_F(SettingsFileTest, aFolderInThePlaceOfTheFileIsKeptAside)
     settings->flush();
     EXPECT_EQ(stored(), (Json{{"active", 2}}));
     EXPECT_TRUE(std::filesystem::exists(path.string() + ".damaged/inside"));
-}
-
-TEST_F(SettingsFileTest, whatThisVersionDoesNotKnowStays)
-{
-    const auto unknown = Json::parse(R"({"a": null, "b": {"c": [1, {"d": 2.5}]}, "e": -1})");
-    write(unknown.dump());
-    settings->setBoolean("shown", true);
-    settings->flush();
-
-    auto expected = unknown;
-    expected["shown"] = true;
-    EXPECT_EQ(stored(), expected);
-}
-
-TEST_F(SettingsFileTest, aTurnOfTheMainLoopWritesWithoutBeingAsked)
-{
-    settings->setInteger("active", 1);
-    EXPECT_FALSE(std::filesystem::exists(path));
-    EXPECT_TRUE(until([&] { return stored() == Json{{"active", 1}}; }));
 }
 
 TEST_F(SettingsFileTest, changesDuringAWriteAreWrittenToo)

@@ -1,8 +1,7 @@
 // The strip of tabs in the hands of somebody with a mouse and a keyboard.
 
-#include "harness/AppProcess.h"
-#include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"
+#include "harness/SignedInTest.h"
 #include "harness/UserInput.h"
 
 #include <csignal>
@@ -12,21 +11,7 @@ namespace desktop {
 
 namespace {
 
-using Routes = std::vector<std::string>;
-
-struct TabStrip : testing::Test {
-    void launch(const Routes& routes, int active)
-    {
-        SavedCookies::signIn("Robin", "Alder");
-        SavedSettings::write({{"vl.open.routes", routes}, {"vl.open.routes.active", active},
-            {"vl.onboarding.shown", true}});
-        SavedSettings::writePermissions({{"notificationsAllowed", false}});
-        app.emplace(service);
-        ASSERT_TRUE(app->waitForPage());
-        for (const auto& route : routes) // the others are loaded ahead
-            ASSERT_TRUE(service.isAsked("/online/api/" + route)) << route;
-    }
-
+struct TabStrip : SignedInTest {
     Point tab(const std::string& title)
     {
         const auto place = app->place(title);
@@ -41,9 +26,6 @@ struct TabStrip : testing::Test {
         EXPECT_EQ(app->process().waitForExit(), 0);
         return SavedSettings::read()["vl.open.routes"];
     }
-
-    DemoServiceProcess service;
-    std::optional<AppProcess> app;
 };
 
 } // namespace
@@ -51,6 +33,8 @@ struct TabStrip : testing::Test {
 TEST_F(TabStrip, isArrangedWithTheMouse)
 {
     launch({"drives", "vehicles", "fuel"}, 1);
+    ASSERT_TRUE(service.isAsked("/online/api/drives")); // the others are loaded ahead
+    ASSERT_TRUE(service.isAsked("/online/api/fuel"));
     service.forgetRequests();
     const Point first = tab("Drives"), last = tab("Fuel");
     const auto isMoved = [&] { return tab("Fuel") == first; };
@@ -71,7 +55,7 @@ TEST_F(TabStrip, isArrangedWithTheMouse)
 
 TEST_F(TabStrip, losesNoKeyOfAFastHand)
 {
-    launch({"drives"}, 0);
+    launch({"drives"});
     UserInput::press("ctrl+t", 10);
     UserInput::press("ctrl+w", 10);
     EXPECT_TRUE(

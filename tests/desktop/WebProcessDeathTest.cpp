@@ -2,10 +2,9 @@
 // back.
 
 #include "harness/AccessibleObject.h"
-#include "harness/AppProcess.h"
 #include "harness/Files.h"
-#include "harness/SavedCookies.h"
 #include "harness/SavedSettings.h"
+#include "harness/SignedInTest.h"
 #include "harness/UserInput.h"
 
 #include <algorithm>
@@ -48,15 +47,8 @@ bool hasTabs(AppProcess& app, int count)
 
 bool askToClear(AppProcess& app)
 {
-    if (!app.waitForPage())
-        return false;
     UserInput::press("alt+h");
-    if (!app.shows("Clear All Cache…"))
-        return false;
-    UserInput::press("Up");
-    UserInput::press("Up");
-    UserInput::press("Return");
-    return app.shows("Clear all cached data?");
+    return app.press("Clear All Cache…") && app.shows("Clear all cached data?");
 }
 
 struct Stage {
@@ -90,22 +82,11 @@ const Stage stages[] = {
         },
         "Use my current location"},
     {"under the question whether to clear everything", "drives",
-        [](auto& app, auto&) { return askToClear(app); }, "Clear all cached data?"},
+        [](auto& app, auto&) { return app.waitForPage() && askToClear(app); },
+        "Clear all cached data?"},
 };
 
-// Somebody who is signed in and has left two tabs.
-class WebProcessDeath : public testing::Test {
-protected:
-    void saveTabs(const nlohmann::json& routes)
-    {
-        SavedCookies::signIn("Robin", "Alder");
-        SavedSettings::write({{"vl.open.routes", routes}, {"vl.onboarding.shown", true}});
-        SavedSettings::writePermissions({{"notificationsAllowed", false}});
-        service.forgetRequests();
-    }
-
-    DemoServiceProcess service;
-};
+using WebProcessDeath = SignedInTest;
 
 } // namespace
 
@@ -113,43 +94,43 @@ TEST_F(WebProcessDeath, atEveryStageLeavesAWindowThatIsUsable)
 {
     for (const auto& stage : stages) {
         SCOPED_TRACE(stage.name);
-        const nlohmann::json routes = {stage.route, "vehicles"};
+        const Routes routes = {stage.route, "vehicles"};
         saveTabs(routes);
-        AppProcess app(service);
-        ASSERT_TRUE(stage.reach(app, service));
+        service.forgetRequests();
+        app.emplace(service);
+        ASSERT_TRUE(stage.reach(*app, service));
 
         service.forgetRequests();
-        ASSERT_TRUE(killWebProcesses(app));
+        ASSERT_TRUE(killWebProcesses(*app));
         EXPECT_TRUE(service.isAsked("/online/api/" + std::string(stage.route)));
         if (stage.panel) {
-            EXPECT_TRUE(app.shows(stage.panel));
+            EXPECT_TRUE(app->shows(stage.panel));
             UserInput::press("Escape");
-            EXPECT_TRUE(app.loses(stage.panel));
+            EXPECT_TRUE(app->loses(stage.panel));
         }
-        EXPECT_TRUE(app.waitForPage());
-        EXPECT_TRUE(hasTabs(app, 2));
+        EXPECT_TRUE(app->waitForPage());
+        EXPECT_TRUE(hasTabs(*app, 2));
 
-        app.process().signal(SIGTERM);
-        EXPECT_EQ(app.process().waitForExit(), 0);
-        EXPECT_EQ(SavedSettings::read()["vl.open.routes"], routes);
+        app->process().signal(SIGTERM);
+        EXPECT_EQ(app->process().waitForExit(), 0);
+        EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json(routes));
     }
 }
 
 TEST_F(WebProcessDeath, afterClearingWasConfirmedStillEndsOnTheWelcomePage)
 {
-    saveTabs({"drives", "vehicles"});
-    AppProcess app(service);
-    ASSERT_TRUE(askToClear(app));
+    launch({"drives", "vehicles"});
+    ASSERT_TRUE(askToClear(*app));
 
     UserInput::press("Return");
     ASSERT_TRUE(eventually([] { return !SavedSettings::read().contains("vl.open.routes"); }));
-    ASSERT_TRUE(killWebProcesses(app));
+    ASSERT_TRUE(killWebProcesses(*app));
 
     EXPECT_TRUE(service.isAsked("/online/welcome.php"));
-    EXPECT_TRUE(app.waitForPage());
-    EXPECT_TRUE(hasTabs(app, 1));
-    app.process().signal(SIGTERM);
-    EXPECT_EQ(app.process().waitForExit(), 0);
+    EXPECT_TRUE(app->waitForPage());
+    EXPECT_TRUE(hasTabs(*app, 1));
+    app->process().signal(SIGTERM);
+    EXPECT_EQ(app->process().waitForExit(), 0);
     EXPECT_FALSE(SavedSettings::read().contains("vl.open.routes"));
 }
 

@@ -1,6 +1,6 @@
 // What the engine brings before the delegates of a web view, and what it makes of their decisions.
 
-#include "platform/webkit/WKUIDelegate.h"
+#include "platform/webkit/WKNavigationDelegate.h"
 #include "shared/NavigationAddresses.h"
 #include "webview/WebViewTest.h"
 
@@ -13,7 +13,7 @@ using platform::WKNavigationActionPolicy;
 namespace {
 
 // Decides what it is told to, and keeps what it was asked.
-struct Delegate final : platform::WKNavigationDelegate, platform::WKUIDelegate {
+struct Delegate final : platform::WKNavigationDelegate {
     void decidePolicy(platform::WKWebView&, const WKNavigationAction& action,
         const std::function<void(WKNavigationActionPolicy)>& decide) override
     {
@@ -24,18 +24,11 @@ struct Delegate final : platform::WKNavigationDelegate, platform::WKUIDelegate {
             decide(policy(action));
     }
 
-    std::shared_ptr<platform::WKWebView> createWebView(
-        platform::WKWebView&, const WKNavigationAction& action) override
-    {
-        windows.push_back(action);
-        return nullptr;
-    }
-
     // The addresses asked for so far, which are forgotten.
-    std::vector<std::string> take(std::vector<WKNavigationAction>& actions)
+    std::vector<std::string> takeAddresses()
     {
         std::vector<std::string> addresses;
-        for (const auto& action : std::exchange(actions, {}))
+        for (const auto& action : std::exchange(navigations, {}))
             addresses.push_back(action.requestURL ? action.requestURL->absoluteString() : "(none)");
         return addresses;
     }
@@ -45,7 +38,6 @@ struct Delegate final : platform::WKNavigationDelegate, platform::WKUIDelegate {
     };
     std::function<void(const std::function<void(WKNavigationActionPolicy)>&)> decidesLater;
     std::vector<WKNavigationAction> navigations;
-    std::vector<WKNavigationAction> windows;
 };
 
 void noteDownload(
@@ -60,10 +52,8 @@ class WebViewPolicyTest : public WebViewTest {
 protected:
     void SetUp() override
     {
-        configuration.preferences.javaScriptCanOpenWindowsAutomatically = true;
         openView();
         view->navigationDelegate = delegate;
-        view->uiDelegate = delegate;
         ASSERT_TRUE(loads("/"));
         delegate->navigations.clear();
     }
@@ -82,7 +72,7 @@ TEST_F(WebViewPolicyTest, addressesArriveAsTheEngineUnderstandsThem)
               "link.href = 'about:after'; link.click()");
         std::vector<std::string> delivered;
         EXPECT_TRUE(until([&] {
-            for (auto& address : delegate->take(delegate->navigations))
+            for (auto& address : delegate->takeAddresses())
                 delivered.push_back(std::move(address));
             return !delivered.empty() && delivered.back() == "about:after";
         }));
@@ -94,59 +84,6 @@ TEST_F(WebViewPolicyTest, addressesArriveAsTheEngineUnderstandsThem)
         const auto url = URL::encodingInvalidCharacters(expected.delivered);
         EXPECT_EQ(delivered, std::vector{url->absoluteString()}) << expected.written;
     }
-}
-
-TEST_F(WebViewPolicyTest, everyFrameAndEveryRedirectIsAsked)
-{
-    server.pages["/frames"] = {.body = "<title>Frames</title><iframe src=/inner></iframe>"
-                                       "<iframe></iframe><iframe srcdoc=x></iframe>"};
-    server.pages["/inner"] = {.body = "<iframe src=https://other.localhost/></iframe>"};
-    server.pages["/away"] = {
-        .body = "", .headers = {{"Location", "https://other.localhost/"}}, .status = 302};
-    delegate->policy = [](const auto& action) {
-        return action.requestURL->host() == "other.localhost" ? WKNavigationActionPolicy::cancel
-                                                              : WKNavigationActionPolicy::allow;
-    };
-
-    load("/frames");
-    ASSERT_TRUE(until([&] { return delegate->navigations.size() >= 5 && !view->isLoading(); }));
-    auto asked = delegate->take(delegate->navigations);
-    std::ranges::sort(asked);
-    EXPECT_EQ(asked,
-        (std::vector<std::string>{"about:blank", "about:srcdoc", server.url("/frames"),
-            server.url("/inner"), "https://other.localhost/"}));
-
-    view->evaluateJavaScript("location.href = '/away'");
-    ASSERT_TRUE(until([&] { return delegate->navigations.size() == 2 && !view->isLoading(); }));
-    EXPECT_EQ(delegate->take(delegate->navigations),
-        (std::vector<std::string>{server.url("/away"), "https://other.localhost/"}));
-    EXPECT_EQ(valueOf("document.title"), "Frames");
-    EXPECT_FALSE(panel()) << "what has been cancelled has not failed";
-}
-
-TEST_F(WebViewPolicyTest, newWindowsAreAskedForAndNotMade)
-{
-    const char* const table[] = {
-        "window.open('/next')",
-        "window.open('/next', 'named')",
-        "link.target = '_blank', link.click()",
-        "link.target = 'named', link.click()",
-        "form.submit()",
-    };
-    for (const auto* script : table) {
-        view->evaluateJavaScript(
-            std::string("var link = document.createElement('a'), "
-                        "form = document.createElement('form');"
-                        "link.href = form.action = '/next'; form.target = '_blank';"
-                        "form.method = 'post'; document.body.append(link, form);")
-            + script);
-        EXPECT_TRUE(until([&] { return !delegate->windows.empty(); })) << script;
-        EXPECT_EQ(delegate->take(delegate->windows), std::vector{server.url("/next")}) << script;
-    }
-    EXPECT_EQ(valueOf("window.open()"), nullptr);
-    EXPECT_EQ(delegate->take(delegate->windows), std::vector<std::string>{"(none)"});
-    EXPECT_TRUE(delegate->navigations.empty());
-    EXPECT_EQ(server.requestCount("/next"), 0u);
 }
 
 TEST_F(WebViewPolicyTest, decisionsMayComeLaterAndCountOnce)

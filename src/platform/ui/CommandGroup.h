@@ -9,18 +9,24 @@ namespace ui {
 // Groups of items that the menu bar of every application has, in the order in which they stand
 // there.
 enum class CommandGroupPlacement {
+    // in the application's own menu
     appInfo,
     appSettings,
     appTermination,
+    // File
     newItem,
     printItem,
+    // Edit
     undoRedo,
     pasteboard,
     textEditing,
+    // View
     toolbar,
     sidebar,
+    // Window
     windowSize,
     windowList,
+    // Help
     help,
     keyboardShortcuts,
 };

@@ -1,24 +1,13 @@
 #include "FileDrag.h"
 
 #include "Process.h"
+#include "UserInput.h"
 
 namespace desktop {
 
 namespace {
 
-constexpr int steps = 10; // a drag in one leap is none
 constexpr int shakes = 10; // over the target, which may ask for the names of the files meanwhile
-
-void perform(std::vector<std::string> action)
-{
-    action.insert(action.begin(), "xdotool");
-    Process(action).waitForExit();
-}
-
-void moveTo(int x, int y)
-{
-    perform({"mousemove", std::to_string(x), std::to_string(y), "sleep", "0.02"});
-}
 
 } // namespace
 
@@ -39,24 +28,22 @@ bool dragFiles(const std::vector<std::filesystem::path>& files, int x, int y)
     if (!isThere)
         return false;
     const auto frame = window->frame();
-    const int startX = frame.x + frame.width / 2;
-    const int startY = frame.y + frame.height - 40;
+    const Point start = {frame.x + frame.width / 2, frame.y + frame.height - 40};
 
-    moveTo(startX, startY);
-    perform({"mousedown", "1"});
+    UserInput::movePointer(start.x, start.y);
+    UserInput::holdButton();
     const bool hasBegun = eventually([&, distance = 0]() mutable {
-        moveTo(startX + distance, startY);
+        UserInput::movePointer(start.x + distance, start.y);
         distance = (distance + 5) % 40;
         return tells("begun");
     });
-    for (int step = 1; step <= steps; ++step)
-        moveTo(startX + (x - startX) * step / steps, startY + (y - startY) * step / steps);
+    UserInput::slide(start, {x, y});
     int shake = 0;
     const bool isAccepted = hasBegun && eventually([&] {
-        moveTo(x + shake % 2, y);
+        UserInput::movePointer(x + shake % 2, y);
         return ++shake >= shakes && tells("accepted");
     });
-    perform({"mouseup", "1"});
+    UserInput::releaseButton();
     return isAccepted && eventually([&] { return tells("ended"); });
 }
 

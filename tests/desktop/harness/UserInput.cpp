@@ -47,16 +47,31 @@ void UserInput::click(int x, int y, int button)
     run({"mousemove", std::to_string(x), std::to_string(y), "click", std::to_string(button)});
 }
 
-void UserInput::drag(Point from, Point to)
+void UserInput::holdButton()
 {
-    constexpr int steps = 20; // a drag in one leap is none
-    movePointer(from.x, from.y);
     run({"mousedown", "1"});
+}
+
+void UserInput::releaseButton()
+{
+    run({"mouseup", "1"});
+}
+
+void UserInput::slide(Point from, Point to)
+{
+    constexpr int steps = 20;
     for (int step = 1; step <= steps; ++step) {
         run({"mousemove", std::to_string(from.x + (to.x - from.x) * step / steps),
             std::to_string(from.y + (to.y - from.y) * step / steps), "sleep", "0.02"});
     }
-    run({"mouseup", "1"});
+}
+
+void UserInput::drag(Point from, Point to)
+{
+    movePointer(from.x, from.y);
+    holdButton();
+    slide(from, to);
+    releaseButton();
 }
 
 } // namespace desktop

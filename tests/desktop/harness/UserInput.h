@@ -25,6 +25,13 @@ public:
     // Moves the pointer there, in pixels from the upper left corner of the screen, and clicks.
     static void click(int x, int y, int button = leftButton);
 
+    // The left one.
+    static void holdButton();
+    static void releaseButton();
+
+    // Moves the pointer in small steps, as a hand does that drags: a leap is no drag.
+    static void slide(Point from, Point to);
+
     // Presses the left button at one place of the screen and lets it go at another one.
     static void drag(Point from, Point to);
 

@@ -1,8 +1,10 @@
 #include "RunningApp.h"
+#include "web/PageScripts.h"
 
 #include <gtest/gtest.h>
 
 using velmaro::TabbedAppModel;
+namespace PageScripts = velmaro::PageScripts;
 using Strings = std::vector<std::string>;
 
 namespace {
@@ -40,22 +42,6 @@ TEST(Launching, opensOneWindowOnTheWelcomePage)
     EXPECT_FALSE(platform::NSWindow::allowsAutomaticWindowTabbing());
     EXPECT_EQ(launch.addresses(), Strings{"https://velmaro.example/online/welcome.php"});
     EXPECT_TRUE(launch.platform.logLines.empty());
-}
-
-TEST(Launching, bringsTheTabsBackAndLoadsOnlyTheOneThatIsSeen)
-{
-    Launch launch(threeTabs(1));
-    EXPECT_EQ(launch.addresses(), Strings{"https://velmaro.example/online#fuel"});
-
-    launch.tabs()->nextTab();
-    launch.settle();
-    launch.tabs()->previousTab();
-    launch.settle();
-    EXPECT_EQ(launch.addresses(),
-        (Strings{
-            "https://velmaro.example/online#fuel", "https://velmaro.example/online#vehicles"}));
-    EXPECT_EQ(launch.webView(0)->loads.size(), 1u);
-    EXPECT_EQ(launch.webView(1)->window(), &launch.application().window());
 }
 
 TEST(Launching, showsAndTouchesOnlyTheActiveTab)
@@ -116,17 +102,6 @@ TEST(Terminating, savesTheTabsHoweverItComesButNotAtACrash)
         EXPECT_EQ(launch.platform.userDefaults().writes().size(), saves ? 2u : 0u);
         EXPECT_EQ(launch.tabs() == nullptr, saves) << "the model goes with its window";
     }
-}
-
-TEST(Terminating, isComeBackFromAtTheNextLaunch)
-{
-    Launch first(threeTabs(0));
-    first.tabs()->newTab("reports");
-    first.application().simulateQuit();
-
-    Launch second(first.platform.userDefaults().contents());
-    EXPECT_EQ(second.tabs()->tabs().size(), 4u);
-    EXPECT_EQ(second.addresses(), Strings{"https://velmaro.example/online#reports"});
 }
 
 TEST(Running, endsWithTheSession)
@@ -198,9 +173,11 @@ TEST(OpeningAnAddress, reachesThePageOfTheActiveTab)
     launch.settle();
     launch.application().simulateOpenURL("velmaro://page/reports");
     launch.application().simulateOpenURL("velmaro://new/boat");
+    launch.application().simulateOpenURL("velmaro://drive/+007");
     EXPECT_TRUE(launch.webView(0)->scripts.empty());
-    ASSERT_EQ(launch.webView(1)->scripts.size(), 1u);
-    EXPECT_NE(launch.webView(1)->scripts[0].find("showPage('reports')"), std::string::npos);
+    EXPECT_EQ(launch.webView(1)->scripts,
+        (Strings{PageScripts::showRoute("reports"),
+            PageScripts::showRouteAndCall("drives", "viewDriveDetail", "7")}));
 }
 
 TEST(OpeningAnAddress, isDroppedWhenNoTabIsActive)
@@ -213,38 +190,4 @@ TEST(OpeningAnAddress, isDroppedWhenNoTabIsActive)
     launch.settle();
     for (const auto& webView : launch.platform.webViews())
         EXPECT_TRUE(webView.expired() || webView.lock()->scripts.empty());
-}
-
-TEST(ClosingATab, leavesNothingOfItBehind)
-{
-    Launch launch(threeTabs(0));
-    launch.webView()->simulateTitle("Drives");
-    launch.settle(); // the splash is fading
-    const std::weak_ptr model = launch.tabs()->tabs()[0];
-    const std::weak_ptr webView = launch.webView();
-    const auto coordinator =
-        webView.lock()->configuration.userContentController.scriptMessageHandlers[0].handler;
-
-    launch.webView()->simulateLoading(true, 0.5);
-    launch.tabs()->closeTab(0);
-    launch.platform.mainQueue().advance(1);
-    EXPECT_TRUE(model.expired());
-    EXPECT_TRUE(webView.expired());
-    EXPECT_TRUE(coordinator.expired());
-    EXPECT_EQ(launch.tabs()->tabs().size(), 2u);
-}
-
-TEST(Tabs, keepTheirPagesWhenTheyAreMovedAndWhenOthersClose)
-{
-    Launch launch(threeTabs(0));
-    launch.tabs()->nextTab();
-    launch.settle();
-    const auto tabs = launch.tabs()->tabs();
-    launch.tabs()->moveTab(tabs[2]->id, tabs[0]->id);
-    launch.settle();
-    launch.tabs()->closeTab(0);
-    launch.settle();
-    EXPECT_EQ(launch.platform.webViews().size(), 2u);
-    EXPECT_EQ(tabs[0]->webView.lock(), launch.webView(0));
-    EXPECT_EQ(launch.webView(0)->loads.size(), 1u);
 }

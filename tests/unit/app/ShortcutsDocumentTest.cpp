@@ -7,17 +7,21 @@
 #include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace {
 
 constexpr auto path = VELMARO_SOURCE_FOLDER "/docs"
                                             "/shortcuts.md";
 
-std::string keysOf(const ui::MenuItem& item)
+// The keys of an item, which no other one has.
+std::string keysOf(const ui::MenuItem& item, std::set<std::string>& taken)
 {
     std::string keys;
-    for (const auto& shortcut : item.shortcuts)
+    for (const auto& shortcut : item.shortcuts) {
+        EXPECT_TRUE(taken.insert(label(shortcut)).second) << label(shortcut) << " is there twice";
         keys += (keys.empty() ? "" : ", ") + label(shortcut);
+    }
     return keys;
 }
 
@@ -27,12 +31,13 @@ std::string document(const std::vector<ui::Menu>& menus)
         "# Menus and keyboard shortcuts\n\nThe keys work wherever the keyboard is in "
         "the main window, also in a page. Ctrl+? shows them in the program.\n"
         "A click with the middle button closes a tab.\n";
+    std::set<std::string> taken;
     for (const auto& menu : menus) {
         text += "\n## " + menu.title + "\n\n| Command | Keys |\n|---|---|\n";
         for (const auto& section : menu.sections) {
             for (const auto& item : section) {
                 if (item.isListed || !item.shortcuts.empty())
-                    text += "| " + item.title + " | " + keysOf(item) + " |\n";
+                    text += "| " + item.title + " | " + keysOf(item, taken) + " |\n";
             }
         }
     }

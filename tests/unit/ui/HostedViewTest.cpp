@@ -51,22 +51,9 @@ struct Host {
     void updateNSView(LoggedView&, Coordinator&) const { ++log->updated; }
 };
 
-struct Screen {
-    std::shared_ptr<Published<View>> content;
-    View body() const { return (*content)(); }
-};
-
-struct HostedViews : Stage, testing::Test {
-    void change(View content)
-    {
-        *screen = std::move(content);
-        settle();
-    }
-
+struct HostedViews : ChangingStage, testing::Test {
     std::shared_ptr<Log> log = std::make_shared<Log>();
     std::shared_ptr<Log> otherLog = std::make_shared<Log>();
-    std::shared_ptr<Published<View>> screen = std::make_shared<Published<View>>();
-    simulated::SimulatedWindow& window = show(Screen{screen});
 };
 
 } // namespace
@@ -86,13 +73,6 @@ TEST_F(HostedViews, areMadeWithTheirPlaceAndKeptWhenHidden)
     EXPECT_EQ(log->gone, "");
 }
 
-TEST_F(HostedViews, comingLateIntoSomethingInvisibleAreHidden)
-{
-    change(HStack{{}, Text("a")}.opacity(0));
-    change(HStack{{}, Text("a"), Host{log}}.opacity(0));
-    EXPECT_NE(window.content().describe().find("hosted hidden"), std::string::npos);
-}
-
 TEST_F(HostedViews, areUpdatedAtEveryRedrawAndStandInTheWindowUntilTheirPlaceGoes)
 {
     change(VStack{{}, Host{log}});
@@ -105,13 +85,6 @@ TEST_F(HostedViews, areUpdatedAtEveryRedrawAndStandInTheWindowUntilTheirPlaceGoe
     EXPECT_EQ(view->window(), &window);
     change(View());
     EXPECT_EQ(view->window(), nullptr);
-}
-
-TEST_F(HostedViews, goBeforeTheirCoordinatorWithTheirPlace)
-{
-    change(Host{log});
-    change(Text("a"));
-    EXPECT_EQ(log->gone, "view coordinator");
 }
 
 TEST_F(HostedViews, stayMountedWhenTheirSiblingsComeGoAndMove)

@@ -21,28 +21,6 @@ TEST(Observation, hearsOfWritesToWhatWasReadOncePerWrite)
     EXPECT_EQ(readField(), 7);
 }
 
-TEST(Observation, trackingAgainForgetsWhatIsNoLongerRead)
-{
-    Published<bool> showsTitle = true;
-    Published<std::string> title = std::string("a");
-    int changes = 0;
-    Observation* self = nullptr;
-    const auto read = [&] {
-        if (showsTitle())
-            title();
-    };
-    Observation observation(read, [&] {
-        ++changes;
-        self->track(read);
-    });
-    self = &observation;
-
-    showsTitle = false;
-    title = "b";
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(title.observerCount(), 0u);
-}
-
 TEST(Observation, nestedReadersKeepTheirReadsApart)
 {
     Published<int> outerField = 1;

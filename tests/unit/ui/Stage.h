@@ -18,6 +18,23 @@ struct Stage {
     simulated::SimulatedPlatform platform;
 };
 
+// A stage whose one window shows whatever its field holds.
+struct ChangingStage : Stage {
+    struct Screen {
+        std::shared_ptr<ui::Published<ui::View>> content;
+        ui::View body() const { return (*content)(); }
+    };
+
+    void change(ui::View content)
+    {
+        *screen = std::move(content);
+        settle();
+    }
+
+    std::shared_ptr<ui::Published<ui::View>> screen = std::make_shared<ui::Published<ui::View>>();
+    simulated::SimulatedWindow& window = show(Screen{screen});
+};
+
 // Presses the button that says what `help` says; false when there is none.
 inline bool press(const simulated::SimulatedWidget& widget, const std::string& help)
 {

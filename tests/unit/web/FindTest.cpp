@@ -36,10 +36,13 @@ TEST_F(FindTest, takesTheKeyboardAndSearchesInBothDirections)
 
     EXPECT_TRUE(field->simulateCommand(NSTextCommand::insertNewline));
     EXPECT_TRUE(field->simulateCommand(NSTextCommand::insertNewline, {.shift = true}));
-    ASSERT_EQ(page->searches.size(), 2u);
+    EXPECT_TRUE(press(window.content(), "Next match (⌘G)"));
+    EXPECT_TRUE(press(window.content(), "Previous match (⇧⌘G)"));
+    std::vector<bool> directions;
+    for (const auto& search : page->searches)
+        directions.push_back(search.configuration.backwards);
+    ASSERT_EQ(directions, (std::vector{false, true, false, true}));
     EXPECT_EQ(page->searches[0].text, " Ferry "); // as typed
-    EXPECT_FALSE(page->searches[0].configuration.backwards);
-    EXPECT_TRUE(page->searches[1].configuration.backwards);
     EXPECT_TRUE(page->searches[0].configuration.wraps);
     EXPECT_FALSE(page->searches[0].configuration.caseSensitive);
 }

@@ -51,10 +51,3 @@ TEST(UserIdentity, comesBackFromItsStoredForm)
     }
     EXPECT_FALSE((UserIdentity{"\xff", ""}.encoded()));
 }
-
-TEST(UserIdentity, comparesNamesAsPeopleReadThem)
-{
-    EXPECT_EQ((UserIdentity{"Zo\u00eb", "A"}), (UserIdentity{"Zoe\u0308", "A"}));
-    EXPECT_NE((UserIdentity{"Ada", "A"}), (UserIdentity{"ada", "A"}));
-    EXPECT_NE((UserIdentity{"A", "B"}), (UserIdentity{"B", "A"}));
-}

@@ -12,12 +12,6 @@ namespace {
 
 constexpr auto key = "vl.user.identity";
 
-Data dataOf(std::string_view text)
-{
-    const auto* bytes = reinterpret_cast<const std::byte*>(text.data());
-    return Data(bytes, bytes + text.size());
-}
-
 struct WebModels : testing::Test {
     std::optional<UserIdentity> stored()
     {
@@ -28,26 +22,11 @@ struct WebModels : testing::Test {
     simulated::SimulatedPlatform platform;
 };
 
-struct ShownWebModel : WebModels {
-    ShownWebModel() { model.webView = webView; }
-
-    std::shared_ptr<simulated::SimulatedWebView> webView =
-        std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
-    WebModel model;
-};
-
 } // namespace
-
-TEST_F(WebModels, startWithTheStoredIdentity)
-{
-    EXPECT_FALSE(WebModel().user());
-    platform.userDefaults().plant(key, dataOf(R"({"firstname":"Ada","lastname":"Moor"})"));
-    EXPECT_EQ(WebModel().user(), (UserIdentity{"Ada", "Moor"}));
-}
 
 TEST_F(WebModels, ignoreAndKeepAnIdentityThatCannotBeRead)
 {
-    for (const auto& damaged : {simulated::SimulatedUserDefaults::Stored(dataOf("not JSON")),
+    for (const auto& damaged : {simulated::SimulatedUserDefaults::Stored(Data{std::byte('{')}),
              simulated::SimulatedUserDefaults::Stored(std::string("text"))}) {
         platform.userDefaults().plant(key, damaged);
         EXPECT_FALSE(WebModel().user());
@@ -65,6 +44,7 @@ TEST_F(WebModels, storeAndPublishTheUserOnlyWhenItChanges)
         {{}, false},
         {UserIdentity{"Zo\u00eb", "Moor"}, true},
         {UserIdentity{"Zoe\u0308", "Moor"}, false},
+        {UserIdentity{"Zo\u00eb", "Lund"}, true},
         {UserIdentity{"", ""}, true},
         {UserIdentity{"", ""}, false},
         {{}, true},
@@ -106,20 +86,4 @@ TEST_F(WebModels, doNothingWithoutAWebView)
     model.goForward();
     model.handleDeepLink(*platform::URL::fromString("velmaro://fuel"));
     EXPECT_EQ(model.currentRoute(), "fuel");
-}
-
-TEST_F(ShownWebModel, followsDeepLinks)
-{
-    WebModel other;
-    const auto otherView =
-        std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
-    other.webView = otherView;
-    other.showRoute("drives");
-    other.showRouteAndCall("drives", "viewDriveDetail", "7");
-    other.showRouteAndCall("fuel", "addFuel");
-
-    for (const auto* address : {"velmaro://page/drives", "velmaro://drive/+007",
-             "velmaro://new/fuel", "velmaro://drive/abc", "https://velmaro.example/fuel"})
-        model.handleDeepLink(*platform::URL::fromString(address));
-    EXPECT_EQ(webView->scripts, otherView->scripts);
 }

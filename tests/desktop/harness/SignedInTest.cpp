@@ -1,0 +1,23 @@
+#include "SignedInTest.h"
+
+#include "SavedCookies.h"
+#include "SavedSettings.h"
+
+namespace desktop {
+
+void SignedInTest::saveTabs(const Routes& routes, int active)
+{
+    SavedCookies::signIn("Robin", "Alder");
+    SavedSettings::write({{"vl.open.routes", routes}, {"vl.open.routes.active", active},
+        {"vl.onboarding.shown", true}});
+    SavedSettings::writePermissions({{"notificationsAllowed", false}});
+}
+
+void SignedInTest::launch(const Routes& routes, int active)
+{
+    saveTabs(routes, active);
+    app.emplace(service);
+    ASSERT_TRUE(app->waitForPage());
+}
+
+} // namespace desktop
