@@ -18,14 +18,13 @@ constexpr auto chargingPill = "Find charging stations";
 constexpr auto trafficPill = "Traffic alerts";
 constexpr auto currentLocation = "Use my current location";
 
-// The application of somebody who is signed in and lets it use the computer's location.
+// The application of somebody who is signed in.
 struct Places : testing::Test {
     void SetUp() override
     {
         SavedCookies::signIn("Robin", "Alder");
         SavedSettings::write({{"vl.open.routes", {"drives"}}, {"vl.onboarding.shown", true}});
-        SavedSettings::writePermissions(
-            {{"notificationsAllowed", false}, {"locationAllowed", true}});
+        SavedSettings::writePermissions({{"notificationsAllowed", false}});
         auto environment = service.clientEnvironment();
         environment["VELMARO_GEOCODER"] = service.origin();
         app.emplace(std::vector<std::string>(), environment);
@@ -72,6 +71,7 @@ TEST_F(Places, mayBeWhereTheComputerIs)
 {
     ASSERT_TRUE(app->press(trafficPill));
     ASSERT_TRUE(app->press(currentLocation));
+    ASSERT_TRUE(app->press("Allow"));
     EXPECT_TRUE(looksAround("kind=traffic&lat=47.25&lng=-31.5&"));
     EXPECT_TRUE(app->loses(currentLocation));
 }
