@@ -66,8 +66,8 @@ View StationToolbar::body() const
 
     const auto pill = [this](const StationPill& pill) {
         const bool isOpen = pickerTarget.get() == pill.kind;
-        const auto toggle = [target = pickerTarget, kind = pill.kind, isOpen] {
-            target.set(isOpen ? std::nullopt : std::optional(kind));
+        const auto toggle = [target = pickerTarget, kind = pill.kind] {
+            target.set(target.get() == kind ? std::nullopt : std::optional(kind));
         };
         return StationPillButton{.title = pill.title,
             .systemImage = pill.systemImage,

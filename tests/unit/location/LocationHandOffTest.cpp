@@ -1,8 +1,8 @@
 #include "location/LocationScripts.h"
 
 #include "location/StationKind.h"
-#include "platform/simulated/SimulatedPlatform.h"
-#include "web/WebModel.h"
+#include "RunningApp.h"
+#include "ui/Stage.h"
 
 #include <gtest/gtest.h>
 
@@ -34,6 +34,26 @@ TEST(LocationHandOff, runsOncePerPickAndOnlyInAWebView)
     };
     EXPECT_EQ(webView->scripts, expected);
     EXPECT_EQ(model.currentRoute(), "dashboard");
+}
+
+TEST(LocationHandOff, reachesTheTabThatThePickerWasOpenedFor)
+{
+    RunningApp run;
+    run.launch({{"vl.open.routes", std::vector<std::string>{"drives", "fuel"}}});
+    const auto& window = run.platform.application().window().content();
+    run.tabs()->activeTab()->setUser(UserIdentity{"Robin", "Alder"});
+    run.settle();
+    ASSERT_TRUE(press(window, "Find charging stations"));
+    run.settle();
+    run.platform.searchCompleters().back().lock()->simulateResults({{"Quay", ""}});
+    run.tabs()->nextTab();
+    run.settle();
+    ASSERT_TRUE(press(window, "Quay"));
+    run.platform.localSearches().back()->simulatePlaces({{1, 2}});
+    run.settle();
+    EXPECT_EQ(run.webView(0)->scripts,
+        std::vector{LocationScripts::handOffLocation(StationKind::evstations, {1, 2, "Quay"})});
+    EXPECT_FALSE(press(window, "Quay")) << "the picker is closed";
 }
 
 } // namespace velmaro
