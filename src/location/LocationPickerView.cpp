@@ -220,7 +220,9 @@ View LocationPickerView::body() const
         statusLine(picker),
     }
         .frame({.width = 480, .height = 460})
-        .background(RoundedRectangle({.cornerRadius = 10, .fill = Color::windowBackground}));
+        .background(RoundedRectangle({.cornerRadius = 10, .fill = Color::windowBackground}))
+        .accessibility({.role = ui::Accessibility::Role::dialog,
+            .label = std::string(appearance(kind).title)});
 }
 
 } // namespace velmaro

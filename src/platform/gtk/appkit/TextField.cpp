@@ -12,6 +12,7 @@ using platform::NSTextCommand;
 
 TextField::TextField()
 {
+    setAccessibleAsField(text_);
     text_.set_hexpand();
     text_.property_text().signal_changed().connect([this] {
         const auto delegate = delegate_.lock();
