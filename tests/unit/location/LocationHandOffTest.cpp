@@ -36,7 +36,7 @@ TEST(LocationHandOff, runsOncePerPickAndOnlyInAWebView)
     EXPECT_EQ(model.currentRoute(), "dashboard");
 }
 
-TEST(LocationHandOff, reachesTheTabThatThePickerWasOpenedFor)
+TEST(LocationHandOff, takesEveryPickToTheTabThatThePickerWasOpenedFor)
 {
     RunningApp run;
     run.launch({{"vl.open.routes", std::vector<std::string>{"drives", "fuel"}}});
@@ -45,14 +45,20 @@ TEST(LocationHandOff, reachesTheTabThatThePickerWasOpenedFor)
     run.settle();
     ASSERT_TRUE(press(window, "Find charging stations"));
     run.settle();
-    run.platform.searchCompleters().back().lock()->simulateResults({{"Quay", ""}});
+    run.platform.searchCompleters().back().lock()->simulateResults({{"Quay", ""}, {"Pier", ""}});
     run.tabs()->nextTab();
     run.settle();
-    ASSERT_TRUE(press(window, "Quay"));
-    run.platform.localSearches().back()->simulatePlaces({{1, 2}});
+
+    ASSERT_TRUE(press(window, "Quay") && press(window, "Pier"));
+    const auto& searches = run.platform.localSearches();
+    searches[1]->simulatePlaces({{3, 4}});
+    searches[0]->simulatePlaces({{1, 2}});
     run.settle();
-    EXPECT_EQ(run.webView(0)->scripts,
-        std::vector{LocationScripts::handOffLocation(StationKind::evstations, {1, 2, "Quay"})});
+    const std::vector<std::string> expected = {
+        LocationScripts::handOffLocation(StationKind::evstations, {3, 4, "Pier"}),
+        LocationScripts::handOffLocation(StationKind::evstations, {1, 2, "Quay"}),
+    };
+    EXPECT_EQ(run.webView(0)->scripts, expected);
     EXPECT_FALSE(press(window, "Quay")) << "the picker is closed";
 }
 
