@@ -38,7 +38,10 @@ LocationPickerModel::Completion finishPick(const Picked& onPick)
 View secondary(std::string text, double size)
 {
     return Text(std::move(text),
-        {.font = {.size = size}, .color = Color::secondaryLabel, .alignment = Alignment::leading});
+        {.font = {.size = size},
+            .color = Color::secondaryLabel,
+            .wraps = true,
+            .alignment = Alignment::leading});
 }
 
 View header(StationKind kind, const std::function<void()>& onCancel)
@@ -46,10 +49,6 @@ View header(StationKind kind, const std::function<void()>& onCancel)
     const auto& look = appearance(kind);
     const ui::TextOptions title{
         .font = {.size = 17, .weight = Font::Weight::semibold}, .alignment = Alignment::leading};
-    const ui::TextOptions explanation{.font = {.size = 12},
-        .color = Color::secondaryLabel,
-        .wraps = true,
-        .alignment = Alignment::leading};
 
     return HStack{
         {.spacing = 12, .alignment = Alignment::top},
@@ -59,7 +58,7 @@ View header(StationKind kind, const std::function<void()>& onCancel)
         VStack{
             {.spacing = 2, .alignment = Alignment::leading},
             Text(std::string(look.title), title),
-            Text(std::string(look.explanation), explanation),
+            secondary(std::string(look.explanation), 12),
         },
         Spacer(),
         Button({.style = ButtonStyle::plain,
@@ -92,8 +91,9 @@ View keyCap()
 
 View suggestionRow(const Suggestion& suggestion, bool isFirst, std::function<void()> resolve)
 {
-    const ui::TextOptions title{
-        .font = {.size = 13, .weight = Font::Weight::medium}, .alignment = Alignment::leading};
+    const ui::TextOptions title{.font = {.size = 13, .weight = Font::Weight::medium},
+        .wraps = true,
+        .alignment = Alignment::leading};
     const auto name = suggestion->subtitle.empty()
         ? suggestion->title
         : suggestion->title + ", " + suggestion->subtitle;
@@ -220,7 +220,9 @@ View LocationPickerView::body() const
         statusLine(picker),
     }
         .frame({.width = 480, .height = 460})
-        .background(RoundedRectangle({.cornerRadius = 10, .fill = Color::windowBackground}));
+        .background(RoundedRectangle({.cornerRadius = 10, .fill = Color::windowBackground}))
+        .accessibility({.role = ui::Accessibility::Role::dialog,
+            .label = std::string(appearance(kind).title)});
 }
 
 } // namespace velmaro

@@ -34,17 +34,35 @@ View layers(const TabbedAppModel& app, const Tab& active)
     return ZStack{{}, ui::ForEach(app.tabs(), tabId, layer)};
 }
 
+// The location picker, for the tab that was in front when it was opened: a picked place is that
+// one's, or nobody's when it has been closed meanwhile.
+struct StationPicker {
+    StationKind kind;
+    ui::State<std::weak_ptr<WebModel>> opener;
+    std::function<void()> close;
+
+    auto state() { return std::tie(opener); }
+
+    View body() const
+    {
+        const auto handOff = [kind = kind, opener = opener(), close = close](
+                                 const PickedLocation& location) {
+            close();
+            if (const auto tab = opener.lock())
+                tab->handOffLocation(kind, location);
+        };
+        return LocationPickerView{.kind = kind, .onPick = handOff, .onCancel = close};
+    }
+};
+
 } // namespace
 
 View ActiveTabShell::body() const
 {
     const auto closePicker = [close = pickerTarget.setter()] { close(std::nullopt); };
     const auto picker = [&](StationKind kind) {
-        const auto handOff = [closePicker, tab = active, kind](const PickedLocation& location) {
-            closePicker();
-            tab->handOffLocation(kind, location);
-        };
-        return View(LocationPickerView{.kind = kind, .onPick = handOff, .onCancel = closePicker})
+        return View(
+            StationPicker{.kind = kind, .opener = std::weak_ptr(active), .close = closePicker})
             .id(std::string(rawValue(kind)));
     };
     const auto& target = pickerTarget();

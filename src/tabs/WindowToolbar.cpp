@@ -56,7 +56,8 @@ View NavigationToolbar::body() const
         isSignedIn ? routeButton(tab, "person.2.fill", "Account Groups", "account-groups")
                          .padding({.trailing = 16})
                    : View(),
-    };
+    }
+        .accessibility({.role = ui::Accessibility::Role::toolbar, .label = "Navigation"});
 }
 
 View StationToolbar::body() const
@@ -66,8 +67,8 @@ View StationToolbar::body() const
 
     const auto pill = [this](const StationPill& pill) {
         const bool isOpen = pickerTarget.get() == pill.kind;
-        const auto toggle = [target = pickerTarget, kind = pill.kind, isOpen] {
-            target.set(isOpen ? std::nullopt : std::optional(kind));
+        const auto toggle = [target = pickerTarget, kind = pill.kind] {
+            target.set(target.get() == kind ? std::nullopt : std::optional(kind));
         };
         return StationPillButton{.title = pill.title,
             .systemImage = pill.systemImage,
@@ -76,7 +77,8 @@ View StationToolbar::body() const
             .action = toggle};
     };
     const auto title = [](const StationPill& pill) { return std::string(pill.title); };
-    return HStack{{.spacing = 6}, ui::ForEach(stationPills, title, pill)};
+    return HStack{{.spacing = 6}, ui::ForEach(stationPills, title, pill)}.accessibility(
+        {.role = ui::Accessibility::Role::toolbar, .label = "Nearby"});
 }
 
 } // namespace velmaro

@@ -1,11 +1,9 @@
-// Alerts and questions as the user answers them.
+// Alerts as the user answers them.
 
 #include "harness/Desktop.h"
 #include "harness/ShownWindow.h"
 #include "harness/UserInput.h"
 #include "platform/gtk/appkit/AlertPresenter.h"
-#include "platform/gtk/corelocation/LocationPermission.h"
-#include "platform/gtk/corelocation/LocationQuestion.h"
 #include "webview/WebViewTest.h"
 
 namespace desktop {
@@ -25,12 +23,6 @@ std::string messageOf(GtkWidget* alert)
     g_autofree char* text = nullptr;
     g_object_get(alert, "text", &text, nullptr);
     return text;
-}
-
-void press(GtkResponseType button)
-{
-    auto* alert = GTK_DIALOG(alertOnScreen());
-    g_signal_emit_by_name(gtk_dialog_get_widget_for_response(alert, button), "clicked");
 }
 
 } // namespace
@@ -73,35 +65,6 @@ TEST(Alerts, takeTurnsAndAreAnsweredWithTheKeyboard)
         EXPECT_EQ(answers.back(), table[turn].answer);
     }
     EXPECT_TRUE(until([] { return Desktop::windows().empty(); }));
-}
-
-TEST(Alerts, askForTheLocationAndTakeAnyEndButAllowForANo)
-{
-    const auto application = Gtk::Application::create();
-    ASSERT_TRUE(gtk_init_check());
-    struct Case {
-        const char* name;
-        void (*decide)();
-        bool isAllowed;
-    };
-    const Case cases[] = {
-        {"allow", [] { press(GTK_RESPONSE_ACCEPT); }, true},
-        {"deny", [] { press(GTK_RESPONSE_REJECT); }, false},
-        {"close", [] { gtk_window_close(GTK_WINDOW(alertOnScreen())); }, false},
-        {"Escape", [] { UserInput::press("Escape"); }, false},
-    };
-    for (const auto& [name, decide, isAllowed] : cases) {
-        SCOPED_TRACE(name);
-        std::vector<bool> answers;
-        gtk::askForLocation([&](bool answer) { answers.push_back(answer); });
-        ASSERT_TRUE(until([] { return alertOnScreen() != nullptr; }));
-        EXPECT_TRUE(answers.empty());
-        EXPECT_EQ(messageOf(alertOnScreen()), gtk::LocationPermission::question);
-
-        decide();
-        EXPECT_TRUE(until([&] { return !answers.empty() && !alertOnScreen(); }));
-        EXPECT_EQ(answers, std::vector{isAllowed});
-    }
 }
 
 } // namespace desktop

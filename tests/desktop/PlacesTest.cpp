@@ -17,13 +17,10 @@ constexpr auto chargingPill = "Find charging stations";
 constexpr auto trafficPill = "Traffic alerts";
 constexpr auto currentLocation = "Use my current location";
 
-// The application may use the computer's location.
 struct Places : SignedInTest {
     void SetUp() override
     {
         saveTabs({"drives"});
-        SavedSettings::writePermissions(
-            {{"notificationsAllowed", false}, {"locationAllowed", true}});
         auto environment = service.clientEnvironment();
         environment["VELMARO_GEOCODER"] = service.origin();
         app.emplace(std::vector<std::string>(), environment);
@@ -68,6 +65,7 @@ TEST_F(Places, mayBeWhereTheComputerIs)
 {
     ASSERT_TRUE(app->press(trafficPill));
     ASSERT_TRUE(app->press(currentLocation));
+    ASSERT_TRUE(app->press("Allow"));
     EXPECT_TRUE(looksAround("kind=traffic&lat=47.25&lng=-31.5&"));
     EXPECT_TRUE(app->loses(currentLocation));
 }

@@ -1,4 +1,8 @@
+#include "harness/UserInput.h"
 #include "webview/WebViewTest.h"
+
+#include <gtkmm/box.h>
+#include <gtkmm/button.h>
 
 namespace desktop {
 
@@ -28,6 +32,23 @@ TEST_F(WebViewMannersTest, whatAPageAsksForBesideItsAreaIsRefusedAtOnce)
     for (const auto& [expression, answer] : table)
         EXPECT_EQ(valueOf(expression), answer) << expression;
     EXPECT_TRUE(window->get_visible());
+}
+
+TEST_F(WebViewMannersTest, aPageHasTheKeyboardAtFirstAndLetsItGoAtBothEnds)
+{
+    Gtk::Box box;
+    Gtk::Button button("Outside");
+    window->unset_child();
+    box.append(button);
+    box.append(view->nativeWidget());
+    window->set_child(box);
+
+    for (const auto* key : {"Tab", "shift+Tab"}) {
+        ASSERT_TRUE(until([&] { return gtk_widget_has_focus(GTK_WIDGET(native())); }));
+        UserInput::press(key);
+        ASSERT_TRUE(until([&] { return button.has_focus(); })) << key;
+        gtk_widget_grab_focus(GTK_WIDGET(native()));
+    }
 }
 
 TEST_F(WebViewMannersTest, permissionsAreDenied)

@@ -15,7 +15,6 @@
 #include "platform/gtk/appkit/SharePanel.h"
 #include "platform/gtk/appkit/TextField.h"
 #include "platform/gtk/appkit/Workspace.h"
-#include "platform/gtk/corelocation/LocationQuestion.h"
 #include "platform/gtk/corelocation/LocationServices.h"
 #include "platform/gtk/diagnosis/Diagnosis.h"
 #include "platform/gtk/foundation/Files.h"
@@ -330,7 +329,7 @@ LocationServices& GtkPlatform::locationServices()
     if (!locationServices_) {
         locationServices_ = std::make_unique<LocationServices>(
             LocationServices::Options{.identifier = options_.identifier}, *mainQueue_,
-            permissions(), askForLocation);
+            permissions(), LocationPermission::askUser);
     }
     return *locationServices_;
 }

@@ -6,7 +6,7 @@ namespace ui {
 
 // What a view is to those who cannot see it.
 struct Accessibility {
-    enum class Role { automatic, tabList, tab, toolbar };
+    enum class Role { automatic, tabList, tab, toolbar, dialog };
 
     Role role = Role::automatic;
     std::string label = {}; // empty: what the view shows

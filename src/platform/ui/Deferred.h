@@ -18,23 +18,16 @@ public:
         auto moment = std::make_shared<IdleMoment>();
         platform::DispatchQueue::main().asyncWhenIdle([weakMoment = std::weak_ptr(moment)] {
             if (const auto moment = weakMoment.lock())
-                moment->bringForward();
+                moment->hasCome = true;
         });
         return moment;
     }
 
     Published<bool> hasCome = false;
-
-    // Waits no longer.
-    void bringForward()
-    {
-        if (!hasCome())
-            hasCome = true;
-    }
 };
 
 // A view that is not worth keeping the user waiting for: `placeholder` until the program has a
-// moment for `content`. Once that has been shown, or was wanted at once, it stays.
+// moment for `content`, except while that is wanted now.
 struct Deferred {
     bool isWantedNow = false;
     View placeholder;
@@ -43,12 +36,7 @@ struct Deferred {
 
     auto state() { return std::tie(moment); }
 
-    View body() const
-    {
-        if (isWantedNow)
-            moment()->bringForward();
-        return moment()->hasCome() ? content() : placeholder;
-    }
+    View body() const { return isWantedNow || moment()->hasCome() ? content() : placeholder; }
 };
 
 } // namespace ui

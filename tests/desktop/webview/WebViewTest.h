@@ -91,11 +91,11 @@ protected:
         configuration.websiteDataStore = platform::WKWebsiteDataStore::defaultDataStore;
         configuration.userContentController.scriptMessageHandlers = {{"probe", probe}};
         view = std::make_shared<gtk::GtkWebView>(*engine, configuration);
+        view->setShown(true);
         window = std::make_unique<Gtk::Window>();
         window->set_default_size(800, 600);
         window->set_child(view->nativeWidget());
         window->present();
-        view->setShown(true);
     }
 
     void closeView()

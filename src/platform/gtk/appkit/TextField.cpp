@@ -3,6 +3,7 @@
 #include "platform/gtk/appkit/MainWindow.h"
 #include "platform/gtk/ui/AccessibleName.h"
 #include "platform/gtk/ui/FontAttributes.h"
+#include "platform/gtk/ui/Reachability.h"
 
 #include <gtkmm/eventcontrollerkey.h>
 
@@ -12,6 +13,7 @@ using platform::NSTextCommand;
 
 TextField::TextField()
 {
+    setAccessibleAsField(text_);
     text_.set_hexpand();
     text_.property_text().signal_changed().connect([this] {
         const auto delegate = delegate_.lock();
@@ -61,7 +63,7 @@ void TextField::setFontSize(double points)
 
 bool TextField::makeFirstResponder()
 {
-    return window() && text_.grab_focus();
+    return window() && isReachable(text_) && text_.grab_focus();
 }
 
 bool TextField::command(guint key, Gdk::ModifierType state)

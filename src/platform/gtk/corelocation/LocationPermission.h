@@ -10,13 +10,13 @@ class LocationPermission final : public Permission {
 public:
     static constexpr auto key = "locationAllowed";
 
-    // What the user is asked, and the two answers.
-    static constexpr auto question = "Allow Velmaro Online to use your location?";
+    // What the user is told about the permission.
     static constexpr auto explanation =
         "Your location is used to find gas stations, charging stations and traffic alerts around "
         "you.";
-    static constexpr auto allow = "Allow";
-    static constexpr auto deny = "Don\u2019t Allow";
+
+    // The question, put in an alert. Closing it means no.
+    static void askUser(std::function<void(bool isAllowed)> answer);
 
     LocationPermission(
         platform::DispatchQueue& queue, platform::UserDefaults& store, Prompt prompt);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <gtkmm/widget.h>
+#include <gtkmm/text.h>
 #include <string>
 
 namespace gtk {
@@ -13,6 +13,13 @@ inline void setAccessibleName(Gtk::Widget& widget, const std::string& name)
         GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_PROPERTY_LABEL, name.c_str(), -1);
     gtk_accessible_reset_relation(
         GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_RELATION_LABELLED_BY);
+}
+
+// The toolkit means a bare field to be part of an entry, and keeps it from screen readers. To be
+// called when the field is made.
+inline void setAccessibleAsField(Gtk::Text& text)
+{
+    g_object_set(text.gobj(), "accessible-role", GTK_ACCESSIBLE_ROLE_TEXT_BOX, nullptr);
 }
 
 } // namespace gtk

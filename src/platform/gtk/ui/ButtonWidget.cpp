@@ -1,6 +1,7 @@
 #include "platform/gtk/ui/ButtonWidget.h"
 
 #include "platform/gtk/ui/AccessibleName.h"
+#include "platform/gtk/ui/Reachability.h"
 #include "platform/ui/ViewNodes.h"
 
 #include <gtkmm/binlayout.h>
@@ -18,16 +19,6 @@ void setClass(Gtk::Widget& widget, const char* name, bool isSet)
         widget.add_css_class(name);
     else
         widget.remove_css_class(name);
-}
-
-// Not in a tab that is not shown.
-bool isReachable(const Gtk::Widget& widget)
-{
-    for (const auto* place = &widget; place; place = place->get_parent()) {
-        if (!place->get_can_target())
-            return false;
-    }
-    return true;
 }
 
 guint keyOf(ui::KeyboardShortcut shortcut)

@@ -39,6 +39,7 @@ void setAccessibleRole(Gtk::Widget& widget, ui::Accessibility::Role role)
         {ui::Accessibility::Role::tabList, GTK_ACCESSIBLE_ROLE_TAB_LIST},
         {ui::Accessibility::Role::tab, GTK_ACCESSIBLE_ROLE_TAB},
         {ui::Accessibility::Role::toolbar, GTK_ACCESSIBLE_ROLE_TOOLBAR},
+        {ui::Accessibility::Role::dialog, GTK_ACCESSIBLE_ROLE_DIALOG},
     };
     const auto found =
         std::ranges::find_if(roles, [&](const auto& entry) { return entry.first == role; });

@@ -1,6 +1,7 @@
 #include "platform/gtk/ui/SheetWidget.h"
 
 #include "platform/gtk/ui/LayersLayout.h"
+#include "platform/gtk/ui/Reachability.h"
 #include "platform/ui/ViewNodes.h"
 
 #include <gtkmm/eventcontrollerkey.h>
@@ -66,7 +67,8 @@ void SheetWidget::returnFocus()
 {
     setReachable(native(), true);
     if (auto* focus = static_cast<GtkWidget*>(g_weak_ref_get(&previousFocus_))) {
-        gtk_widget_grab_focus(focus);
+        if (isReachable(*Glib::wrap(focus)))
+            gtk_widget_grab_focus(focus);
         g_object_unref(focus);
     }
 }

@@ -8,6 +8,7 @@ namespace gtk {
 
 TextFieldWidget::TextFieldWidget()
 {
+    setAccessibleAsField(text_);
     text_.set_hexpand();
     text_.property_text().signal_changed().connect([this] {
         const std::string text = text_.get_text();

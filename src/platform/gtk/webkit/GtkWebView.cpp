@@ -1,6 +1,7 @@
 #include "platform/gtk/webkit/GtkWebView.h"
 
 #include "platform/gtk/appkit/MainWindow.h"
+#include "platform/gtk/ui/Reachability.h"
 #include "platform/gtk/webkit/EngineRequest.h"
 #include "platform/gtk/webkit/FrontPage.h"
 #include "platform/gtk/webkit/PageManners.h"
@@ -33,6 +34,15 @@ ObjectPointer<WebKitWebView> makeView(WebEngine& engine,
     auto* object = g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session.get(), "settings",
         settings.get(), "user-content-manager", content, nullptr);
     return retain(WEBKIT_WEB_VIEW(object));
+}
+
+// The engine keeps a text view inside of its own, to learn what keys mean there. To the toolkit it
+// is one more stop on the way of the focus, and one that no Tab leads out of.
+void keepFocusOutOfHelpers(WebKitWebView* view)
+{
+    for (auto* child = gtk_widget_get_first_child(GTK_WIDGET(view)); child;
+         child = gtk_widget_get_next_sibling(child))
+        gtk_widget_set_can_focus(child, FALSE);
 }
 
 // Calls `act` for the engine's recogniser of pinches, for which it has no switch.
@@ -72,6 +82,7 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
 {
     gtk_overlay_set_child(area_.gobj(), GTK_WIDGET(view_.get()));
     teachManners(view_.get());
+    keepFocusOutOfHelpers(view_.get());
     watch();
 }
 
@@ -102,6 +113,7 @@ void GtkWebView::watch()
     const auto connect = [this](gpointer object, const char* signal, auto handler) {
         signals_.connect(object, signal, G_CALLBACK(+handler), this);
     };
+    connect(view_.get(), "map", [](GtkWidget*, GtkWebView* self) { self->takeFocus(); });
     connect(view_.get(), "notify::title",
         [](GObject*, GParamSpec*, GtkWebView* self) { self->titleChanged(); });
     connect(view_.get(), "notify::is-loading", [](GObject*, GParamSpec*, GtkWebView* self) {
@@ -148,8 +160,14 @@ void GtkWebView::setShown(bool isShown)
     else
         frontPage_->hidden(this);
     keeper_.setShown(isShown);
-    if (isShown)
-        gtk_widget_grab_focus(GTK_WIDGET(view_.get())); // who comes to a tab wants its page
+    takeFocus();
+}
+
+// Who comes to a tab wants its page, as soon as that has its place in the window.
+void GtkWebView::takeFocus()
+{
+    if (frontPage_->page() == view_.get() && area_.get_mapped() && isReachable(area_))
+        gtk_widget_grab_focus(GTK_WIDGET(view_.get()));
 }
 
 void GtkWebView::loadHTMLString(

@@ -69,6 +69,7 @@ private:
     ObjectPointer<WebKitWebView> makeSharedView(
         WebEngine& engine, const platform::WKWebViewConfiguration& configuration);
     void watch();
+    void takeFocus();
     void changed(Property property) { observers_.notify(property); }
     void titleChanged();
     void historyChanged();
