@@ -141,7 +141,8 @@ TEST_F(Commands, followTheFocusedWindow)
     settle();
     EXPECT_EQ(platform.application().window(1).title(), "About Velmaro Online");
     EXPECT_EQ(titles(enabled),
-        "About Velmaro Online\nCheck for Updates…\nQuit\nUndo\nRedo\nCut\nCopy\nPaste\nSelect All\n"
+        "About Velmaro Online\nCheck for "
+        "Updates…\nPermissions…\nQuit\nUndo\nRedo\nCut\nCopy\nPaste\nSelect All\n"
         "Restore Last Active Tab on Launch\nFull Screen\nMinimize\nKeyboard Shortcuts\n");
     press(command("t"));
     EXPECT_EQ(tabs()->tabs().size(), 3u);
