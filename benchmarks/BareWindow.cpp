@@ -8,12 +8,19 @@
 
 namespace {
 
-// As in the application: without a graphics processor, compositing in software costs time and gains
-// nothing.
 bool hasGraphicsProcessor()
 {
     std::error_code error;
     return std::filesystem::exists("/dev/dri/renderD128", error);
+}
+
+// As in the application: without a graphics processor, OpenGL costs time and gains nothing.
+void drawWithoutOpenGL()
+{
+    constexpr int keep = 0;
+    setenv("GSK_RENDERER", "cairo", keep);
+    setenv("GDK_DEBUG", "gl-disable", keep);
+    setenv("WEBKIT_DISABLE_DMABUF_RENDERER", "1", keep);
 }
 
 // Keeps cookies and caches from launch to launch, and trusts the certificate for the page's host.
@@ -46,6 +53,8 @@ int main(int argumentCount, char** arguments)
 {
     if (argumentCount != 5)
         return 2;
+    if (!hasGraphicsProcessor())
+        drawWithoutOpenGL();
     gtk_init();
     GtkWidget* view = GTK_WIDGET(g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session",
         networkSession(arguments[1], arguments[2]), nullptr));
