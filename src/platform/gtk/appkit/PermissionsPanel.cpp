@@ -1,8 +1,8 @@
 #include "platform/gtk/appkit/PermissionsPanel.h"
 
-#include <gtkmm/application.h>
+#include "platform/gtk/appkit/Panel.h"
+
 #include <gtkmm/checkbutton.h>
-#include <gtkmm/eventcontrollerkey.h>
 #include <gtkmm/label.h>
 
 namespace gtk {
@@ -24,24 +24,7 @@ PermissionsPanel::PermissionsPanel(const std::vector<Entry>& entries)
         addEntry(entry);
 
     window_.set_child(entries_);
-    window_.set_title("Permissions");
-    window_.set_modal(true);
-    window_.set_resizable(false);
-    window_.set_hide_on_close(true);
-    const auto keys = Gtk::EventControllerKey::create();
-    keys->signal_key_pressed().connect(
-        [this](guint key, guint, Gdk::ModifierType) {
-            if (key == GDK_KEY_Escape)
-                window_.close();
-            return key == GDK_KEY_Escape;
-        },
-        false);
-    window_.add_controller(keys);
-    const auto application =
-        std::dynamic_pointer_cast<Gtk::Application>(Gio::Application::get_default());
-    if (auto* parent = application ? application->get_active_window() : nullptr)
-        window_.set_transient_for(*parent);
-    window_.present();
+    presentPanel(window_, "Permissions");
 }
 
 void PermissionsPanel::addEntry(const Entry& entry)

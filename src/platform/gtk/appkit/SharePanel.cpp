@@ -1,6 +1,7 @@
 #include "platform/gtk/appkit/SharePanel.h"
 
 #include "platform/gtk/appkit/OutgoingMail.h"
+#include "platform/gtk/appkit/Panel.h"
 #include "platform/gtk/ui/AccessibleName.h"
 #include "platform/Platform.h"
 
@@ -9,9 +10,7 @@
 #include <gdkmm/display.h>
 #include <giomm/contenttype.h>
 #include <giomm/themedicon.h>
-#include <gtkmm/application.h>
 #include <gtkmm/button.h>
-#include <gtkmm/eventcontrollerkey.h>
 #include <gtkmm/image.h>
 #include <gtkmm/label.h>
 #include <gtkmm/separator.h>
@@ -68,25 +67,8 @@ SharePanel::SharePanel(const std::vector<platform::URL>& files)
         return;
     fill();
 
-    window_.set_title("Share");
-    window_.set_modal(true);
-    window_.set_resizable(false);
     window_.set_default_size(width, -1);
-    window_.set_hide_on_close(true);
-    const auto keys = Gtk::EventControllerKey::create();
-    keys->signal_key_pressed().connect(
-        [this](guint key, guint, Gdk::ModifierType) {
-            if (key == GDK_KEY_Escape)
-                window_.close();
-            return key == GDK_KEY_Escape;
-        },
-        false);
-    window_.add_controller(keys);
-    const auto application =
-        std::dynamic_pointer_cast<Gtk::Application>(Gio::Application::get_default());
-    if (auto* parent = application ? application->get_active_window() : nullptr)
-        window_.set_transient_for(*parent);
-    window_.present();
+    presentPanel(window_, "Share");
 }
 
 void SharePanel::fill()

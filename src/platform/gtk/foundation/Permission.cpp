@@ -1,9 +1,26 @@
 #include "platform/gtk/foundation/Permission.h"
 
+#include "platform/appkit/NSAlert.h"
+
 namespace gtk {
+
+using platform::NSAlert;
 
 namespace {
 constexpr auto changed = "changed";
+}
+
+void Permission::ask(const std::string& question, const std::string& explanation,
+    std::function<void(bool isAllowed)> answer)
+{
+    const NSAlert alert{
+        .messageText = question,
+        .informativeText = explanation,
+        .alertStyle = NSAlert::Style::informational,
+        .buttons = {"Allow", "Don\u2019t Allow"},
+    };
+    alert.runModal(
+        [answer = std::move(answer)](int button) { answer(button == NSAlert::firstButton); });
 }
 
 Permission::Permission(
@@ -27,11 +44,11 @@ void Permission::request()
     isAsking_ = true;
     queue_.async([this, life = std::weak_ptr(life_)] {
         if (!life.expired())
-            ask();
+            prompt();
     });
 }
 
-void Permission::ask()
+void Permission::prompt()
 {
     prompt_([this, life = std::weak_ptr(life_)](bool isAllowed) {
         if (!life.expired() && isAsking_)

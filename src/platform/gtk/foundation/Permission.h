@@ -19,6 +19,10 @@ public:
     // later. Until then, and for good if it is never called, nothing is decided.
     using Prompt = std::function<void(std::function<void(bool isAllowed)> answer)>;
 
+    // Asks in an alert of the current platform. Closing it means no.
+    static void ask(const std::string& question, const std::string& explanation,
+        std::function<void(bool isAllowed)> answer);
+
     // The question is put in a task of `queue`, the answer kept in `store` under `key`. Both must
     // outlive this.
     Permission(platform::DispatchQueue& queue, platform::UserDefaults& store, std::string key,
@@ -37,7 +41,7 @@ public:
     [[nodiscard]] platform::NotificationCenter::Observer observe(std::function<void()> handler);
 
 private:
-    void ask();
+    void prompt();
 
     platform::DispatchQueue& queue_;
     platform::UserDefaults& store_;

@@ -5,7 +5,6 @@
 #include <giomm/dbusconnection.h>
 #include <map>
 #include <string>
-#include <vector>
 
 namespace gtk {
 

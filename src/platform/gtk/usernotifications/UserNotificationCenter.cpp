@@ -1,6 +1,5 @@
 #include "platform/gtk/usernotifications/UserNotificationCenter.h"
 
-#include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/usernotifications/UNUserNotificationCenterDelegate.h"
 
@@ -8,20 +7,12 @@
 
 namespace gtk {
 
-using platform::NSAlert;
 using platform::NSError;
 using platform::UNAuthorizationStatus;
 
 void UserNotificationCenter::askUser(std::function<void(bool isAllowed)> answer)
 {
-    const NSAlert alert{
-        .messageText = "Allow Velmaro Online to show notifications?",
-        .informativeText = explanation,
-        .alertStyle = NSAlert::Style::informational,
-        .buttons = {"Allow", "Don\u2019t Allow"},
-    };
-    alert.runModal(
-        [answer = std::move(answer)](int button) { answer(button == NSAlert::firstButton); });
+    Permission::ask("Allow Velmaro Online to show notifications?", explanation, std::move(answer));
 }
 
 UserNotificationCenter::UserNotificationCenter(platform::DispatchQueue& queue,
