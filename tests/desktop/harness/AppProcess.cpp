@@ -4,6 +4,7 @@
 #include "UserInput.h"
 
 #include <csignal>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <regex>
 #include <sstream>
@@ -34,6 +35,27 @@ std::string complaints(const std::string& errors)
     return result;
 }
 
+// Says what somebody who was not there has to know of a failure. Pictures go into the working
+// folder.
+void tellOfFailure(Process& process)
+{
+    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+    const auto name = test ? test->test_suite_name() + std::string(".") + test->name() : "program";
+    std::string report = "of what failed: ";
+    int count = 0;
+    for (const auto& window : Desktop::windows()) {
+        const auto file = name + "-" + std::to_string(++count) + ".png";
+        const auto picture = window.picture();
+        const bool hasPicture = picture && picture->writePNG(file);
+        report += "window \"" + window.title() + "\"" + (hasPicture ? " (" + file + "), " : ", ");
+    }
+    report += std::to_string(AccessibleObject::count(process.pid(), "tab"))
+        + " tabs for screen readers, content processes:";
+    for (const auto pid : process.descendants("WebKitWebProcess"))
+        report += " " + std::to_string(pid);
+    std::puts((report + "\nit wrote:\n" + process.errors()).c_str());
+}
+
 } // namespace
 
 AppProcess::AppProcess(
@@ -49,6 +71,8 @@ AppProcess::AppProcess(const DemoServiceProcess& service, const std::vector<std:
 
 AppProcess::~AppProcess()
 {
+    if (testing::Test::HasFailure())
+        tellOfFailure(process_);
     process_.signal(SIGTERM);
     process_.waitForExit(std::chrono::seconds(10));
     EXPECT_EQ(complaints(process_.errors()), "");
