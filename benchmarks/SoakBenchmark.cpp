@@ -7,6 +7,7 @@
 #include "harness/UserInput.h"
 #include "ProcessCost.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -23,6 +24,7 @@ constexpr double mostIdleTime = 0.2; // per cent of a processor, by the program 
 
 constexpr int tabsAtOnce = 10;
 constexpr int tabsBetweenSamples = 100;
+constexpr int minutesBetweenSamples = 10;
 constexpr auto settleTime = std::chrono::seconds(10);
 
 struct Memory {
@@ -140,11 +142,15 @@ bool rest(int minutes)
     print(0, before);
     const auto start = Clock::now();
     const auto usedBefore = processorTimeOf(app.process().pid());
-    std::this_thread::sleep_for(std::chrono::minutes(minutes));
+    auto after = before;
+    for (int passed = 0; passed < minutes;) {
+        passed = std::min(passed + minutesBetweenSamples, minutes);
+        std::this_thread::sleep_until(start + std::chrono::minutes(passed));
+        after = sample(app);
+        print(passed, after);
+    }
     const std::chrono::duration<double> used = processorTimeOf(app.process().pid()) - usedBefore;
     const std::chrono::duration<double> time = Clock::now() - start;
-    const auto after = sample(app);
-    print(minutes, after);
     const bool isIdle = isWithin("processor time of the program", 100 * used / time, mostIdleTime);
     return isFlat(before, after) && isIdle;
 }
