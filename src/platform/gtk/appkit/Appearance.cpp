@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <gtkmm/settings.h>
 #include <gtkmm/stylecontext.h>
+#include <utility>
 
 namespace gtk {
 
@@ -110,6 +111,8 @@ void Appearance::changed(const std::string& key, const Glib::VariantBase& value)
 void Appearance::setDark(bool isDark)
 {
     constexpr auto property = "gtk-application-prefer-dark-theme";
+    if (std::exchange(isDark_, isDark) == isDark)
+        return;
     if (isDark)
         g_object_set(settings(), property, TRUE, nullptr);
     else
@@ -119,6 +122,8 @@ void Appearance::setDark(bool isDark)
 void Appearance::setHighContrast(bool isHigh)
 {
     constexpr auto property = "gtk-theme-name";
+    if (std::exchange(isHighContrast_, isHigh) == isHigh)
+        return;
     if (isHigh)
         g_object_set(settings(), property, "HighContrast", nullptr);
     else

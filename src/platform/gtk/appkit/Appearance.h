@@ -32,6 +32,10 @@ private:
     void setAccent(GVariant* color);
 
     SettingsFile memory_;
+    // What has been applied. To reset a setting that nobody has changed makes GTK read the whole
+    // theme once more.
+    bool isDark_ = false;
+    bool isHighContrast_ = false;
     std::optional<BusConversation> portal_;
     Glib::RefPtr<Gtk::CssProvider> accent_; // null while the theme's is used
 };
