@@ -19,6 +19,7 @@
 #include "platform/ui/FocusedScene.h"
 
 #include <algorithm>
+#include <glibmm/main.h>
 
 namespace gtk {
 
@@ -259,8 +260,9 @@ void Application::makeWindow()
     adopt(window);
     windows_.push_back(window);
 
-    // The views have just queued what they do to their window; it is shown when that is done.
-    platform_.mainQueue().async([weakWindow = std::weak_ptr(window)] {
+    // The views have just queued what they do to their window; it is shown when that is done, and
+    // when the engine has answered its processes, which would wait until the window is drawn.
+    Glib::signal_idle().connect_once([weakWindow = std::weak_ptr(window)] {
         if (const auto window = weakWindow.lock())
             window->makeKeyAndOrderFront();
     });

@@ -1,5 +1,6 @@
 #include "platform/gtk/ui/FirstFrame.h"
 
+#include <glibmm/main.h>
 #include <gtk/gtk.h>
 #include <utility>
 
@@ -14,6 +15,7 @@ FirstFrame::FirstFrame(Gtk::Widget& widget)
 FirstFrame::~FirstFrame()
 {
     realized_.disconnect();
+    idle_.disconnect();
     if (painted_)
         g_signal_handler_disconnect(clock_, painted_);
     g_clear_object(&clock_);
@@ -39,6 +41,15 @@ void FirstFrame::paint()
 {
     g_signal_handler_disconnect(clock_, std::exchange(painted_, 0));
     gdk_display_flush(gtk_widget_get_display(widget_.gobj())); // before whatever keeps us busy next
+    // Painting has kept the engine from answering its processes.
+    idle_ = Glib::signal_idle().connect([this] {
+        runTasks();
+        return false;
+    });
+}
+
+void FirstFrame::runTasks()
+{
     hasPainted_ = true;
     for (const auto& task : std::exchange(tasks_, {}))
         task();
