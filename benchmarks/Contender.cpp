@@ -73,7 +73,7 @@ Contender browserApplicationMode(const DemoServiceProcess& service)
         "--disable-sync",
     };
     if (geteuid() == 0)
-        arguments.push_back("--no-sandbox");
+        arguments.emplace_back("--no-sandbox");
     return {
         .name = "Chromium --app",
         .prepare = [] {},

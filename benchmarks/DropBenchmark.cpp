@@ -32,7 +32,7 @@ constexpr auto page = R"(<title>Import</title><script>
 
 std::filesystem::path temporaryFile(const std::string& name, const std::string& contents)
 {
-    const auto path = std::filesystem::temp_directory_path() / name;
+    auto path = std::filesystem::temp_directory_path() / name;
     std::ofstream(path) << contents;
     return path;
 }

@@ -50,7 +50,7 @@ void measureBrowser(const DemoServiceProcess& service, int count)
         "--no-default-browser-check", "--disable-background-networking",
         "--disable-component-update", "--disable-sync"};
     if (geteuid() == 0)
-        arguments.push_back("--no-sandbox");
+        arguments.emplace_back("--no-sandbox");
     for (int tab = 0; tab < count; ++tab)
         arguments.push_back(service.origin() + "/online?" + std::to_string(tab) + "#newtab");
     const Process browser(arguments);

@@ -22,8 +22,9 @@ std::optional<int> stripLightness(const DesktopWindow& window)
         return std::nullopt;
     constexpr int inset = 4; // left of the first tab
     constexpr int stripMiddle = 70;
-    const auto pixel = picture->pixels[static_cast<std::size_t>(
-        picture->width * std::min(stripMiddle, picture->height - 1) + inset)];
+    const auto pixel = picture->pixels[static_cast<std::size_t>(picture->width)
+            * std::min(stripMiddle, picture->height - 1)
+        + inset];
     return static_cast<int>((pixel & 0xff) + (pixel >> 8 & 0xff) + (pixel >> 16 & 0xff)) / 3;
 }
 

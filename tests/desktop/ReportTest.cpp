@@ -52,8 +52,8 @@ protected:
         return eventually([&] { return app.webProcesses().size() <= 2; });
     }
 
-    DemoServiceProcess service_;
-    const std::filesystem::path downloads_ =
+    DemoServiceProcess service;
+    const std::filesystem::path downloads =
         std::filesystem::path(std::getenv("HOME")) / "Downloads";
 };
 
@@ -62,14 +62,14 @@ protected:
 TEST_F(Report, isSavedFromThePageAndShownInItsFolder)
 {
     const FakeFileManager fileManager;
-    AppProcess app(service_);
+    AppProcess app(service);
     ASSERT_TRUE(ReportsPage::pressSave(app));
     EXPECT_TRUE(app.shows("Share…"));
 
-    const auto file = downloads_ / "Velmaro report 2026-10.pdf";
+    const auto file = downloads / "Velmaro report 2026-10.pdf";
     Process facts({"pdfinfo", "-url", file});
     EXPECT_EQ(facts.waitForExit(), 0);
-    EXPECT_NE(facts.output().find(service_.origin() + "/help"), std::string::npos);
+    EXPECT_NE(facts.output().find(service.origin() + "/help"), std::string::npos);
     Process text({"pdftotext", file, "-"});
     EXPECT_EQ(text.waitForExit(), 0);
     EXPECT_NE(text.output().find("Energy costs by month"), std::string::npos);
@@ -78,22 +78,22 @@ TEST_F(Report, isSavedFromThePageAndShownInItsFolder)
     EXPECT_TRUE(app.press("Reveal in Finder"));
     EXPECT_TRUE(eventually([&] { return !fileManager.calls().empty(); }));
     EXPECT_EQ(fileManager.calls(),
-        std::vector{"file://" + downloads_.string() + "/Velmaro%20report%202026-10.pdf"});
+        std::vector{"file://" + downloads.string() + "/Velmaro%20report%202026-10.pdf"});
 }
 
 TEST_F(Report, thatCannotBeWrittenSaysWhyAndLeavesNothing)
 {
-    std::ofstream(downloads_) << "in the way";
-    AppProcess app(service_);
+    std::ofstream(downloads) << "in the way";
+    AppProcess app(service);
     ASSERT_TRUE(ReportsPage::pressSave(app));
     EXPECT_TRUE(app.shows("Couldn't save PDF: Not a directory"));
     EXPECT_TRUE(app.press("OK") && app.loses("OK"));
-    EXPECT_TRUE(std::filesystem::is_regular_file(downloads_));
+    EXPECT_TRUE(std::filesystem::is_regular_file(downloads));
 }
 
 TEST_F(Report, isNotPrintedAndTheWindowGoesOn)
 {
-    AppProcess app(service_);
+    AppProcess app(service);
     for (int times = 0; times < 2; ++times) {
         ASSERT_TRUE(ReportsPage::pressPrint(app));
         ASSERT_TRUE(app.press("Cancel"));

@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <fstream>
+#include <glib.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <sys/resource.h>

@@ -4,6 +4,7 @@
 #include "harness/Desktop.h"
 
 #include <algorithm>
+#include <gtkmm/settings.h>
 
 namespace desktop {
 

@@ -40,7 +40,7 @@ std::vector<std::string> pathComponentsOf(const UriUriA& uri)
 {
     std::vector<std::string> components;
     if (uri.absolutePath || (uri.hostText.first && uri.pathHead))
-        components.push_back("/");
+        components.emplace_back("/");
 
     bool endsWithSlash = false;
     for (auto* segment = uri.pathHead; segment; segment = segment->next) {
@@ -50,7 +50,7 @@ std::vector<std::string> pathComponentsOf(const UriUriA& uri)
             components.push_back(percentDecoded(name));
     }
     if (endsWithSlash && components.size() > 1)
-        components.push_back("/");
+        components.emplace_back("/");
     return components;
 }
 
@@ -110,10 +110,10 @@ bool URL::isFileURL() const
 
 std::string URL::lastPathComponent() const
 {
-    for (auto name = pathComponents_.rbegin(); name != pathComponents_.rend(); ++name) {
-        if (*name != "/")
-            return *name;
-    }
+    const auto name = std::find_if(pathComponents_.rbegin(), pathComponents_.rend(),
+        [](const auto& component) { return component != "/"; });
+    if (name != pathComponents_.rend())
+        return *name;
     return pathComponents_.empty() ? "" : "/";
 }
 

@@ -12,7 +12,7 @@ void SimulatedAlerts::run(
     shown.push_back(alert);
     waiting_.push_back({alert, std::move(completion)});
     if (waiting_.back().alert.buttons.empty())
-        waiting_.back().alert.buttons.push_back("OK");
+        waiting_.back().alert.buttons.emplace_back("OK");
 }
 
 void SimulatedAlerts::simulateAnswer(const std::string& button)

@@ -25,7 +25,7 @@ struct Identity {
 class Slot final : public Observer, public std::enable_shared_from_this<Slot> {
 public:
     Slot(Mount& mount, Slot* parent, Identity identity);
-    ~Slot();
+    ~Slot() override;
 
     const Identity& identity() const { return identity_; }
     std::size_t depth() const { return depth_; }

@@ -44,7 +44,7 @@ DemoServiceProcess::DemoServiceProcess(Options options)
     std::vector<std::string> arguments = {
         VELMARO_DEMO_SERVICE, "--port", std::to_string(options.port), "--folder", folder};
     if (options.isHostile)
-        arguments.push_back("--hostile");
+        arguments.emplace_back("--hostile");
     process_ = std::make_unique<Process>(arguments);
 
     const std::regex announcement("service: (https://\\S+)\\s+Certificate: (.+)\n");

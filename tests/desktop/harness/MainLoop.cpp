@@ -7,7 +7,7 @@ namespace desktop {
 bool until(const std::function<bool()>& condition)
 {
     constexpr guint pause = 20; // milliseconds, after which the loop turns though nothing happens
-    constexpr gint64 limit = 60 * G_USEC_PER_SEC;
+    constexpr gint64 limit = gint64{60} * G_USEC_PER_SEC;
     const auto end = g_get_monotonic_time() + limit;
     // Of the lowest priority: a condition that takes longer than the pause keeps nothing waiting.
     const auto pulse = g_timeout_add_full(

@@ -17,8 +17,6 @@ extern "C" {
 #include <sys/pidfd.h>
 }
 
-extern char** environ;
-
 namespace desktop {
 
 namespace {

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-using platform::NSPoint;
 using platform::NSRect;
 using platform::NSSize;
 using platform::NSWindow;

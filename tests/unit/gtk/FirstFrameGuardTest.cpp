@@ -70,8 +70,8 @@ TEST(FirstFrameGuard, tellsPagesThatAreMissingFromThoseThatAreLate)
                         sight.windowFrames += isPainted;
                         return sight;
                     },
-                .appeared = [&] { told.push_back("appeared"); },
-                .missing = [&] { told.push_back("missing"); },
+                .appeared = [&] { told.emplace_back("appeared"); },
+                .missing = [&] { told.emplace_back("missing"); },
             });
         for (const auto& phase : phases) {
             EXPECT_EQ(told.size(), 0u);
@@ -83,7 +83,7 @@ TEST(FirstFrameGuard, tellsPagesThatAreMissingFromThoseThatAreLate)
         }
         queue.advance(anHour); // nothing is told twice
         if (told.empty())
-            told.push_back(guard.isWindowMissing() ? "no window" : "nothing yet");
+            told.emplace_back(guard.isWindowMissing() ? "no window" : "nothing yet");
         EXPECT_EQ(told, std::vector<std::string>{outcome});
     }
 }

@@ -97,7 +97,7 @@ std::shared_ptr<SimulatedWebView> loadReport(Session& session)
     });
     if (found == views.end())
         return nullptr;
-    const auto view = found->lock();
+    auto view = found->lock();
     if (session.fails()) {
         view->simulateFailNavigation("The process has gone");
         return nullptr;

@@ -44,7 +44,7 @@ struct Host {
     std::shared_ptr<LoggedView> makeNSView(Coordinator&) const
     {
         ++log->made;
-        const auto view = std::make_shared<LoggedView>(log);
+        auto view = std::make_shared<LoggedView>(log);
         log->view = view;
         return view;
     }

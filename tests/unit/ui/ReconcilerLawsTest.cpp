@@ -173,8 +173,9 @@ public:
 std::string looksOf(const simulated::SimulatedWindow& window)
 {
     auto text = window.content().describe();
-    for (const std::string unmade = " unmade"; auto found = text.find(unmade) + 1;)
-        text.erase(found - 1, unmade.size());
+    const std::string unmade = " unmade";
+    for (auto found = text.find(unmade); found != text.npos; found = text.find(unmade, found))
+        text.erase(found, unmade.size());
     return text;
 }
 

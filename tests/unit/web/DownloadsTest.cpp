@@ -11,7 +11,6 @@
 
 using platform::URL;
 using simulated::SimulatedDownload;
-using velmaro::DownloadItem;
 using velmaro::DownloadList;
 
 namespace {

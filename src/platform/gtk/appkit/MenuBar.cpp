@@ -39,7 +39,7 @@ std::string outline(const std::vector<ui::Menu>& menus)
 
 Glib::RefPtr<Gio::MenuItem> menuItem(const ui::MenuItem& item)
 {
-    const auto result = Gio::MenuItem::create(item.title, "app." + actionName(item.title));
+    auto result = Gio::MenuItem::create(item.title, "app." + actionName(item.title));
     if (!item.shortcuts.empty()) {
         const auto keys = shownAccelerator(item.shortcuts.front());
         result->set_attribute_value("accel", Glib::Variant<Glib::ustring>::create(keys));

@@ -9,7 +9,7 @@ namespace {
 std::string escaped(const std::string& text)
 {
     char* markup = g_markup_escape_text(text.c_str(), -1);
-    const std::string result = markup;
+    std::string result = markup;
     g_free(markup);
     return result;
 }

@@ -43,7 +43,7 @@ void openHere(const std::string& address)
 
 bool isOwn(const platform::URL& url)
 {
-    const auto scheme = url.scheme();
+    const auto& scheme = url.scheme();
     return scheme && g_ascii_strcasecmp(scheme->c_str(), ownScheme) == 0
         && g_application_get_default();
 }

@@ -46,7 +46,7 @@ std::string text(const Value& properties, const char* name)
 
 std::string streetAddress(const Value& properties)
 {
-    const auto street = text(properties, "street");
+    auto street = text(properties, "street");
     const auto number = text(properties, "housenumber");
     if (street.empty() || number.empty())
         return street;

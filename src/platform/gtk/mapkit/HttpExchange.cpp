@@ -71,7 +71,7 @@ std::shared_ptr<void> start(SoupSession* session, ObjectPointer<SoupMessage> mes
     std::function<void(const Answer&)> handler)
 {
     auto* cancellable = g_cancellable_new();
-    const std::shared_ptr<void> question(cancellable, [](gpointer object) {
+    std::shared_ptr<void> question(cancellable, [](gpointer object) {
         g_cancellable_cancel(G_CANCELLABLE(object));
         g_object_unref(object);
     });

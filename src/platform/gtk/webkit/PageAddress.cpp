@@ -4,7 +4,7 @@ namespace gtk {
 
 std::optional<platform::URL> urlOfPageAddress(std::string_view address)
 {
-    const auto url = platform::URL::encodingInvalidCharacters(address);
+    auto url = platform::URL::encodingInvalidCharacters(address);
     if (!url || (url->scheme() != "https" && url->scheme() != "http"))
         return url;
 
