@@ -1,6 +1,8 @@
 #include "AccessibleObject.h"
 
+#include <algorithm>
 #include <gio/gio.h>
+#include <iterator>
 
 namespace desktop {
 
@@ -66,9 +68,16 @@ std::vector<AccessibleObject> AccessibleObject::applications(int pid)
 
 std::optional<AccessibleObject> AccessibleObject::find(int pid, const std::string& name)
 {
-    for (const auto& application : applications(pid)) {
-        if (auto found = application.descendant(name))
-            return found;
+    // Level by level: a control of the program is near the root, and the page, which may be long or
+    // busy, is far below it.
+    for (auto level = applications(pid); !level.empty();) {
+        std::vector<AccessibleObject> below;
+        for (const auto& object : level) {
+            if (object.name() == name && object.isVisible())
+                return object;
+            std::ranges::move(object.children(), std::back_inserter(below));
+        }
+        level = std::move(below);
     }
     return {};
 }
@@ -154,17 +163,6 @@ std::vector<AccessibleObject> AccessibleObject::children() const
         result.push_back(AccessibleObject({program, path}));
     g_variant_iter_free(addresses);
     return result;
-}
-
-std::optional<AccessibleObject> AccessibleObject::descendant(const std::string& wanted) const
-{
-    if (name() == wanted && isVisible())
-        return *this;
-    for (const auto& child : children()) {
-        if (auto found = child.descendant(wanted))
-            return found;
-    }
-    return {};
 }
 
 int AccessibleObject::count(const std::string& wanted) const

@@ -13,8 +13,8 @@ namespace desktop {
 // away.
 class AccessibleObject {
 public:
-    // The first object with this name anywhere in the application whose process is `pid`: what a
-    // person would call the control. Absent while there is none on screen.
+    // The object with this name in the application whose process is `pid`, the one nearest to its
+    // windows: what a person would call the control. Absent while there is none on screen.
     static std::optional<AccessibleObject> find(int pid, const std::string& name);
 
     // How many objects on screen have this role, such as "tab".
@@ -42,7 +42,6 @@ private:
     std::string name() const;
     bool isVisible() const;
     std::vector<AccessibleObject> children() const;
-    std::optional<AccessibleObject> descendant(const std::string& name) const;
     int count(const std::string& role) const;
 
     static std::vector<AccessibleObject> applications(int pid);
