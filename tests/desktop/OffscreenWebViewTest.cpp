@@ -152,8 +152,9 @@ TEST_F(OffscreenWebViewTest, tellsHowALoadEnds)
     page = open("<img src='/missing.png'><script src='https://nowhere.invalid/'></script>");
     EXPECT_TRUE(ends("finished")) << "what a page lacks is no failure of the page";
 
-    page = open("<img src='/silent'>");
+    page = open("<title>Waits</title><img src='/silent'>");
     ASSERT_TRUE(until([&] { return server.requestCount("/silent") == 1; }));
+    ASSERT_TRUE(until([&] { return page->title() == "Waits"; })) << "told after the request";
     EXPECT_EQ(loads_->event, "");
     kill(*page);
     EXPECT_TRUE(ends("broke off"));
