@@ -23,7 +23,7 @@ bool dragFiles(const std::vector<std::filesystem::path>& files, int x, int y)
     std::optional<DesktopWindow> window;
     const bool isThere = eventually([&] {
         window = Desktop::window("Drag source");
-        return window && window->picture();
+        return window && tells("ready");
     });
     if (!isThere)
         return false;

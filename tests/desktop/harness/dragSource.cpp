@@ -1,6 +1,7 @@
 // A window titled "Drag source" with nothing in it but the files that it is started with. They can
 // be dragged out of it, from anywhere in the window, into any other program. It writes how that
-// goes: "begun", "accepted" when it is over somebody who would take them, and "ended".
+// goes: "ready" when it is drawn, "begun", "accepted" when it is over somebody who would take them,
+// and "ended".
 
 #include <cstdio>
 #include <gtk/gtk.h>
@@ -23,6 +24,13 @@ void tell(const char* event)
 {
     std::puts(event);
     std::fflush(stdout);
+}
+
+// A button that is pressed before the window has a layout meets nothing in it.
+void tellReady(GdkFrameClock* clock)
+{
+    g_signal_handlers_disconnect_by_func(clock, reinterpret_cast<gpointer>(tellReady), nullptr);
+    tell("ready");
 }
 
 void tellIfAccepted(GdkDrag* drag)
@@ -60,6 +68,8 @@ int main(int, char** arguments)
     gtk_window_set_title(GTK_WINDOW(window), "Drag source");
     gtk_window_set_child(GTK_WINDOW(window), area);
     gtk_window_present(GTK_WINDOW(window));
+    g_signal_connect(
+        gtk_widget_get_frame_clock(window), "after-paint", G_CALLBACK(tellReady), nullptr);
     while (g_list_model_get_n_items(gtk_window_get_toplevels()) > 0)
         g_main_context_iteration(nullptr, TRUE);
 }
