@@ -287,7 +287,8 @@ TEST_F(PolicyTest, framesStayOnTheServiceAndManyForeignOnesDoNotFreezeTheWindow)
     for (int frame = 0; frame < count; ++frame)
         expected.push_back(elsewhere("?frame=" + std::to_string(frame)));
 
-    gint64 last = g_get_monotonic_time(), longestPause = 0;
+    const auto start = g_get_monotonic_time();
+    gint64 last = start, longestPause = 0;
     gtk::Timer pulse;
     const std::function<void()> beat = [&] {
         const auto now = g_get_monotonic_time();
@@ -299,7 +300,7 @@ TEST_F(PolicyTest, framesStayOnTheServiceAndManyForeignOnesDoNotFreezeTheWindow)
     EXPECT_TRUE(opened(expected));
     EXPECT_EQ(service.requests("/checkout").size(), 1u);
     EXPECT_EQ(service.requests("/elsewhere").size(), 0u);
-    EXPECT_LT(longestPause, G_USEC_PER_SEC);
+    EXPECT_LT(longestPause, (g_get_monotonic_time() - start) / 3) << "opened in one go";
 }
 
 TEST_F(PolicyTest, redirectsElsewhereLeaveThePageAlone)
