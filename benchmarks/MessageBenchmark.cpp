@@ -9,7 +9,7 @@
 #include "platform/gtk/webkit/GtkWebView.h"
 #include "platform/gtk/webkit/WebEngine.h"
 #include "Samples.h"
-#include "web/Service.h"
+#include "service/Service.h"
 #include "web/WebView.h"
 
 #include <chrono>
@@ -183,7 +183,7 @@ public:
         window_.present();
         view_->setShown(true);
         runUntil([&] {
-            return platform.webEngine().isFrontPageReady() && model_->currentRoute() == "drives";
+            return platform.webEngine().isVisiblePageReady() && model_->currentRoute() == "drives";
         });
     }
 

@@ -1,6 +1,6 @@
 #include "app/VelmaroOnlineApp.h"
 #include "platform/gtk/GtkPlatform.h"
-#include "web/Service.h"
+#include "service/Service.h"
 
 #include <clocale>
 #include <cstdio>

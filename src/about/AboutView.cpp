@@ -5,7 +5,7 @@
 #include "platform/appkit/NSApplication.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/ui/Views.h"
-#include "web/Service.h"
+#include "service/Service.h"
 
 #include <ctime>
 

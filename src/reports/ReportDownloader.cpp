@@ -4,7 +4,7 @@
 #include "platform/webkit/WKWebViewConfiguration.h"
 #include "reports/LoadDelegate.h"
 #include "reports/PrintDelegate.h"
-#include "web/Service.h"
+#include "service/Service.h"
 
 namespace velmaro {
 

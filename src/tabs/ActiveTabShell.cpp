@@ -1,11 +1,11 @@
 #include "tabs/ActiveTabShell.h"
 
-#include "app/WindowSizer.h"
 #include "location/LocationPickerView.h"
 #include "platform/ui/Views.h"
 #include "tabs/DownloadsButton.h"
 #include "tabs/FocusedValueKeys.h"
 #include "tabs/TabBar.h"
+#include "tabs/WindowSizer.h"
 #include "tabs/WindowToolbar.h"
 #include "web/TabContent.h"
 

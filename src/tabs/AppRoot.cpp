@@ -1,8 +1,8 @@
 #include "tabs/AppRoot.h"
 
-#include "app/WindowSizer.h"
 #include "platform/ui/Views.h"
 #include "tabs/ActiveTabShell.h"
+#include "tabs/WindowSizer.h"
 
 namespace velmaro {
 

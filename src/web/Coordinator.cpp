@@ -1,10 +1,10 @@
 #include "web/Coordinator.h"
 
+#include "app/PageMessages.h"
 #include "platform/appkit/NSOpenPanel.h"
 #include "platform/appkit/NSWorkspace.h"
 #include "platform/foundation/DispatchQueue.h"
 #include "web/NavigationPolicy.h"
-#include "web/PageMessages.h"
 #include "web/PageScripts.h"
 
 namespace velmaro {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/URL.h"
-#include "web/Service.h"
+#include "service/Service.h"
 
 #include <optional>
 #include <string>

@@ -1,10 +1,10 @@
 #include "web/WebModel.h"
 
-#include "app/DeepLink.h"
-#include "location/LocationScripts.h"
 #include "platform/foundation/DispatchQueue.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/webkit/WKWebView.h"
+#include "web/DeepLink.h"
+#include "web/LocationScripts.h"
 #include "web/PageScripts.h"
 
 namespace velmaro {

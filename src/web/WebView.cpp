@@ -1,13 +1,13 @@
 #include "web/WebView.h"
 
+#include "app/PageMessages.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/Platform.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
+#include "service/Service.h"
 #include "web/DroppableWebView.h"
 #include "web/OnboardingKeys.h"
-#include "web/PageMessages.h"
-#include "web/Service.h"
 #include "web/UserScripts.h"
 
 namespace velmaro {

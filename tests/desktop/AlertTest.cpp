@@ -3,7 +3,7 @@
 #include "harness/Desktop.h"
 #include "harness/ShownWindow.h"
 #include "harness/UserInput.h"
-#include "platform/gtk/appkit/AlertPresenter.h"
+#include "platform/gtk/panels/AlertPresenter.h"
 #include "webview/WebViewTest.h"
 
 namespace desktop {

@@ -2,9 +2,9 @@
 
 #include "harness/Files.h"
 #include "platform/gtk/GtkPlatform.h"
+#include "service/Service.h"
 #include "web/Coordinator.h"
 #include "web/DownloadList.h"
-#include "web/Service.h"
 #include "webview/WebViewTest.h"
 
 #include <set>

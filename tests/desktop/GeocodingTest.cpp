@@ -4,10 +4,10 @@
 #include "harness/FakeGeocoder.h"
 #include "harness/MainLoop.h"
 #include "platform/foundation/URL.h"
-#include "platform/gtk/foundation/MainLoopQueue.h"
+#include "platform/gtk/foundation/GtkDispatchQueue.h"
 #include "platform/gtk/mapkit/GeocodedPlace.h"
-#include "platform/gtk/mapkit/PlaceSearch.h"
-#include "platform/gtk/mapkit/SearchCompleter.h"
+#include "platform/gtk/mapkit/GtkLocalSearch.h"
+#include "platform/gtk/mapkit/GtkLocalSearchCompleter.h"
 #include "platform/mapkit/MKLocalSearchCompleterDelegate.h"
 
 #include <giomm/init.h>
@@ -98,10 +98,10 @@ class GeocodingTest : public testing::Test {
 protected:
     GeocodingTest() { Gio::init(); }
 
-    static std::unique_ptr<gtk::SearchCompleter> makeCompleter(
-        const std::string& address, gtk::ResponseCache& cache)
+    static std::unique_ptr<gtk::GtkLocalSearchCompleter> makeCompleter(
+        const std::string& address, gtk::GtkURLCache& cache)
     {
-        return std::make_unique<gtk::SearchCompleter>(
+        return std::make_unique<gtk::GtkLocalSearchCompleter>(
             std::make_shared<gtk::GeocodingService>(
                 gtk::GeocodingService::Options{
                     .address = address, .userAgent = "test", .secondsToWait = 1},
@@ -116,8 +116,9 @@ protected:
 
     FakeGeocoder geocoder;
     const std::filesystem::path folder = std::filesystem::path(std::getenv("HOME")) / "responses";
-    gtk::ResponseCache cache{folder};
-    std::unique_ptr<gtk::SearchCompleter> completer = makeCompleter(geocoder.address(), cache);
+    gtk::GtkURLCache cache{folder};
+    std::unique_ptr<gtk::GtkLocalSearchCompleter> completer =
+        makeCompleter(geocoder.address(), cache);
     Listener listener;
 
     void SetUp() override { completer->setDelegate(&listener); }
@@ -237,20 +238,20 @@ TEST_F(GeocodingTest, answersAreKeptUntilTheCacheIsEmptied)
     };
     geocoder.answer(answerNaming("Cafe"), 200, "max-age=600");
     {
-        gtk::ResponseCache first(folder);
+        gtk::GtkURLCache first(folder);
         const auto completer = makeCompleter(geocoder.address(), first);
         EXPECT_EQ(ask(completer), 1u);
         EXPECT_EQ(ask(completer), 1u);
     }
     {
-        gtk::ResponseCache nextLaunch(folder);
+        gtk::GtkURLCache nextLaunch(folder);
         EXPECT_EQ(ask(makeCompleter(geocoder.address(), nextLaunch)), 1u);
     }
     {
-        gtk::ResponseCache unused(folder); // emptied in a launch that never searched
+        gtk::GtkURLCache unused(folder); // emptied in a launch that never searched
         unused.removeAllCachedResponses();
     }
-    gtk::ResponseCache last(folder);
+    gtk::GtkURLCache last(folder);
     const auto completer = makeCompleter(geocoder.address(), last);
     EXPECT_EQ(ask(completer), 2u);
     EXPECT_EQ(ask(completer), 2u);
@@ -260,7 +261,7 @@ TEST_F(GeocodingTest, answersAreKeptUntilTheCacheIsEmptied)
 
 TEST_F(GeocodingTest, aSuggestionIsFoundWhereItWasShown)
 {
-    gtk::MainLoopQueue queue;
+    gtk::GtkDispatchQueue queue;
     geocoder.answer(answerNaming("Cafe"));
     completer->setQueryFragment("cafe");
     waitForNews();
@@ -270,11 +271,12 @@ TEST_F(GeocodingTest, aSuggestionIsFoundWhereItWasShown)
     int answers = 0;
     const auto search = [&](std::shared_ptr<const platform::MKLocalSearchCompletion> suggestion) {
         answers = 0;
-        gtk::PlaceSearch({suggestion}, queue).start([&](const auto& response, const auto& error) {
-            ++answers;
-            found = response;
-            EXPECT_FALSE(error);
-        });
+        gtk::GtkLocalSearch({suggestion}, queue)
+            .start([&](const auto& response, const auto& error) {
+                ++answers;
+                found = response;
+                EXPECT_FALSE(error);
+            });
         EXPECT_EQ(answers, 0) << "answered inside the call";
         EXPECT_TRUE(until([&] { return answers > 0; }));
     };
@@ -306,7 +308,7 @@ TEST_F(GeocodingTest, theUsersCertificateCountsForItsHostOnly)
         {service.origin(), gtk::HostCertificate{{"elsewhere.localhost"}, path}, false},
     };
     for (const auto& [address, certificate, isTrusted] : cases) {
-        gtk::SearchCompleter completer(
+        gtk::GtkLocalSearchCompleter completer(
             std::make_shared<gtk::GeocodingService>(
                 gtk::GeocodingService::Options{
                     .address = address, .userAgent = "test", .certificate = certificate},

@@ -6,8 +6,8 @@
 #include "platform/corelocation/CLLocationManagerDelegate.h"
 #include "platform/gtk/corelocation/LocationServices.h"
 #include "platform/gtk/corelocation/ServiceLocation.h"
-#include "platform/gtk/foundation/MainLoopQueue.h"
-#include "platform/gtk/foundation/SettingsFile.h"
+#include "platform/gtk/foundation/GtkDispatchQueue.h"
+#include "platform/gtk/foundation/GtkUserDefaults.h"
 
 #include <algorithm>
 #include <cmath>
@@ -102,10 +102,10 @@ protected:
         return listener;
     }
 
-    gtk::MainLoopQueue queue;
+    gtk::GtkDispatchQueue queue;
     const std::filesystem::path file =
         std::filesystem::path(std::getenv("HOME")) / "permissions.json";
-    gtk::SettingsFile settings{file, queue, [](const auto& line) { ADD_FAILURE() << line; }};
+    gtk::GtkUserDefaults settings{file, queue, [](const auto& line) { ADD_FAILURE() << line; }};
     LocationServices::Options options{.identifier = "example.velmaro.Online", .isSandboxed = false};
     int questions = 0;
     std::function<void(bool)> answer;
@@ -239,7 +239,7 @@ TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)
         runWaitingEvents();
         EXPECT_EQ(manager->authorizationStatus(), expected);
         EXPECT_EQ(questions, 1);
-        gtk::SettingsFile onDisk(file, queue, [](const auto& line) { ADD_FAILURE() << line; });
+        gtk::GtkUserDefaults onDisk(file, queue, [](const auto& line) { ADD_FAILURE() << line; });
         EXPECT_TRUE(onDisk.contains(gtk::LocationPermission::key));
         EXPECT_EQ(onDisk.boolean(gtk::LocationPermission::key), isAllowed);
     }

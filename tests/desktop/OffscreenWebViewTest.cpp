@@ -2,7 +2,7 @@
 
 #include "platform/gtk/webkit/OffscreenWebView.h"
 #include "harness/Process.h"
-#include "platform/gtk/webkit/Turns.h"
+#include "platform/gtk/webkit/LoadLimiter.h"
 #include "platform/webkit/WKNavigationDelegate.h"
 #include "webview/WebViewTest.h"
 
@@ -220,9 +220,9 @@ TEST_F(OffscreenWebViewTest, printsOnlyWhatThePanelSays)
     EXPECT_TRUE(contains(outputOf({"pdftotext", target, "-"}), "one two"));
 }
 
-TEST(Turns, areTakenInOrderAndNotKeptForTooLong)
+TEST(LoadLimiter, areTakenInOrderAndNotKeptForTooLong)
 {
-    const auto turns = std::make_shared<gtk::Turns>(2, 0.05);
+    const auto turns = std::make_shared<gtk::LoadLimiter>(2, 0.05);
     std::string begun;
     const auto ask = [&](char name) { return turns->ask([&begun, name] { begun += name; }); };
     auto a = ask('a'), b = ask('b'), c = ask('c'), d = ask('d');
@@ -233,7 +233,7 @@ TEST(Turns, areTakenInOrderAndNotKeptForTooLong)
     EXPECT_EQ(begun.substr(0, 2), "ab");
     EXPECT_TRUE(until([&] { return begun == "abd"; })) << "a and b take too long";
 
-    const auto patient = std::make_shared<gtk::Turns>(1, 3600);
+    const auto patient = std::make_shared<gtk::LoadLimiter>(1, 3600);
     auto first = patient->ask([&] { begun = "first"; });
     auto second = patient->ask([&] { begun = "second"; });
     ASSERT_TRUE(until([&] { return begun == "first"; }));

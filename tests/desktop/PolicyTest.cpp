@@ -7,7 +7,7 @@
 #include "harness/ShownWindow.h"
 #include "harness/UserInput.h"
 #include "platform/gtk/GtkPlatform.h"
-#include "web/Service.h"
+#include "service/Service.h"
 #include "web/WebView.h"
 #include "webview/WebViewTest.h"
 

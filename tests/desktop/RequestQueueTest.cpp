@@ -1,7 +1,7 @@
-#include "platform/gtk/appkit/RequestQueue.h"
+#include "platform/gtk/launch/RequestQueue.h"
 
 #include "harness/MainLoop.h"
-#include "platform/gtk/foundation/MainLoopQueue.h"
+#include "platform/gtk/foundation/GtkDispatchQueue.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ protected:
         queue.enqueue([this, request] { performed.push_back(request); });
     }
 
-    MainLoopQueue mainQueue;
+    GtkDispatchQueue mainQueue;
     bool isReady = false;
     std::vector<std::string> performed;
     RequestQueue queue{mainQueue, [this] { return isReady; }};

@@ -1,14 +1,14 @@
 // Newer versions of the application, from the demo service's feeds to the system's installer.
 
-#include "platform/gtk/sparkle/Updater.h"
+#include "platform/gtk/sparkle/GtkUpdaterController.h"
 
 #include "harness/DemoServiceProcess.h"
 #include "harness/MainLoop.h"
 #include "harness/ShownWindow.h"
 #include "platform/appkit/NSWorkspace.h"
 #include "platform/foundation/URL.h"
-#include "platform/gtk/foundation/MainLoopQueue.h"
-#include "platform/gtk/foundation/SettingsFile.h"
+#include "platform/gtk/foundation/GtkDispatchQueue.h"
+#include "platform/gtk/foundation/GtkUserDefaults.h"
 
 #include <ctime>
 #include <fstream>
@@ -100,10 +100,10 @@ protected:
         queue.endStart();
     }
 
-    std::unique_ptr<gtk::Updater> makeUpdater(const std::string& feed)
+    std::unique_ptr<gtk::GtkUpdaterController> makeUpdater(const std::string& feed)
     {
         const auto environment = service.clientEnvironment();
-        return std::make_unique<gtk::Updater>(
+        return std::make_unique<gtk::GtkUpdaterController>(
             gtk::UpdateOptions{
                 .feed = feed,
                 .publicKey = publicKey,
@@ -114,9 +114,9 @@ protected:
                 .displayVersion = "1.0.0",
                 .downloads = downloads,
                 .executable = executable,
-                .sandboxMark = sandboxMark,
+                .isSandboxed = isSandboxed,
             },
-            gtk::Updater::Services{queue, settings, workspace});
+            gtk::GtkUpdaterController::Services{queue, settings, workspace});
     }
 
     std::string feed(const std::string& kind) const
@@ -129,11 +129,11 @@ protected:
     const files::path home = std::getenv("HOME");
     const files::path downloads = home / "updates";
     files::path executable = home / "velmaro-online";
-    files::path sandboxMark = home / "no-sandbox";
+    bool isSandboxed = false;
     std::string publicKey;
     DemoServiceProcess service{{.isHostile = true}};
-    gtk::MainLoopQueue queue;
-    gtk::SettingsFile settings{
+    gtk::GtkDispatchQueue queue;
+    gtk::GtkUserDefaults settings{
         home / "updates.json", queue, [](const auto& line) { ADD_FAILURE() << line; }};
     Workspace workspace;
 };
@@ -241,8 +241,7 @@ TEST_F(UpdaterTest, whoeverInstalledTheProgramUpdatesIt)
     expectMessage("by your system\u2019s package manager");
 
     executable = home / "velmaro-online";
-    std::ofstream(home / "flatpak-info") << "[Application]\n";
-    sandboxMark = home / "flatpak-info";
+    isSandboxed = true;
     const auto sandboxed = makeUpdater(feed("newer"));
     sandboxed->checkForUpdates();
     EXPECT_TRUE(shows("by Flatpak")) << texts();
@@ -251,11 +250,11 @@ TEST_F(UpdaterTest, whoeverInstalledTheProgramUpdatesIt)
 
 TEST_F(UpdaterTest, looksByItselfWhenAllowedOnceADayAndNotForASkippedVersion)
 {
-    using gtk::Updater;
+    using gtk::GtkUpdaterController;
     const auto asked = [&] { return service.requests("/demo/updates/newer/appcast.xml").size(); };
     auto updater = makeUpdater(feed("newer"));
     updater->start(); // the first launch: nobody is asked anything
-    EXPECT_TRUE(until([&] { return settings.boolean(Updater::hasLaunchedKey); }));
+    EXPECT_TRUE(until([&] { return settings.boolean(GtkUpdaterController::hasLaunchedKey); }));
     EXPECT_FALSE(window());
 
     updater = makeUpdater(feed("newer"));
@@ -265,11 +264,11 @@ TEST_F(UpdaterTest, looksByItselfWhenAllowedOnceADayAndNotForASkippedVersion)
     press("Check Automatically");
     ASSERT_TRUE(shows("is available"));
     EXPECT_EQ(asked(), 1u);
-    EXPECT_LE(std::time(nullptr) - settings.integer(Updater::lastCheckKey), 60);
+    EXPECT_LE(std::time(nullptr) - settings.integer(GtkUpdaterController::lastCheckKey), 60);
     press("Skip This Version");
     EXPECT_TRUE(closes());
 
-    settings.setInteger(Updater::lastCheckKey, std::time(nullptr) - 25L * 60 * 60);
+    settings.setInteger(GtkUpdaterController::lastCheckKey, std::time(nullptr) - 25L * 60 * 60);
     updater = makeUpdater(feed("newer"));
     updater->start();
     EXPECT_TRUE(until([&] { return asked() == 2; }));

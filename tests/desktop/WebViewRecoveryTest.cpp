@@ -27,7 +27,7 @@ protected:
 
     [[nodiscard]] bool losesPage()
     {
-        return until([&] { return !engine->isFrontPageReady(); });
+        return until([&] { return !engine->isVisiblePageReady(); });
     }
 
     void pressTryAgain()
@@ -56,7 +56,7 @@ TEST_F(WebViewRecoveryTest, aProcessThatDiesTwiceIsGivenUpUntilSomebodyAsks)
 
     killProcess();
     ASSERT_TRUE(failsWith("Page Stopped"));
-    EXPECT_FALSE(engine->isFrontPageReady());
+    EXPECT_FALSE(engine->isVisiblePageReady());
     EXPECT_EQ(documents(), 2u);
 
     pressTryAgain();
@@ -152,7 +152,7 @@ TEST_F(WebViewRecoveryTest, aServerThatIsDownShowsThePanelAndNothingReachesTheBr
     openView();
     load("/#fuel");
     ASSERT_TRUE(failsWith("Page Unavailable"));
-    EXPECT_FALSE(engine->isFrontPageReady());
+    EXPECT_FALSE(engine->isVisiblePageReady());
     EXPECT_TRUE(probe->messages.empty());
     EXPECT_FALSE(view->canGoBack());
 

@@ -221,7 +221,7 @@ TEST_F(WebViewTest, whatComesAfterTheViewHasGoneReachesNobody)
 
     EXPECT_TRUE(gone.expired());
     EXPECT_TRUE(until([&] { return !widget; }));
-    EXPECT_FALSE(engine->isFrontPageReady());
+    EXPECT_FALSE(engine->isVisiblePageReady());
 }
 
 TEST_F(WebViewTest, aHandlerMayDoAwayWithTheView)

@@ -1,7 +1,7 @@
 // Addresses with the application's own scheme, whoever hands them over.
 
-#include "app/DeepLink.h"
 #include "fuzz/Target.h"
+#include "web/DeepLink.h"
 
 #include <optional>
 #include <set>

@@ -1,6 +1,6 @@
 // What a page posts, one message a line: a name, a blank and a value in JSON.
 
-#include "web/PageMessages.h"
+#include "app/PageMessages.h"
 
 #include "fuzz/Target.h"
 #include "platform/foundation/JSONSerialization.h"

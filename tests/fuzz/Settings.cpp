@@ -1,7 +1,7 @@
 // The settings file with whatever it may hold after an accident.
 
 #include "fuzz/Target.h"
-#include "platform/gtk/foundation/SettingsFile.h"
+#include "platform/gtk/foundation/GtkUserDefaults.h"
 #include "platform/simulated/SimulatedQueue.h"
 
 #include <algorithm>
@@ -13,7 +13,7 @@
 #include <string>
 
 using fuzz::require;
-using gtk::SettingsFile;
+using gtk::GtkUserDefaults;
 using Json = nlohmann::json;
 
 namespace {
@@ -49,7 +49,7 @@ const std::string keys[] = {"a", "b", "active", "routes", "identity"};
 constexpr auto ownKey = "own";
 constexpr std::int64_t ownValue = 1234567;
 
-void readEverything(const SettingsFile& settings)
+void readEverything(const GtkUserDefaults& settings)
 {
     for (const auto& key : keys) {
         settings.stringArray(key);
@@ -87,7 +87,7 @@ void fuzz::tryInput(std::string_view input)
     std::vector<std::string> log;
     const auto note = [&](const std::string& line) { log.push_back(line); };
     {
-        SettingsFile settings(folder.file(), queue, note);
+        GtkUserDefaults settings(folder.file(), queue, note);
         readEverything(settings);
         settings.setInteger(ownKey, ownValue);
         settings.flush();
@@ -105,7 +105,7 @@ void fuzz::tryInput(std::string_view input)
     (*expected)[ownKey] = ownValue;
     require(written == expected, "all else is written back as it was");
 
-    SettingsFile settings(folder.file(), queue, note);
+    GtkUserDefaults settings(folder.file(), queue, note);
     require(settings.integer(ownKey) == ownValue, "a setting comes back");
     require(log.size() == (isDamaged ? 1u : 0u), "what was written can be read");
 }

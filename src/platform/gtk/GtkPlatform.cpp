@@ -3,36 +3,37 @@
 #include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/gtk/appkit/AlertPresenter.h"
-#include "platform/gtk/appkit/Appearance.h"
-#include "platform/gtk/appkit/Application.h"
-#include "platform/gtk/appkit/OffscreenWindow.h"
-#include "platform/gtk/appkit/OpenPanel.h"
-#include "platform/gtk/appkit/PermissionsPanel.h"
-#include "platform/gtk/appkit/PlainView.h"
-#include "platform/gtk/appkit/RendererSafeguard.h"
-#include "platform/gtk/appkit/Screen.h"
-#include "platform/gtk/appkit/SharePanel.h"
-#include "platform/gtk/appkit/TextField.h"
-#include "platform/gtk/appkit/Workspace.h"
 #include "platform/gtk/corelocation/LocationServices.h"
+#include "platform/gtk/desktop/Appearance.h"
+#include "platform/gtk/desktop/GtkWorkspace.h"
 #include "platform/gtk/diagnosis/Diagnosis.h"
-#include "platform/gtk/foundation/Files.h"
-#include "platform/gtk/foundation/MachineInfo.h"
-#include "platform/gtk/foundation/MainLoopQueue.h"
-#include "platform/gtk/foundation/ProgramBundle.h"
-#include "platform/gtk/foundation/SettingsFile.h"
+#include "platform/gtk/foundation/GtkBundle.h"
+#include "platform/gtk/foundation/GtkDispatchQueue.h"
+#include "platform/gtk/foundation/GtkFileManager.h"
+#include "platform/gtk/foundation/GtkProcessInfo.h"
+#include "platform/gtk/foundation/GtkUserDefaults.h"
+#include "platform/gtk/foundation/Sandboxing.h"
 #include "platform/gtk/foundation/StandardPaths.h"
-#include "platform/gtk/mapkit/PlaceSearch.h"
-#include "platform/gtk/mapkit/SearchCompleter.h"
-#include "platform/gtk/sparkle/Updater.h"
+#include "platform/gtk/launch/Application.h"
+#include "platform/gtk/mapkit/GtkLocalSearch.h"
+#include "platform/gtk/mapkit/GtkLocalSearchCompleter.h"
+#include "platform/gtk/panels/AlertPresenter.h"
+#include "platform/gtk/panels/OpenPanel.h"
+#include "platform/gtk/panels/PermissionsPanel.h"
+#include "platform/gtk/panels/SharePanel.h"
+#include "platform/gtk/renderer/RendererSafeguard.h"
+#include "platform/gtk/sparkle/GtkUpdaterController.h"
+#include "platform/gtk/ui/PlainView.h"
+#include "platform/gtk/ui/TextField.h"
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
+#include "platform/gtk/usernotifications/GtkUserNotificationCenter.h"
 #include "platform/gtk/usernotifications/PortalNotifications.h"
-#include "platform/gtk/usernotifications/UserNotificationCenter.h"
 #include "platform/gtk/webkit/GtkWebView.h"
 #include "platform/gtk/webkit/OffscreenWebView.h"
 #include "platform/gtk/webkit/WebEngine.h"
 #include "platform/gtk/webkit/WebsiteData.h"
+#include "platform/gtk/windows/GtkScreen.h"
+#include "platform/gtk/windows/OffscreenWindow.h"
 
 #include <cassert>
 #include <future>
@@ -60,13 +61,13 @@ StandardPaths standardPaths()
 
 GtkPlatform::GtkPlatform(Options options)
     : options_(std::move(options))
-    , mainQueue_(std::make_unique<MainLoopQueue>())
-    , settings_(std::make_unique<SettingsFile>(
+    , mainQueue_(std::make_unique<GtkDispatchQueue>())
+    , settings_(std::make_unique<GtkUserDefaults>(
           standardPaths().config / settingsName, *mainQueue_, platform::NSLog))
-    , bundle_(std::make_unique<ProgramBundle>())
-    , files_(std::make_unique<Files>())
-    , machineInfo_(std::make_unique<MachineInfo>())
-    , workspace_(std::make_unique<Workspace>())
+    , bundle_(std::make_unique<GtkBundle>())
+    , files_(std::make_unique<GtkFileManager>())
+    , machineInfo_(std::make_unique<GtkProcessInfo>())
+    , workspace_(std::make_unique<GtkWorkspace>())
     , alerts_(std::make_unique<AlertPresenter>())
     , rendererSafeguard_(std::make_unique<RendererSafeguard>(standardPaths(), *mainQueue_))
 {
@@ -110,7 +111,7 @@ std::optional<std::string> GtkPlatform::trust(HostCertificate certificate)
     return std::nullopt;
 }
 
-MainLoopQueue& GtkPlatform::mainQueue()
+GtkDispatchQueue& GtkPlatform::mainQueue()
 {
     return *mainQueue_;
 }
@@ -133,7 +134,7 @@ platform::NSApplication& GtkPlatform::application()
 platform::URLCache& GtkPlatform::urlCache()
 {
     if (!responseCache_)
-        responseCache_ = std::make_unique<ResponseCache>(standardPaths().cache / responsesName);
+        responseCache_ = std::make_unique<GtkURLCache>(standardPaths().cache / responsesName);
     return *responseCache_;
 }
 
@@ -156,7 +157,7 @@ platform::NSScreen* GtkPlatform::mainScreen()
 {
     const auto keyWindow = application_->keyWindow();
     auto* screen = keyWindow ? keyWindow->screen() : nullptr;
-    return screen ? screen : Screen::first();
+    return screen ? screen : GtkScreen::first();
 }
 
 std::shared_ptr<platform::NSView> GtkPlatform::makeView()
@@ -206,26 +207,26 @@ std::shared_ptr<platform::MKLocalSearchCompleter> GtkPlatform::makeLocalSearchCo
             },
             *responseCache_);
     }
-    return std::make_shared<SearchCompleter>(geocodingService_);
+    return std::make_shared<GtkLocalSearchCompleter>(geocodingService_);
 }
 
 std::shared_ptr<platform::MKLocalSearch> GtkPlatform::makeLocalSearch(
     const platform::MKLocalSearchRequest& request)
 {
-    return std::make_shared<PlaceSearch>(request, *mainQueue_);
+    return std::make_shared<GtkLocalSearch>(request, *mainQueue_);
 }
 
 std::shared_ptr<platform::SPUStandardUpdaterController> GtkPlatform::makeUpdaterController(
     bool startingUpdater)
 {
     if (!updateSettings_)
-        updateSettings_ = std::make_unique<SettingsFile>(
+        updateSettings_ = std::make_unique<GtkUserDefaults>(
             standardPaths().config / updateSettingsName, *mainQueue_, platform::NSLog);
     const auto bundleText = [this](const char* key) {
         return bundle_->stringForInfoDictionaryKey(key).value_or("");
     };
     std::error_code ignored; // a program that cannot be found belongs to nobody
-    auto updater = std::make_shared<Updater>(
+    auto updater = std::make_shared<GtkUpdaterController>(
         UpdateOptions{
             .feed = options_.updateFeed,
             .publicKey = options_.updateKey,
@@ -236,7 +237,7 @@ std::shared_ptr<platform::SPUStandardUpdaterController> GtkPlatform::makeUpdater
             .downloads = standardPaths().cache / updatesName,
             .executable = std::filesystem::read_symlink("/proc/self/exe", ignored),
         },
-        Updater::Services{*mainQueue_, *updateSettings_, *workspace_});
+        GtkUpdaterController::Services{*mainQueue_, *updateSettings_, *workspace_});
     if (startingUpdater)
         updater->start();
     return updater;
@@ -315,10 +316,10 @@ void GtkPlatform::saveSettings()
         updateSettings_->flush();
 }
 
-SettingsFile& GtkPlatform::permissions()
+GtkUserDefaults& GtkPlatform::permissions()
 {
     if (!permissions_) {
-        permissions_ = std::make_unique<SettingsFile>(
+        permissions_ = std::make_unique<GtkUserDefaults>(
             standardPaths().config / permissionsName, *mainQueue_, platform::NSLog);
     }
     return *permissions_;
@@ -339,17 +340,17 @@ platform::UNUserNotificationCenter& GtkPlatform::userNotificationCenter()
     return notificationCenter();
 }
 
-UserNotificationCenter& GtkPlatform::notificationCenter()
+GtkUserNotificationCenter& GtkPlatform::notificationCenter()
 {
     if (notificationCenter_)
         return *notificationCenter_;
-    if (LocationServices::isInsideSandbox()) {
-        notificationCenter_ = std::make_unique<UserNotificationCenter>(*mainQueue_, nullptr,
+    if (isSandboxed()) {
+        notificationCenter_ = std::make_unique<GtkUserNotificationCenter>(*mainQueue_, nullptr,
             std::make_unique<PortalNotifications>(Program::notificationAction));
         return *notificationCenter_;
     }
     auto permission = std::make_unique<Permission>(*mainQueue_, permissions(),
-        UserNotificationCenter::permissionKey, UserNotificationCenter::askUser);
+        GtkUserNotificationCenter::permissionKey, GtkUserNotificationCenter::askUser);
     auto service = std::make_unique<DesktopNotifications>(
         options_.identifier, [this](const auto& userInfo, const auto& activationToken) {
             application_->allowToComeForward(activationToken);
@@ -358,14 +359,14 @@ UserNotificationCenter& GtkPlatform::notificationCenter()
     termination_ = platform::NotificationCenter::defaultCenter().addObserver(
         Application::willTerminateNotification, nullptr,
         [service = service.get()](const auto&) { service->leaveToAgent(); });
-    notificationCenter_ = std::make_unique<UserNotificationCenter>(
+    notificationCenter_ = std::make_unique<GtkUserNotificationCenter>(
         *mainQueue_, std::move(permission), std::move(service));
     return *notificationCenter_;
 }
 
 void GtkPlatform::showPermissions()
 {
-    if (LocationServices::isInsideSandbox()) {
+    if (isSandboxed()) {
         const platform::NSAlert alert{
             .messageText = "Velmaro Online",
             .informativeText = "Your desktop asks what this application may do, and keeps the "
@@ -377,7 +378,7 @@ void GtkPlatform::showPermissions()
     }
     permissionsPanel_ = std::make_unique<PermissionsPanel>(std::vector<PermissionsPanel::Entry>{
         {"Use your location", LocationPermission::explanation, locationServices().permission()},
-        {"Show notifications", UserNotificationCenter::explanation,
+        {"Show notifications", GtkUserNotificationCenter::explanation,
             *notificationCenter().permission()},
     });
 }

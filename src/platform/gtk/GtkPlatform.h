@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/gtk/foundation/MainLoopQueue.h"
-#include "platform/gtk/webkit/HostCertificate.h"
+#include "platform/gtk/foundation/GtkDispatchQueue.h"
+#include "platform/gtk/network/HostCertificate.h"
 #include "platform/Platform.h"
 
 #include <optional>
@@ -12,19 +12,19 @@ namespace gtk {
 class AlertPresenter;
 class Appearance;
 class Application;
-class Files;
+class GtkFileManager;
 class GeocodingService;
 class LocationServices;
-class MachineInfo;
+class GtkProcessInfo;
 class PermissionsPanel;
-class ProgramBundle;
+class GtkBundle;
 class RendererSafeguard;
-class ResponseCache;
-class SettingsFile;
+class GtkURLCache;
+class GtkUserDefaults;
 class SharePanel;
-class UserNotificationCenter;
+class GtkUserNotificationCenter;
 class WebEngine;
-class Workspace;
+class GtkWorkspace;
 
 // The desktop on GTK and WebKitGTK. Making it is cheap: display and web engine are opened when the
 // application runs, and not at all in a start that only hands something to a program that runs
@@ -57,7 +57,7 @@ public:
     // Whether the program should be started again, once the application has run.
     bool wantsRestart() const;
 
-    MainLoopQueue& mainQueue() override;
+    GtkDispatchQueue& mainQueue() override;
     platform::UserDefaults& userDefaults() override;
     platform::Bundle& mainBundle() override;
     platform::NSApplication& application() override;
@@ -98,7 +98,7 @@ public:
 
     RendererSafeguard& rendererSafeguard() { return *rendererSafeguard_; }
 
-    UserNotificationCenter& notificationCenter();
+    GtkUserNotificationCenter& notificationCenter();
 
     // Lets the user change what they have allowed, in a window over the one in use.
     void showPermissions();
@@ -115,18 +115,18 @@ public:
     void saveSettings();
 
 private:
-    SettingsFile& permissions();
+    GtkUserDefaults& permissions();
     LocationServices& locationServices();
 
     const Options options_;
 
     // In the order in which they need each other.
-    std::unique_ptr<MainLoopQueue> mainQueue_;
-    std::unique_ptr<SettingsFile> settings_;
-    std::unique_ptr<ProgramBundle> bundle_;
-    std::unique_ptr<Files> files_;
-    std::unique_ptr<MachineInfo> machineInfo_;
-    std::unique_ptr<Workspace> workspace_;
+    std::unique_ptr<GtkDispatchQueue> mainQueue_;
+    std::unique_ptr<GtkUserDefaults> settings_;
+    std::unique_ptr<GtkBundle> bundle_;
+    std::unique_ptr<GtkFileManager> files_;
+    std::unique_ptr<GtkProcessInfo> machineInfo_;
+    std::unique_ptr<GtkWorkspace> workspace_;
     std::unique_ptr<AlertPresenter> alerts_;
     std::unique_ptr<RendererSafeguard> rendererSafeguard_;
     std::unique_ptr<Appearance> appearance_;
@@ -134,14 +134,14 @@ private:
     std::optional<HostCertificate> certificate_;
     std::string expectedHost_;
     std::unique_ptr<WebEngine> webEngine_;
-    std::unique_ptr<SettingsFile> permissions_; // on first use, like the two below
+    std::unique_ptr<GtkUserDefaults> permissions_; // on first use, like the two below
     std::unique_ptr<LocationServices> locationServices_;
-    std::unique_ptr<UserNotificationCenter> notificationCenter_;
+    std::unique_ptr<GtkUserNotificationCenter> notificationCenter_;
     std::unique_ptr<PermissionsPanel> permissionsPanel_; // the one shown last
     platform::NotificationCenter::Observer termination_; // with notifications still shown
-    std::unique_ptr<ResponseCache> responseCache_; // made on first use, like the service below
+    std::unique_ptr<GtkURLCache> responseCache_; // made on first use, like the service below
     std::shared_ptr<GeocodingService> geocodingService_;
-    std::unique_ptr<SettingsFile> updateSettings_; // made with the first updater
+    std::unique_ptr<GtkUserDefaults> updateSettings_; // made with the first updater
     std::unique_ptr<Application> application_;
 };
 

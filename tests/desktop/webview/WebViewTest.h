@@ -121,7 +121,7 @@ protected:
 
     [[nodiscard]] bool isReadyWith(const std::string& title)
     {
-        return until([&] { return engine->isFrontPageReady() && view->title() == title; });
+        return until([&] { return engine->isVisiblePageReady() && view->title() == title; });
     }
 
     // What `expression` is in the page.
@@ -168,7 +168,7 @@ protected:
     // Of the engine, for this test alone.
     const std::filesystem::path& folder() const { return folder_; }
 
-    gtk::Patience patience;
+    gtk::PageTimeouts patience;
     PageServer server;
     platform::WKWebViewConfiguration configuration;
     std::unique_ptr<gtk::WebEngine> engine;

@@ -1,8 +1,8 @@
 #include "about/AboutLinkButton.h"
 #include "about/AboutView.h"
 #include "about/AboutWindowController.h"
+#include "service/Service.h"
 #include "ui/Stage.h"
-#include "web/Service.h"
 
 #include <ctime>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/gtk/appkit/RendererChoice.h"
+#include "platform/gtk/renderer/RendererChoice.h"
 
 #include <gtest/gtest.h>
 

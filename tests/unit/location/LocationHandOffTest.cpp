@@ -1,4 +1,4 @@
-#include "location/LocationScripts.h"
+#include "web/LocationScripts.h"
 
 #include "location/StationKind.h"
 #include "RunningApp.h"

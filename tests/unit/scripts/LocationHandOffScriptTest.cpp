@@ -1,7 +1,7 @@
 // The script that hands a place to a page, run by the engine that runs pages.
 
-#include "location/LocationScripts.h"
 #include "ScriptEngine.h"
+#include "web/LocationScripts.h"
 
 #include <gtest/gtest.h>
 #include <limits>

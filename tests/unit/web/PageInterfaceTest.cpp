@@ -1,6 +1,6 @@
 // What is written for the people who write pages, against what the program and the demo's pages do.
 
-#include "web/PageMessages.h"
+#include "app/PageMessages.h"
 
 #include <filesystem>
 #include <fstream>

@@ -46,7 +46,7 @@ BusConversation::Arguments pathArgument(const std::string& path)
 
 } // namespace
 
-GeoClueSource::GeoClueSource(std::string identifier, const LocationPatience& patience)
+GeoClueSource::GeoClueSource(std::string identifier, const LocationTimeouts& patience)
     : identifier_(std::move(identifier))
     , patience_(patience)
     , conversation_(serviceName, [this](const auto& error) {

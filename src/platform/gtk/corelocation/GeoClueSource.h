@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/gtk/corelocation/LocationPatience.h"
 #include "platform/gtk/corelocation/LocationSource.h"
+#include "platform/gtk/corelocation/LocationTimeouts.h"
 #include "platform/gtk/foundation/BusConversation.h"
 
 namespace gtk {
@@ -11,7 +11,7 @@ namespace gtk {
 class GeoClueSource final : public LocationSource {
 public:
     // `identifier` is the application's, as its desktop entry is called.
-    GeoClueSource(std::string identifier, const LocationPatience& patience);
+    GeoClueSource(std::string identifier, const LocationTimeouts& patience);
     ~GeoClueSource() override;
 
     void start(double accuracy, Handlers handlers) override;
@@ -25,7 +25,7 @@ private:
         const char* name, const Glib::VariantBase& value, std::function<void()> then);
 
     const std::string identifier_;
-    const LocationPatience patience_;
+    const LocationTimeouts patience_;
     double accuracy_ = 0; // metres
     Handlers handlers_;
     std::string client_; // path of our object there; empty until there is one

@@ -1,18 +1,10 @@
 #include "platform/gtk/corelocation/LocationServices.h"
 
 #include "platform/gtk/corelocation/GeoClueSource.h"
-#include "platform/gtk/corelocation/LocationManager.h"
+#include "platform/gtk/corelocation/GtkLocationManager.h"
 #include "platform/gtk/corelocation/PortalSource.h"
 
-#include <filesystem>
-
 namespace gtk {
-
-bool LocationServices::isInsideSandbox()
-{
-    std::error_code error; // means no
-    return std::filesystem::exists("/.flatpak-info", error);
-}
 
 LocationServices::LocationServices(Options options, platform::DispatchQueue& queue,
     platform::UserDefaults& store, LocationPermission::Prompt prompt)
@@ -25,10 +17,10 @@ std::shared_ptr<platform::CLLocationManager> LocationServices::makeManager()
 {
     const auto patience = options_.patience;
     if (options_.isSandboxed) {
-        return std::make_shared<LocationManager>(
+        return std::make_shared<GtkLocationManager>(
             nullptr, [patience] { return std::make_unique<PortalSource>(patience); }, patience);
     }
-    return std::make_shared<LocationManager>(
+    return std::make_shared<GtkLocationManager>(
         &permission_,
         [patience, identifier = options_.identifier] {
             return std::make_unique<GeoClueSource>(identifier, patience);

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "platform/corelocation/CLLocationManager.h"
-#include "platform/gtk/corelocation/LocationPatience.h"
 #include "platform/gtk/corelocation/LocationPermission.h"
+#include "platform/gtk/corelocation/LocationTimeouts.h"
+#include "platform/gtk/foundation/Sandboxing.h"
 
 #include <memory>
 #include <string>
@@ -15,12 +16,9 @@ class LocationServices {
 public:
     struct Options {
         std::string identifier; // of the application, as its desktop entry is called
-        bool isSandboxed = isInsideSandbox();
-        LocationPatience patience = {};
+        bool isSandboxed = gtk::isSandboxed();
+        LocationTimeouts patience = {};
     };
-
-    // Whether this program runs in a sandbox that has portals.
-    static bool isInsideSandbox();
 
     // `store` keeps the permission; it and `queue` must outlive this.
     LocationServices(Options options, platform::DispatchQueue& queue, platform::UserDefaults& store,

@@ -52,7 +52,7 @@ template <class T> T child(const BusConversation::Arguments& values, unsigned in
 
 } // namespace
 
-PortalSource::PortalSource(const LocationPatience& patience)
+PortalSource::PortalSource(const LocationTimeouts& patience)
     : patience_(patience)
     , token_(freshToken())
     , conversation_(

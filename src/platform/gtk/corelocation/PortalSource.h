@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/gtk/corelocation/LocationPatience.h"
 #include "platform/gtk/corelocation/LocationSource.h"
+#include "platform/gtk/corelocation/LocationTimeouts.h"
 #include "platform/gtk/foundation/BusConversation.h"
 
 namespace gtk {
@@ -10,7 +10,7 @@ namespace gtk {
 // remembers what they said.
 class PortalSource final : public LocationSource {
 public:
-    explicit PortalSource(const LocationPatience& patience);
+    explicit PortalSource(const LocationTimeouts& patience);
     ~PortalSource() override;
 
     void start(double accuracy, Handlers handlers) override;
@@ -20,7 +20,7 @@ private:
     void startSession();
     void fail(const std::string& reason);
 
-    const LocationPatience patience_;
+    const LocationTimeouts patience_;
     const std::string token_; // names our objects at the portal
     double accuracy_ = 0; // metres
     Handlers handlers_;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/gtk/appkit/RendererChoice.h"
 #include "platform/gtk/diagnosis/Check.h"
-#include "platform/gtk/webkit/HostCertificate.h"
+#include "platform/gtk/network/HostCertificate.h"
+#include "platform/gtk/renderer/RendererChoice.h"
 
 #include <filesystem>
 #include <optional>

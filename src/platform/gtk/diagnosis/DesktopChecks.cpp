@@ -1,6 +1,6 @@
-#include "platform/gtk/corelocation/LocationServices.h"
 #include "platform/gtk/diagnosis/BusQuestion.h"
 #include "platform/gtk/diagnosis/Checks.h"
+#include "platform/gtk/foundation/Sandboxing.h"
 
 namespace gtk {
 
@@ -34,7 +34,7 @@ std::vector<Finding> checkPortal()
     const auto [values, failure] = ask(portal);
     if (values)
         return {{"Desktop portal", "answers"}};
-    if (LocationServices::isInsideSandbox()) {
+    if (isSandboxed()) {
         return {{"Desktop portal", failure, Verdict::problem,
             "Install xdg-desktop-portal and the part of it that belongs to the desktop."}};
     }
@@ -45,7 +45,7 @@ std::vector<Finding> checkPortal()
 std::vector<Finding> checkNotifications()
 {
     constexpr auto title = "Notifications";
-    if (LocationServices::isInsideSandbox())
+    if (isSandboxed())
         return {overPortal(title)};
     const auto [values, failure] = ask(notifications);
     if (!values) {
@@ -63,7 +63,7 @@ std::vector<Finding> checkNotifications()
 std::vector<Finding> checkLocation()
 {
     constexpr auto title = "Location";
-    if (LocationServices::isInsideSandbox())
+    if (isSandboxed())
         return {overPortal(title)};
     const auto [values, failure] = ask(location);
     if (values)

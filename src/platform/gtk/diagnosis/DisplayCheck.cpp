@@ -1,6 +1,6 @@
 #include "platform/gtk/diagnosis/Checks.h"
 #include "platform/gtk/diagnosis/OpenDisplay.h"
-#include "platform/gtk/webkit/ObjectPointer.h"
+#include "platform/gtk/foundation/ObjectPointer.h"
 
 #include <string_view>
 

@@ -1,5 +1,5 @@
 #include "platform/gtk/diagnosis/Checks.h"
-#include "platform/gtk/webkit/HostTrust.h"
+#include "platform/gtk/network/HostTrust.h"
 
 #include <libsoup/soup.h>
 

@@ -1,5 +1,5 @@
-#include "platform/gtk/corelocation/LocationServices.h"
 #include "platform/gtk/diagnosis/Checks.h"
+#include "platform/gtk/foundation/Sandboxing.h"
 
 #include <gtk/gtk.h>
 #include <sys/utsname.h>
@@ -23,7 +23,7 @@ std::string system()
         std::string(name ? name : kernel.sysname) + ", " + kernel.release + ", " + kernel.machine;
     if (const char* desktop = g_getenv("XDG_CURRENT_DESKTOP"))
         text += std::string(", ") + desktop;
-    if (LocationServices::isInsideSandbox())
+    if (isSandboxed())
         text += ", Flatpak";
     return text;
 }

@@ -1,6 +1,6 @@
 #include "platform/gtk/foundation/ProgramOutput.h"
 
-#include "platform/gtk/webkit/ObjectPointer.h"
+#include "platform/gtk/foundation/ObjectPointer.h"
 
 #include <gio/gio.h>
 #include <glibmm/main.h>

@@ -29,7 +29,7 @@ gboolean acceptCertificate(
 
 } // namespace
 
-GeocodingService::GeocodingService(Options options, ResponseCache& cache)
+GeocodingService::GeocodingService(Options options, GtkURLCache& cache)
     : options_(std::move(options))
     , trust_(options_.certificate)
     , cache_(cache)

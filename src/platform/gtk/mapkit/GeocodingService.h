@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/gtk/mapkit/HttpExchange.h"
-#include "platform/gtk/mapkit/ResponseCache.h"
-#include "platform/gtk/webkit/HostTrust.h"
+#include "platform/gtk/network/GtkURLCache.h"
+#include "platform/gtk/network/HostTrust.h"
+#include "platform/gtk/network/HttpExchange.h"
 
 #include <functional>
 #include <memory>
@@ -29,7 +29,7 @@ public:
     using Question = std::shared_ptr<void>;
 
     // `cache` must outlive this.
-    GeocodingService(Options options, ResponseCache& cache);
+    GeocodingService(Options options, GtkURLCache& cache);
     ~GeocodingService();
 
     // Asks for at most `limit` places, best first. `handler` is called once, later; not when the
@@ -41,7 +41,7 @@ private:
 
     const Options options_;
     const HostTrust trust_;
-    ResponseCache& cache_;
+    GtkURLCache& cache_;
     ObjectPointer<SoupSession> session_; // null until the first question
 };
 

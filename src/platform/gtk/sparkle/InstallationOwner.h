@@ -13,9 +13,9 @@ enum class InstallationOwner {
     flatpak,
 };
 
-// Asks Flatpak's sandbox and Debian's package manager about `executable`. `handler` is called
+// Asks Debian's package manager about `executable`, unless Flatpak runs it. `handler` is called
 // once, later; not any more when the result is dropped.
 [[nodiscard]] std::shared_ptr<void> findInstallationOwner(const std::filesystem::path& executable,
-    const std::filesystem::path& sandboxMark, std::function<void(InstallationOwner)> handler);
+    bool isSandboxed, std::function<void(InstallationOwner)> handler);
 
 } // namespace gtk

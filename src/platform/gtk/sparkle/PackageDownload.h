@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/sparkle/SecureDownload.h"
+#include "platform/gtk/network/SecureDownload.h"
 #include "platform/sparkle/SUAppcastItem.h"
 
 #include <filesystem>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/gtk/webkit/HostCertificate.h"
+#include "platform/gtk/foundation/Sandboxing.h"
+#include "platform/gtk/network/HostCertificate.h"
 
 #include <filesystem>
 #include <optional>
@@ -20,8 +21,7 @@ struct UpdateOptions {
 
     std::filesystem::path downloads; // folder for packages, of the user alone
     std::filesystem::path executable; // of the running program
-    std::filesystem::path sandboxMark =
-        "/.flatpak-info"; // a file that only Flatpak's sandboxes have
+    bool isSandboxed = gtk::isSandboxed();
 };
 
 } // namespace gtk

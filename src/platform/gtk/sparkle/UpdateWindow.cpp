@@ -1,9 +1,9 @@
 #include "platform/gtk/sparkle/UpdateWindow.h"
 
 #include "platform/gtk/ui/AccessibleName.h"
-#include "platform/gtk/ui/ApplicationIcon.h"
 #include "platform/gtk/ui/FontAttributes.h"
 #include "platform/gtk/ui/Theme.h"
+#include "platform/gtk/windows/ApplicationIcon.h"
 
 #include <glibmm/main.h>
 #include <gtkmm/checkbutton.h>

@@ -1,6 +1,6 @@
 #include "platform/gtk/ui/Allocation.h"
 
-#include "platform/gtk/ui/Presence.h"
+#include "platform/gtk/ui/TransitionAnimation.h"
 
 #include <algorithm>
 
@@ -75,7 +75,7 @@ void allocateAligned(Gtk::Widget& child, const Gtk::Allocation& area, ui::Alignm
     const int height = extent(child, Gtk::Orientation::VERTICAL, width, area.get_height());
     const double x = horizontalPlace(alignment) * (area.get_width() - width);
     const double y = verticalPlace(alignment) * (area.get_height() - height);
-    const auto offset = presenceOffset(child, width, height);
+    const auto offset = transitionOffset(child, width, height);
     child.size_allocate({area.get_x() + static_cast<int>(x) + offset.x,
                             area.get_y() + static_cast<int>(y) + offset.y, width, height},
         -1);

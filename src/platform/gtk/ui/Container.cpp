@@ -1,7 +1,7 @@
 #include "platform/gtk/ui/Container.h"
 
-#include "platform/gtk/ui/Departure.h"
-#include "platform/gtk/ui/Presence.h"
+#include "platform/gtk/ui/ExitTransition.h"
+#include "platform/gtk/ui/TransitionAnimation.h"
 
 #include <algorithm>
 
@@ -51,7 +51,7 @@ Container::Container() = default;
 
 Container::~Container()
 {
-    departures_.clear(); // while there is an area to leave
+    exits_.clear(); // while there is an area to leave
 }
 
 void Container::setExpandingChild(std::size_t index)
@@ -73,7 +73,7 @@ void Container::place(ui::Widget& child, std::size_t index)
 
     const auto transition = transitionOf(child);
     if (isNew && transition != ui::Transition() && isAnimated(area_))
-        animatePresence(widget, transition, 0, 1);
+        animateTransition(widget, transition, 0, 1);
 }
 
 void Container::remove(ui::Widget& child, std::shared_ptr<void> owner)
@@ -86,11 +86,10 @@ void Container::remove(ui::Widget& child, std::shared_ptr<void> owner)
         widget.unparent();
         return;
     }
-    auto departure = std::make_shared<Departure>(widget, std::move(owner));
-    departures_.push_back(departure);
-    departure->begin(transition, [this](const Departure& departed) {
-        std::erase_if(
-            departures_, [&](const auto& departure) { return departure.get() == &departed; });
+    auto exit = std::make_shared<ExitTransition>(widget, std::move(owner));
+    exits_.push_back(exit);
+    exit->begin(transition, [this](const ExitTransition& departed) {
+        std::erase_if(exits_, [&](const auto& exit) { return exit.get() == &departed; });
     });
 }
 

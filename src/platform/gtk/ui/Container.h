@@ -8,7 +8,7 @@
 
 namespace gtk {
 
-class Departure;
+class ExitTransition;
 
 // A widget with children, which its layout manager arranges.
 class Container : public NativeWidget {
@@ -44,7 +44,7 @@ private:
     Area area_;
     ui::Transition transition_;
     std::vector<Gtk::Widget*> children_; // those on their way out are not among them
-    std::vector<std::shared_ptr<Departure>> departures_;
+    std::vector<std::shared_ptr<ExitTransition>> exits_;
 };
 
 } // namespace gtk

@@ -1,9 +1,9 @@
 #include "platform/gtk/ui/Drawing.h"
 
-#include "platform/gtk/ui/ApplicationIcon.h"
 #include "platform/gtk/ui/OutlineShadow.h"
 #include "platform/gtk/ui/SymbolImage.h"
 #include "platform/gtk/ui/ThemeColor.h"
+#include "platform/gtk/windows/ApplicationIcon.h"
 #include "platform/ui/ViewNodes.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "platform/gtk/usernotifications/NotificationAgent.h"
 
-#include "platform/gtk/webkit/ObjectPointer.h"
+#include "platform/gtk/foundation/ObjectPointer.h"
 
 #include <filesystem>
 #include <gio/gio.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/URL.h"
-#include "platform/gtk/webkit/ObjectPointer.h"
+#include "platform/gtk/foundation/ObjectPointer.h"
 
 #include <optional>
 #include <string>

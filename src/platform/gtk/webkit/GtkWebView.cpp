@@ -1,11 +1,11 @@
 #include "platform/gtk/webkit/GtkWebView.h"
 
-#include "platform/gtk/appkit/MainWindow.h"
 #include "platform/gtk/ui/Reachability.h"
 #include "platform/gtk/webkit/EngineRequest.h"
-#include "platform/gtk/webkit/FrontPage.h"
-#include "platform/gtk/webkit/PageManners.h"
+#include "platform/gtk/webkit/PageRefusals.h"
+#include "platform/gtk/webkit/VisiblePage.h"
 #include "platform/gtk/webkit/WebEngine.h"
+#include "platform/gtk/windows/MainWindow.h"
 
 #include <gtkmm/settings.h>
 
@@ -60,7 +60,7 @@ template <class Act> void withPinchGesture(WebKitWebView* view, Act act)
 } // namespace
 
 GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration& configuration)
-    : frontPage_(engine.frontPage())
+    : visiblePage_(engine.visiblePage())
     , content_(configuration.userContentController, [this] { return !keeper_.failure(); })
     , sharing_(isPersistent(configuration) ? engine.sharing() : nullptr)
     , spare_(sharing_ ? engine.takeSpareView() : nullptr)
@@ -71,7 +71,7 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
                   titleChanged();
                   historyChanged();
               },
-              [this] { frontPage_->readinessChanged(this, keeper_.isReady()); },
+              [this] { visiblePage_->readinessChanged(this, keeper_.isReady()); },
           })
     , background_(view_.get(), area_)
     , search_(view_.get())
@@ -81,7 +81,7 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
     , drop_(view_.get(), *this)
 {
     gtk_overlay_set_child(area_.gobj(), GTK_WIDGET(view_.get()));
-    teachManners(view_.get());
+    refusePageRequests(view_.get());
     keepFocusOutOfHelpers(view_.get());
     watch();
 }
@@ -90,7 +90,7 @@ GtkWebView::~GtkWebView()
 {
     if (sharing_)
         sharing_->remove(view_.get());
-    frontPage_->hidden(this);
+    visiblePage_->hidden(this);
     if (area_.get_parent())
         area_.unparent();
     area_.unset_child();
@@ -156,9 +156,9 @@ platform::NSWindow* GtkWebView::window() const
 void GtkWebView::setShown(bool isShown)
 {
     if (isShown)
-        frontPage_->shown(this, view_.get(), keeper_.isReady());
+        visiblePage_->shown(this, view_.get(), keeper_.isReady());
     else
-        frontPage_->hidden(this);
+        visiblePage_->hidden(this);
     keeper_.setShown(isShown);
     takeFocus();
 }
@@ -166,7 +166,7 @@ void GtkWebView::setShown(bool isShown)
 // Who comes to a tab wants its page, as soon as that has its place in the window.
 void GtkWebView::takeFocus()
 {
-    if (frontPage_->page() == view_.get() && area_.get_mapped() && isReachable(area_))
+    if (visiblePage_->page() == view_.get() && area_.get_mapped() && isReachable(area_))
         gtk_widget_grab_focus(GTK_WIDGET(view_.get()));
 }
 

@@ -1,21 +1,21 @@
 #pragma once
 
+#include "platform/gtk/printing/PageOutput.h"
 #include "platform/gtk/ui/NativeView.h"
 #include "platform/gtk/webkit/FileDrop.h"
+#include "platform/gtk/webkit/GtkUserContentController.h"
 #include "platform/gtk/webkit/PageBackground.h"
 #include "platform/gtk/webkit/PageDownloads.h"
-#include "platform/gtk/webkit/PageKeeper.h"
-#include "platform/gtk/webkit/PageOutput.h"
+#include "platform/gtk/webkit/PageRecovery.h"
 #include "platform/gtk/webkit/PageRequests.h"
 #include "platform/gtk/webkit/PageSearch.h"
 #include "platform/gtk/webkit/PropertyObservers.h"
-#include "platform/gtk/webkit/UserContent.h"
 #include "platform/webkit/WKWebView.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
 namespace gtk {
 
-class FrontPage;
+class VisiblePage;
 class ProcessSharing;
 class WebEngine;
 
@@ -74,13 +74,13 @@ private:
     void titleChanged();
     void historyChanged();
 
-    const std::shared_ptr<FrontPage> frontPage_;
-    UserContent content_;
+    const std::shared_ptr<VisiblePage> visiblePage_;
+    GtkUserContentController content_;
     const std::shared_ptr<ProcessSharing> sharing_;
     ObjectPointer<WebKitWebView> spare_; // until the first load begins
     const ObjectPointer<WebKitWebView> view_;
     Gtk::Overlay area_;
-    PageKeeper keeper_;
+    PageRecovery keeper_;
     PageBackground background_;
     PageSearch search_;
     PageOutput output_;

@@ -1,7 +1,7 @@
 #include "platform/gtk/webkit/OffscreenWebView.h"
 
 #include "platform/gtk/webkit/EngineRequest.h"
-#include "platform/gtk/webkit/PageManners.h"
+#include "platform/gtk/webkit/PageRefusals.h"
 #include "platform/gtk/webkit/WebEngine.h"
 #include "platform/webkit/WKNavigationDelegate.h"
 
@@ -34,13 +34,13 @@ ObjectPointer<WebKitWebView> makeView(WebEngine& engine, platform::NSSize size,
 OffscreenWebView::OffscreenWebView(
     WebEngine& engine, platform::NSSize size, const platform::WKWebViewConfiguration& configuration)
     : size_(size)
-    , turns_(engine.offscreenTurns())
+    , limiter_(engine.offscreenLoads())
     , content_(configuration.userContentController, [] { return true; })
     , view_(makeView(engine, size, configuration, content_.manager()))
     , search_(view_.get())
     , output_(view_.get(), engine.printChoice())
 {
-    teachManners(view_.get());
+    refusePageRequests(view_.get());
     watch();
 }
 
@@ -76,7 +76,7 @@ void OffscreenWebView::watch()
 
 void OffscreenWebView::awaitTurn(std::function<void()> begin)
 {
-    turn_ = turns_->ask(std::move(begin));
+    turn_ = limiter_->ask(std::move(begin));
 }
 
 void OffscreenWebView::load(const platform::URLRequest& request)

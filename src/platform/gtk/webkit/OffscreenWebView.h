@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/gtk/webkit/PageOutput.h"
+#include "platform/gtk/printing/PageOutput.h"
+#include "platform/gtk/webkit/GtkUserContentController.h"
+#include "platform/gtk/webkit/LoadLimiter.h"
 #include "platform/gtk/webkit/PageSearch.h"
 #include "platform/gtk/webkit/PropertyObservers.h"
-#include "platform/gtk/webkit/Turns.h"
-#include "platform/gtk/webkit/UserContent.h"
 #include "platform/webkit/WKWebView.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
@@ -74,14 +74,14 @@ private:
         WebKitWebView*, WebKitWebProcessTerminationReason, OffscreenWebView* self);
 
     const platform::NSSize size_;
-    const std::shared_ptr<Turns> turns_;
-    UserContent content_;
+    const std::shared_ptr<LoadLimiter> limiter_;
+    GtkUserContentController content_;
     const ObjectPointer<WebKitWebView> view_;
     PageSearch search_;
     PropertyObservers observers_;
     PageOutput output_;
     platform::NSWindow* window_ = nullptr;
-    std::unique_ptr<Turns::Turn> turn_; // from the load to the end of the work
+    std::unique_ptr<LoadLimiter::Turn> turn_; // from the load to the end of the work
     Timer answerTimer_;
     bool hasCommitted_ = false; // a document of this load is there
     bool hasFailed_ = false; // this load, which the engine tells of once more as finished

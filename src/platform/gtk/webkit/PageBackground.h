@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/webkit/SignalHandlers.h"
+#include "platform/gtk/foundation/SignalHandlers.h"
 
 #include <gtkmm/widget.h>
 #include <webkit/webkit.h>

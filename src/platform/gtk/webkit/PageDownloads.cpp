@@ -36,7 +36,7 @@ PageDownloads::~PageDownloads()
 
 void PageDownloads::begin(WebKitDownload* download)
 {
-    const auto begun = std::make_shared<Download>(download, [this](Download& ended) {
+    const auto begun = std::make_shared<GtkDownload>(download, [this](GtkDownload& ended) {
         std::erase_if(running_, [&](const auto& download) { return download.get() == &ended; });
     });
     running_.push_back(begun);

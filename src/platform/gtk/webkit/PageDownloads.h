@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/webkit/Download.h"
+#include "platform/gtk/webkit/GtkDownload.h"
 #include "platform/webkit/WKWebView.h"
 
 #include <vector>
@@ -27,7 +27,7 @@ private:
 
     WebKitWebView* const view_;
     platform::WKWebView& owner_;
-    std::vector<std::shared_ptr<Download>> running_;
+    std::vector<std::shared_ptr<GtkDownload>> running_;
     SignalHandlers signals_;
 };
 

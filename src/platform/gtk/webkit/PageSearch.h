@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/webkit/SignalHandlers.h"
+#include "platform/gtk/foundation/SignalHandlers.h"
 #include "platform/webkit/WKFindConfiguration.h"
 
 #include <deque>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/webkit/ObjectPointer.h"
+#include "platform/gtk/foundation/ObjectPointer.h"
 
 #include <webkit/webkit.h>
 

@@ -4,7 +4,7 @@
 
 namespace gtk {
 
-RetrySchedule::RetrySchedule(const Patience& patience, std::function<void()> retry)
+RetrySchedule::RetrySchedule(const PageTimeouts& patience, std::function<void()> retry)
     : patience_(patience)
     , retry_(std::move(retry))
 {

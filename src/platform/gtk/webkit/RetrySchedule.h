@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/gtk/webkit/Patience.h"
-#include "platform/gtk/webkit/SignalHandlers.h"
-#include "platform/gtk/webkit/Timer.h"
+#include "platform/gtk/foundation/SignalHandlers.h"
+#include "platform/gtk/foundation/Timer.h"
+#include "platform/gtk/webkit/PageTimeouts.h"
 
 #include <gio/gio.h>
 
@@ -12,7 +12,7 @@ namespace gtk {
 // time while somebody looks, each time after a longer pause.
 class RetrySchedule {
 public:
-    RetrySchedule(const Patience& patience, std::function<void()> retry);
+    RetrySchedule(const PageTimeouts& patience, std::function<void()> retry);
 
     // An attempt has failed; there will be another one.
     void failed();
@@ -30,7 +30,7 @@ public:
 private:
     static void networkChanged(GNetworkMonitor*, gboolean isAvailable, RetrySchedule* self);
 
-    const Patience patience_;
+    const PageTimeouts patience_;
     const std::function<void()> retry_;
     double pause_ = 0; // seconds; 0 while nothing has failed
     bool isWatched_ = false;

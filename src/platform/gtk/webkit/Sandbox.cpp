@@ -1,5 +1,7 @@
 #include "platform/gtk/webkit/Sandbox.h"
 
+#include "platform/gtk/foundation/Sandboxing.h"
+
 #include <glib.h>
 
 namespace gtk {
@@ -30,8 +32,7 @@ bool canMakeSandbox()
 
 std::optional<std::string> sandboxProblem()
 {
-    const bool isInsidePackage = g_file_test("/.flatpak-info", G_FILE_TEST_EXISTS);
-    if (isInsidePackage || g_getenv("WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS"))
+    if (isSandboxed() || g_getenv("WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS"))
         return std::nullopt;
     if (!isProgram(bubblewrap))
         return "/usr/bin/bwrap is missing";

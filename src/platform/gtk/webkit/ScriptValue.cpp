@@ -1,6 +1,6 @@
 #include "platform/gtk/webkit/ScriptValue.h"
 
-#include "platform/gtk/webkit/ObjectPointer.h"
+#include "platform/gtk/foundation/ObjectPointer.h"
 
 #include <algorithm>
 #include <vector>

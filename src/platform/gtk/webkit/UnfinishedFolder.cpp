@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <string>
-#include <sys/file.h>
 #include <unistd.h>
 
 namespace gtk {
@@ -18,14 +17,9 @@ namespace fs = std::filesystem;
 constexpr auto namePrefix = ".velmaro-download-";
 constexpr double secondsToStop = 1;
 
-// The folder, locked; -1 when somebody else has locked it, or when it is none or cannot be locked.
-int openLocked(const fs::path& folder)
+std::optional<FileLock> lockFolder(const fs::path& folder)
 {
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (descriptor < 0 || ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
-        return descriptor;
-    ::close(descriptor);
-    return -1;
+    return FileLock::tryLock(folder, O_RDONLY | O_DIRECTORY | O_NOFOLLOW);
 }
 
 bool removeWhole(const fs::path& folder)
@@ -41,11 +35,10 @@ void removeLeftFolders(const fs::path& parent)
     for (fs::directory_iterator entry(parent, error), end; entry != end; entry.increment(error)) {
         const auto path = entry->path();
         const bool isOurs = path.filename().string().starts_with(namePrefix);
-        const int lock = isOurs ? openLocked(path) : -1;
-        if (lock < 0)
+        if (!isOurs)
             continue;
-        removeWhole(path);
-        ::close(lock);
+        if (const auto lock = lockFolder(path))
+            removeWhole(path);
     }
 }
 
@@ -60,7 +53,7 @@ UnfinishedFolder::UnfinishedFolder(const fs::path& parent)
         return;
     }
     path_ = path;
-    lock_ = openLocked(path_);
+    lock_ = lockFolder(path_);
 }
 
 UnfinishedFolder::~UnfinishedFolder()
@@ -71,8 +64,6 @@ UnfinishedFolder::~UnfinishedFolder()
     if (!removeWhole(path_))
         platform::DispatchQueue::main().asyncAfter(
             secondsToStop, [path = path_] { removeWhole(path); });
-    if (lock_ >= 0)
-        ::close(lock_);
 }
 
 fs::path UnfinishedFolder::file() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/gtk/foundation/FileLock.h"
+
 #include <filesystem>
 
 namespace gtk {
@@ -27,7 +29,7 @@ public:
 private:
     std::filesystem::path path_;
     int error_ = 0;
-    int lock_ = -1;
+    std::optional<FileLock> lock_;
 };
 
 } // namespace gtk

@@ -65,7 +65,7 @@ WebEngine::WebEngine(
     : paths_(std::move(paths))
     , certificate_(std::move(certificate))
     , isAccelerated_(isAccelerated)
-    , offscreenTurns_(std::make_shared<Turns>(offscreenCount, offscreenPatience))
+    , offscreenLoads_(std::make_shared<LoadLimiter>(offscreenCount, offscreenPatience))
 {
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/gtk/appkit/PrintChoice.h"
 #include "platform/gtk/foundation/StandardPaths.h"
-#include "platform/gtk/webkit/FrontPage.h"
-#include "platform/gtk/webkit/HostTrust.h"
-#include "platform/gtk/webkit/Patience.h"
+#include "platform/gtk/network/HostTrust.h"
+#include "platform/gtk/printing/PrintChoice.h"
+#include "platform/gtk/webkit/LoadLimiter.h"
+#include "platform/gtk/webkit/PageTimeouts.h"
 #include "platform/gtk/webkit/ProcessSharing.h"
-#include "platform/gtk/webkit/Turns.h"
+#include "platform/gtk/webkit/VisiblePage.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
 #include <memory>
@@ -45,31 +45,31 @@ public:
 
     // Whether the web view in front shows a page that has been loaded to its end; the signal tells
     // each change.
-    bool isFrontPageReady() const { return frontPage_->isReady(); }
-    sigc::signal<void()>& signalFrontPageChanged() { return frontPage_->signalChanged(); }
+    bool isVisiblePageReady() const { return visiblePage_->isReady(); }
+    sigc::signal<void()>& signalVisiblePageChanged() { return visiblePage_->signalChanged(); }
 
     ObjectPointer<WebKitNetworkSession> session(platform::WKWebsiteDataStore store);
     ObjectPointer<WebKitSettings> makeSettings(const platform::WKPreferences& preferences) const;
-    const std::shared_ptr<Turns>& offscreenTurns() const { return offscreenTurns_; }
+    const std::shared_ptr<LoadLimiter>& offscreenLoads() const { return offscreenLoads_; }
     const std::shared_ptr<PrintChoice>& printChoice() const { return printChoice_; }
-    const std::shared_ptr<FrontPage>& frontPage() const { return frontPage_; }
+    const std::shared_ptr<VisiblePage>& visiblePage() const { return visiblePage_; }
     std::shared_ptr<const HostTrust> trust();
 
     // Of the views on the persistent store.
     const std::shared_ptr<ProcessSharing>& sharing() const { return sharing_; }
 
     // For views made from now on.
-    const Patience& patience() const { return patience_; }
-    void setPatience(const Patience& patience) { patience_ = patience; }
+    const PageTimeouts& patience() const { return patience_; }
+    void setPatience(const PageTimeouts& patience) { patience_ = patience; }
 
 private:
     const StandardPaths paths_;
     const std::optional<HostCertificate> certificate_;
     const bool isAccelerated_;
-    Patience patience_;
+    PageTimeouts patience_;
     std::shared_ptr<ProcessSharing> sharing_ = std::make_shared<ProcessSharing>();
-    std::shared_ptr<FrontPage> frontPage_ = std::make_shared<FrontPage>();
-    const std::shared_ptr<Turns> offscreenTurns_;
+    std::shared_ptr<VisiblePage> visiblePage_ = std::make_shared<VisiblePage>();
+    const std::shared_ptr<LoadLimiter> offscreenLoads_;
     const std::shared_ptr<PrintChoice> printChoice_ = std::make_shared<PrintChoice>();
     std::shared_ptr<const HostTrust> trust_; // read with the first session
     ObjectPointer<WebKitNetworkSession> session_; // made when first needed

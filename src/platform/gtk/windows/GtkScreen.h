@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/appkit/NSScreen.h"
+
+#include <gdkmm/monitor.h>
+
+namespace gtk {
+
+// One monitor of the display. It belongs to the monitor and goes when that is unplugged.
+class GtkScreen final : public platform::NSScreen {
+public:
+    // The one whose lower left corner is the origin: the user's primary monitor where the desktop
+    // has one. Null without a monitor, and before the toolkit has started.
+    static GtkScreen* first();
+
+    // The one that holds the largest part of `surface`; null when it is on none.
+    static GtkScreen* of(GdkSurface* surface);
+
+    platform::NSRect visibleFrame() const override;
+
+    // The whole monitor, in points of the desktop.
+    Gdk::Rectangle geometry() const;
+
+private:
+    explicit GtkScreen(GdkMonitor* monitor)
+        : monitor_(monitor)
+    {
+    }
+
+    static GtkScreen* of(GdkMonitor* monitor);
+
+    GdkMonitor* monitor_; // owns this
+};
+
+} // namespace gtk

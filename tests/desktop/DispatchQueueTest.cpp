@@ -1,0 +1,118 @@
+#include "platform/gtk/foundation/GtkDispatchQueue.h"
+
+#include "harness/MainLoop.h"
+
+#include <glib.h>
+#include <gtest/gtest.h>
+#include <numeric>
+#include <optional>
+#include <thread>
+
+namespace gtk {
+
+using desktop::runWaitingEvents;
+using desktop::until;
+
+TEST(GtkDispatchQueue, tasksRunInTheirOrderAndNotBeforeTheCurrentEventIsHandled)
+{
+    GtkDispatchQueue queue;
+    std::vector<int> order;
+    queue.async([&] {
+        queue.async([&] { order.push_back(3); });
+        order.push_back(1);
+    });
+    queue.async([&] { order.push_back(2); });
+    EXPECT_TRUE(order.empty());
+    runWaitingEvents();
+    EXPECT_EQ(order, (std::vector{1, 2, 3}));
+}
+
+TEST(GtkDispatchQueue, idleTasksWaitForTheEndOfTheStartAndForAllOthers)
+{
+    GtkDispatchQueue queue;
+    std::string order;
+    queue.asyncWhenIdle([&] {
+        order += 'c';
+        queue.asyncWhenIdle([&] { order += 'e'; });
+        queue.async([&] { order += 'd'; });
+    });
+    queue.async([&] { order += 'a'; });
+    runWaitingEvents();
+    EXPECT_EQ(order, "a");
+
+    queue.endStart();
+    queue.async([&] { order += 'b'; });
+    runWaitingEvents();
+    EXPECT_EQ(order.substr(0, 3), "abc");
+    EXPECT_EQ(order.size(), 5u);
+}
+
+TEST(GtkDispatchQueue, tasksOfAnotherThreadRunOnThisOneInTheirOrder)
+{
+    GtkDispatchQueue queue;
+    constexpr int count = 1000;
+    std::vector<int> order;
+    bool isDone = false;
+    bool isOnMainThread = true;
+    const auto mainThread = std::this_thread::get_id();
+
+    std::thread other([&] {
+        for (int i = 0; i < count; ++i) {
+            queue.async([&, i] {
+                isOnMainThread = isOnMainThread && std::this_thread::get_id() == mainThread;
+                order.push_back(i);
+                isDone = i == count - 1;
+            });
+        }
+    });
+    ASSERT_TRUE(until([&] { return isDone; }));
+    other.join();
+
+    std::vector<int> expected(count);
+    std::iota(expected.begin(), expected.end(), 0);
+    EXPECT_EQ(order, expected);
+    EXPECT_TRUE(isOnMainThread);
+}
+
+TEST(GtkDispatchQueue, laterTasksRunAndNeverEarly)
+{
+    GtkDispatchQueue queue;
+    int count = 0;
+    const auto start = g_get_monotonic_time();
+    bool isDone = false;
+    bool isEarly = false;
+    for (const double delay : {0.02, 0.0105, 0.0, -1.0}) {
+        queue.asyncAfter(delay, [&, delay] {
+            isEarly = isEarly || static_cast<double>(g_get_monotonic_time() - start) < delay * 1e6;
+            isDone = ++count == 4;
+        });
+    }
+    ASSERT_TRUE(until([&] { return isDone; }));
+    EXPECT_FALSE(isEarly);
+}
+
+TEST(GtkDispatchQueue, tasksGoOnWhileOneOfThemWaitsInALoopOfItsOwn)
+{
+    GtkDispatchQueue queue;
+    bool isAlertClosed = false;
+    bool hasReturned = false;
+    queue.async([&] {
+        EXPECT_TRUE(until([&] { return isAlertClosed; }));
+        hasReturned = true;
+    });
+    queue.async([&] { isAlertClosed = true; });
+    EXPECT_TRUE(until([&] { return hasReturned; }));
+}
+
+TEST(GtkDispatchQueue, waitingTasksAreDroppedWithTheQueue)
+{
+    std::optional<GtkDispatchQueue> queue(std::in_place);
+    bool hasRun = false;
+    queue->async([&] { hasRun = true; });
+    queue->asyncAfter(0, [&] { hasRun = true; });
+    queue.reset();
+    runWaitingEvents();
+    EXPECT_FALSE(hasRun);
+}
+
+} // namespace gtk

@@ -1,0 +1,255 @@
+#include "platform/gtk/foundation/GtkUserDefaults.h"
+
+#include "harness/Files.h"
+#include "harness/MainLoop.h"
+#include "platform/gtk/foundation/GtkDispatchQueue.h"
+
+#include <csignal>
+#include <fstream>
+#include <glib.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+namespace gtk {
+
+namespace {
+
+using desktop::contentsOf;
+using desktop::until;
+using Json = nlohmann::json;
+using Strings = std::vector<std::string>;
+
+platform::Data bytes(std::string_view text)
+{
+    const auto* first = reinterpret_cast<const std::byte*>(text.data());
+    return {first, first + text.size()};
+}
+
+ino_t inodeOf(const std::filesystem::path& path)
+{
+    struct stat status { };
+    ::stat(path.c_str(), &status);
+    return status.st_ino;
+}
+
+} // namespace
+
+class UserDefaultsTest : public testing::Test {
+protected:
+    UserDefaultsTest()
+    {
+        auto name = (std::filesystem::temp_directory_path() / "settings-XXXXXX").string();
+        folder = ::mkdtemp(name.data());
+        path = folder / "config" / "settings.json";
+        open();
+    }
+
+    ~UserDefaultsTest() override
+    {
+        settings.reset();
+        std::filesystem::remove_all(folder);
+    }
+
+    void open()
+    {
+        settings.reset();
+        settings = std::make_unique<GtkUserDefaults>(
+            path, queue, [this](const auto& line) { log.push_back(line); });
+    }
+
+    void write(const std::string& text)
+    {
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream(path) << text;
+    }
+
+    Json stored() const { return Json::parse(contentsOf(path), nullptr, false); }
+
+    GtkDispatchQueue queue;
+    std::filesystem::path folder;
+    std::filesystem::path path;
+    Strings log;
+    std::unique_ptr<GtkUserDefaults> settings;
+};
+
+TEST_F(UserDefaultsTest, valuesOfEachTypeComeBack)
+{
+    settings->setStringArray("routes", {"drives", "", "ü \"\\\n"});
+    settings->setInteger("active", -3);
+    settings->setBoolean("shown", true);
+    settings->setData("identity", bytes("{\"firstname\": \"\xff\"}"));
+    settings->setData("nothing", {});
+    settings->setInteger("removed", 1);
+    settings->removeObject("removed");
+    open();
+
+    EXPECT_EQ(settings->stringArray("routes"), (Strings{"drives", "", "ü \"\\\n"}));
+    EXPECT_EQ(settings->integer("active"), -3);
+    EXPECT_TRUE(settings->boolean("shown"));
+    EXPECT_EQ(settings->data("identity"), bytes("{\"firstname\": \"\xff\"}"));
+    EXPECT_EQ(settings->data("nothing"), platform::Data());
+    EXPECT_FALSE(settings->contains("removed"));
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(UserDefaultsTest, theFileIsReadableAndTheUsersAlone)
+{
+    settings->setData("identity", bytes("abc"));
+    settings->setBoolean("shown", false);
+    settings->flush();
+
+    EXPECT_EQ(contentsOf(path),
+        "{\n  \"identity\": {\n    \"data\": \"YWJj\"\n  },\n  \"shown\": false\n}\n");
+    struct stat status { };
+    ASSERT_EQ(::stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600u);
+}
+
+TEST_F(UserDefaultsTest, aMemberOfAnotherTypeIsAnAbsence)
+{
+    struct Case {
+        const char* json;
+        bool isStringArray;
+        std::int64_t integer;
+        bool boolean;
+        bool isData;
+    };
+    constexpr Case cases[] = {
+        {"null", false, 0, false, false},
+        {"true", false, 0, true, false},
+        {"\"7\"", false, 0, false, false},
+        {"[]", true, 0, false, false},
+        {"[\"a\", 1]", false, 0, false, false},
+        {"2.9", false, 2, true, false},
+        {"-2.9", false, -2, true, false},
+        {"0.0", false, 0, false, false},
+        {"18446744073709551615", false, INT64_MAX, true, false},
+        {"1e300", false, INT64_MAX, true, false},
+        {"-1e300", false, INT64_MIN, true, false},
+        {"{\"data\": \"YWJj\"}", false, 0, false, true},
+        {"{\"data\": \"YW?Jj\"}", false, 0, false, false},
+        {"{\"data\": \"YWJj\", \"more\": 1}", false, 0, false, false},
+        {"{\"data\": 1}", false, 0, false, false},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.json);
+        write("{\"key\": " + std::string(test.json) + "}");
+        open();
+        EXPECT_TRUE(settings->contains("key"));
+        EXPECT_EQ(settings->stringArray("key").has_value(), test.isStringArray);
+        EXPECT_EQ(settings->integer("key"), test.integer);
+        EXPECT_EQ(settings->boolean("key"), test.boolean);
+        EXPECT_EQ(settings->data("key").has_value(), test.isData);
+    }
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(UserDefaultsTest, aFolderInThePlaceOfTheFileIsKeptAside)
+{
+    std::filesystem::create_directories(path / "inside");
+    settings->setInteger("active", 2);
+    settings->flush();
+    EXPECT_EQ(stored(), (Json{{"active", 2}}));
+    EXPECT_TRUE(std::filesystem::exists(path.string() + ".damaged/inside"));
+}
+
+TEST_F(UserDefaultsTest, changesDuringAWriteAreWrittenToo)
+{
+    for (int i = 0; i < 50; ++i) {
+        settings->setInteger("active", i);
+        g_main_context_iteration(nullptr, FALSE);
+    }
+    EXPECT_TRUE(until([&] { return stored() == Json{{"active", 49}}; }));
+}
+
+TEST_F(UserDefaultsTest, settingWhatIsSetWritesNothing)
+{
+    settings->setInteger("active", 1);
+    settings->flush();
+    const auto inode = inodeOf(path);
+    settings->setInteger("active", 1);
+    settings->removeObject("absent");
+    settings->flush();
+    EXPECT_EQ(inodeOf(path), inode);
+}
+
+TEST_F(UserDefaultsTest, aFullDiskLosesNothing)
+{
+    settings->setInteger("active", 1);
+    settings->flush();
+
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit previous{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &previous), 0);
+    const rlimit tiny{.rlim_cur = 8, .rlim_max = previous.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &tiny), 0);
+    for (int i = 2; i < 10; ++i)
+        settings->setInteger("active", i);
+    const bool isLogged = until([&] { return !log.empty(); });
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &previous), 0);
+
+    EXPECT_TRUE(isLogged);
+    EXPECT_EQ(log.size(), 1u) << "eight changes of one turn are one failure";
+    EXPECT_EQ(stored(), (Json{{"active", 1}}));
+    EXPECT_EQ(settings->integer("active"), 9);
+    const std::filesystem::directory_iterator files(path.parent_path());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "half a file is left behind";
+
+    settings->flush(); // there is room again
+    EXPECT_EQ(stored(), (Json{{"active", 9}}));
+}
+
+TEST_F(UserDefaultsTest, aFolderThatCannotBeMadeIsOnlyLogged)
+{
+    std::ofstream(folder / "config") << "a file where the folder should be";
+    settings->setInteger("active", 1);
+    settings->flush();
+    EXPECT_EQ(log.size(), 1u);
+    EXPECT_EQ(settings->integer("active"), 1);
+}
+
+TEST_F(UserDefaultsTest, aSymbolicLinkIsKept)
+{
+    const auto target = folder / "elsewhere" / "mine.json";
+    std::filesystem::create_directories(path.parent_path());
+    std::filesystem::create_symlink("../elsewhere/mine.json", path); // leads nowhere yet
+    for (int i = 0; i < 2; ++i) {
+        settings->setInteger("active", i);
+        settings->flush();
+        EXPECT_TRUE(std::filesystem::is_symlink(path));
+        EXPECT_EQ(Json::parse(contentsOf(target)), (Json{{"active", i}}));
+    }
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(UserDefaultsTest, aKillAtAnyMomentLeavesAWholeFile)
+{
+    const Strings routes(2000, "drives");
+    settings->setStringArray("routes", routes);
+    settings->setInteger("active", 0);
+    settings->flush();
+
+    for (int i = 0; i < 20; ++i) {
+        const auto child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            for (int j = 0;; ++j) {
+                settings->setInteger("active", j);
+                settings->flush();
+            }
+        }
+        g_usleep(1000 + static_cast<gulong>(i) * 700);
+        ::kill(child, SIGKILL);
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+
+        const auto text = stored();
+        ASSERT_TRUE(text.is_object());
+        EXPECT_EQ(text["routes"], routes);
+        EXPECT_TRUE(text["active"].is_number());
+    }
+}
+
+} // namespace gtk
