@@ -107,8 +107,9 @@ protected:
             gtk::UpdateOptions{
                 .feed = feed,
                 .publicKey = publicKey,
-                .certificate = gtk::HostCertificate{{"velmaro.localhost"},
-                    environment.at("VELMARO_SERVICE_CERTIFICATE")},
+                .trust =
+                    std::make_shared<gtk::HostTrust>(std::vector<std::string>{"velmaro.localhost"},
+                        environment.at("VELMARO_SERVICE_CERTIFICATE")),
                 .userAgent = "test",
                 .version = "1",
                 .displayVersion = "1.0.0",

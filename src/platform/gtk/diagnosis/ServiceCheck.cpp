@@ -26,7 +26,7 @@ constexpr Flaw flaws[] = {
 
 // What became of the certificate that the server has shown.
 struct Trust {
-    HostTrust own; // what the user trusts beside the system
+    const HostTrust& own; // what the user trusts beside the system
     GTlsCertificateFlags refusal = {}; // nothing when it was accepted
 };
 
@@ -34,8 +34,8 @@ gboolean judge(
     SoupMessage* message, GTlsCertificate* certificate, GTlsCertificateFlags refusal, gpointer data)
 {
     auto& trust = *static_cast<Trust*>(data);
-    g_autofree char* address = g_uri_to_string(soup_message_get_uri(message));
-    const bool isAccepted = trust.own.vouchesFor(certificate, address);
+    const char* host = g_uri_get_host(soup_message_get_uri(message));
+    const bool isAccepted = trust.own.vouchesFor(certificate, host);
     trust.refusal = isAccepted ? GTlsCertificateFlags{} : refusal;
     return isAccepted;
 }
@@ -97,9 +97,9 @@ Finding serviceFinding(
 } // namespace
 
 std::vector<Finding> checkService(
-    const std::string& origin, const std::optional<HostCertificate>& certificate)
+    const std::string& origin, const std::shared_ptr<const HostTrust>& hostTrust)
 {
-    Trust trust = {.own = HostTrust(certificate)};
+    Trust trust = {.own = *hostTrust};
     const ObjectPointer<SoupSession> session(soup_session_new_with_options(
         "timeout", patience, "user-agent", "VelmaroOnline/" VELMARO_VERSION, nullptr));
     const ObjectPointer<SoupMessage> message(

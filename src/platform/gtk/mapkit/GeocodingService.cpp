@@ -22,16 +22,14 @@ std::string withoutSlashAtTheEnd(std::string address)
 gboolean acceptCertificate(
     SoupMessage* message, GTlsCertificate* refused, GTlsCertificateFlags, gpointer trust)
 {
-    const std::unique_ptr<char, decltype(&g_free)> address(
-        g_uri_to_string(soup_message_get_uri(message)), g_free);
-    return static_cast<const HostTrust*>(trust)->vouchesFor(refused, address.get());
+    const char* host = g_uri_get_host(soup_message_get_uri(message));
+    return static_cast<const HostTrust*>(trust)->vouchesFor(refused, host);
 }
 
 } // namespace
 
 GeocodingService::GeocodingService(Options options, GtkURLCache& cache)
     : options_(std::move(options))
-    , trust_(options_.certificate)
     , cache_(cache)
 {
 }
@@ -51,7 +49,7 @@ GeocodingService::Question GeocodingService::search(
     ObjectPointer<SoupMessage> message(soup_message_new(SOUP_METHOD_GET, address.c_str()));
     if (message) {
         g_signal_connect(message.get(), "accept-certificate", G_CALLBACK(acceptCertificate),
-            const_cast<HostTrust*>(&trust_));
+            const_cast<HostTrust*>(options_.trust.get()));
     }
     return HttpExchange::start(session(), std::move(message), std::move(handler));
 }

@@ -6,7 +6,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace gtk {
@@ -18,7 +17,7 @@ public:
     struct Options {
         std::string address; // such as "https://photon.example"; "/api" follows
         std::string userAgent; // who asks
-        std::optional<HostCertificate> certificate = std::nullopt;
+        std::shared_ptr<const HostTrust> trust = std::make_shared<HostTrust>();
         unsigned secondsToWait = 10; // while nothing at all comes from the service
     };
 
@@ -40,7 +39,6 @@ private:
     SoupSession* session();
 
     const Options options_;
-    const HostTrust trust_;
     GtkURLCache& cache_;
     ObjectPointer<SoupSession> session_; // null until the first question
 };

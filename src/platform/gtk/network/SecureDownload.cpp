@@ -140,8 +140,8 @@ void SecureDownload::redirected(SoupMessage* message, gpointer data)
 gboolean SecureDownload::acceptCertificate(
     SoupMessage* message, GTlsCertificate* refused, GTlsCertificateFlags, gpointer trust)
 {
-    g_autofree char* address = g_uri_to_string(soup_message_get_uri(message));
-    return static_cast<const HostTrust*>(trust)->vouchesFor(refused, address);
+    const char* host = g_uri_get_host(soup_message_get_uri(message));
+    return static_cast<const HostTrust*>(trust)->vouchesFor(refused, host);
 }
 
 } // namespace gtk

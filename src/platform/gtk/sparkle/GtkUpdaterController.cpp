@@ -31,7 +31,6 @@ std::string inMegabytes(std::uint64_t bytes)
 GtkUpdaterController::GtkUpdaterController(UpdateOptions options, Services services)
     : options_(std::move(options))
     , services_(services)
-    , trust_(options_.certificate)
     , window_([this] { return services_.store.boolean(checksAutomaticallyKey); },
           [this](bool isAllowed) { setChecksAutomatically(isAllowed); })
 {
@@ -130,11 +129,12 @@ void GtkUpdaterController::check(Cause cause)
 void GtkUpdaterController::fetchFeed()
 {
     services_.store.setInteger(lastCheckKey, std::time(nullptr));
-    feedDownload_ = std::make_unique<SecureDownload>(options_.feed, options_.userAgent, trust_,
-        SecureDownload::Handlers{
-            .receive = [this](std::string_view bytes) { return receiveFeed(bytes); },
-            .finish = [this](const Failure& failure) { feedFetched(failure); },
-        });
+    feedDownload_ =
+        std::make_unique<SecureDownload>(options_.feed, options_.userAgent, *options_.trust,
+            SecureDownload::Handlers{
+                .receive = [this](std::string_view bytes) { return receiveFeed(bytes); },
+                .finish = [this](const Failure& failure) { feedFetched(failure); },
+            });
 }
 
 GtkUpdaterController::Failure GtkUpdaterController::receiveFeed(std::string_view bytes)
@@ -205,7 +205,7 @@ void GtkUpdaterController::fetchPackage()
     progress(0);
     isHandedOver_ = false;
     packageDownload_ =
-        std::make_unique<PackageDownload>(item_, packagePath(), options_.userAgent, trust_,
+        std::make_unique<PackageDownload>(item_, packagePath(), options_.userAgent, *options_.trust,
             PackageDownload::Handlers{
                 .progress = progress,
                 .finish = [this](const Failure& failure) { packageFetched(failure); },

@@ -75,7 +75,6 @@ private:
 
     const UpdateOptions options_;
     const Services services_;
-    const HostTrust trust_;
     UpdateWindow window_;
 
     // Of the check that goes on.

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/gtk/foundation/Sandboxing.h"
-#include "platform/gtk/network/HostCertificate.h"
+#include "platform/gtk/network/HostTrust.h"
 
 #include <filesystem>
-#include <optional>
+#include <memory>
 #include <string>
 
 namespace gtk {
@@ -13,7 +13,7 @@ namespace gtk {
 struct UpdateOptions {
     std::string feed; // https address; empty: the application does not update itself
     std::string publicKey; // Ed25519, in Base64; likewise
-    std::optional<HostCertificate> certificate = std::nullopt; // trusted beside the system's
+    std::shared_ptr<const HostTrust> trust;
     std::string userAgent; // who asks
 
     std::string version; // of the running program, as builds are counted
