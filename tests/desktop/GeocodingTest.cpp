@@ -103,9 +103,7 @@ protected:
     {
         return std::make_unique<gtk::GtkLocalSearchCompleter>(
             std::make_shared<gtk::GeocodingService>(
-                gtk::GeocodingService::Options{
-                    .address = address, .userAgent = "test", .secondsToWait = 1},
-                cache),
+                gtk::GeocodingService::Options{.address = address, .secondsToWait = 1}, cache),
             pause);
     }
 
@@ -310,9 +308,8 @@ TEST_F(GeocodingTest, theUsersCertificateCountsForItsHostOnly)
     for (const auto& [address, hosts, isTrusted] : cases) {
         gtk::GtkLocalSearchCompleter completer(
             std::make_shared<gtk::GeocodingService>(
-                gtk::GeocodingService::Options{.address = address,
-                    .userAgent = "test",
-                    .trust = std::make_shared<gtk::HostTrust>(hosts, path)},
+                gtk::GeocodingService::Options{
+                    .address = address, .trust = std::make_shared<gtk::HostTrust>(hosts, path)},
                 cache),
             pause);
         completer.setDelegate(&listener);

@@ -197,7 +197,6 @@ std::shared_ptr<platform::MKLocalSearchCompleter> GtkPlatform::makeLocalSearchCo
         geocodingService_ = std::make_shared<GeocodingService>(
             GeocodingService::Options{
                 .address = options_.geocoder,
-                .userAgent = "VelmaroOnline/" VELMARO_VERSION,
                 .trust = trust_,
             },
             *responseCache_);
