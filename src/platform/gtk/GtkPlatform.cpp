@@ -221,11 +221,10 @@ std::shared_ptr<platform::SPUStandardUpdaterController> GtkPlatform::makeUpdater
     };
     std::error_code ignored; // a program that cannot be found belongs to nobody
     auto updater = std::make_shared<GtkUpdaterController>(
-        UpdateOptions{
+        GtkUpdaterController::Options{
             .feed = options_.updateFeed,
             .publicKey = options_.updateKey,
             .trust = trust_,
-            .userAgent = "VelmaroOnline/" VELMARO_VERSION,
             .version = bundleText("CFBundleVersion"),
             .displayVersion = bundleText("CFBundleShortVersionString"),
             .downloads = standardPaths().cache / updatesName,
