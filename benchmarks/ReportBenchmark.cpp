@@ -142,7 +142,8 @@ int main(int argumentCount, char** arguments)
     const auto program = Gtk::Application::create();
     if (rounds < 1 || !gtk_init_check())
         return 2;
-    gtk::WebEngine engine(gtk::StandardPaths::forProgram("report-benchmark"), std::nullopt, false);
+    gtk::WebEngine engine(gtk::StandardPaths::forProgram("report-benchmark"),
+        std::make_shared<gtk::HostTrust>(), false);
 
     struct Contender {
         const char* name;

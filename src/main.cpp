@@ -98,7 +98,7 @@ int main(int argumentCount, char** arguments)
         ownHosts.insert(ownHosts.end(), named.begin(), named.end());
     }
     if (const char* path = std::getenv("VELMARO_SERVICE_CERTIFICATE")) {
-        if (const auto failure = platform.trust({ownHosts, path}))
+        if (const auto failure = platform.trust(ownHosts, path))
             return fail("VELMARO_SERVICE_CERTIFICATE cannot be used: " + *failure);
     }
     platform.expectHost(service.serviceHost());

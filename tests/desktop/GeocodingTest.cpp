@@ -103,9 +103,7 @@ protected:
     {
         return std::make_unique<gtk::GtkLocalSearchCompleter>(
             std::make_shared<gtk::GeocodingService>(
-                gtk::GeocodingService::Options{
-                    .address = address, .userAgent = "test", .secondsToWait = 1},
-                cache),
+                gtk::GeocodingService::Options{.address = address, .secondsToWait = 1}, cache),
             pause);
     }
 
@@ -296,22 +294,22 @@ TEST_F(GeocodingTest, theUsersCertificateCountsForItsHostOnly)
     const auto elsewhere = "https://elsewhere.localhost:" + std::to_string(service.port());
     struct Case {
         std::string address;
-        std::optional<gtk::HostCertificate> certificate;
+        Texts hosts; // that the certificate is trusted for
         bool isTrusted;
     };
     const auto path = environment.at("VELMARO_SERVICE_CERTIFICATE");
     const Case cases[] = {
-        {service.origin(), gtk::HostCertificate{{host}, path}, true},
-        {service.origin() + "/", gtk::HostCertificate{{host}, path}, true},
-        {service.origin(), std::nullopt, false},
-        {elsewhere, gtk::HostCertificate{{host}, path}, false},
-        {service.origin(), gtk::HostCertificate{{"elsewhere.localhost"}, path}, false},
+        {service.origin(), {host}, true},
+        {service.origin() + "/", {host}, true},
+        {service.origin(), {}, false},
+        {elsewhere, {host}, false},
+        {service.origin(), {"elsewhere.localhost"}, false},
     };
-    for (const auto& [address, certificate, isTrusted] : cases) {
+    for (const auto& [address, hosts, isTrusted] : cases) {
         gtk::GtkLocalSearchCompleter completer(
             std::make_shared<gtk::GeocodingService>(
                 gtk::GeocodingService::Options{
-                    .address = address, .userAgent = "test", .certificate = certificate},
+                    .address = address, .trust = std::make_shared<gtk::HostTrust>(hosts, path)},
                 cache),
             pause);
         completer.setDelegate(&listener);

@@ -64,8 +64,8 @@ protected:
         auto& hosts = velmaro::Service::current();
         hosts.setServiceOrigin(service.origin());
         hosts.setPaymentCheckoutHosts("pay.localhost sandbox.pay.localhost");
-        platform_.trust({{"velmaro.localhost", "pay.localhost", "sandbox.pay.localhost"},
-            service.clientEnvironment().at("VELMARO_SERVICE_CERTIFICATE")});
+        platform_.trust({"velmaro.localhost", "pay.localhost", "sandbox.pay.localhost"},
+            service.clientEnvironment().at("VELMARO_SERVICE_CERTIFICATE"));
         const velmaro::WebView tab{std::make_shared<velmaro::WebModel>("fuel")};
         coordinator_ = tab.makeCoordinator();
         view = tab.makeNSView(*coordinator_);

@@ -104,12 +104,12 @@ protected:
     {
         const auto environment = service.clientEnvironment();
         return std::make_unique<gtk::GtkUpdaterController>(
-            gtk::UpdateOptions{
+            gtk::GtkUpdaterController::Options{
                 .feed = feed,
                 .publicKey = publicKey,
-                .certificate = gtk::HostCertificate{{"velmaro.localhost"},
-                    environment.at("VELMARO_SERVICE_CERTIFICATE")},
-                .userAgent = "test",
+                .trust =
+                    std::make_shared<gtk::HostTrust>(std::vector<std::string>{"velmaro.localhost"},
+                        environment.at("VELMARO_SERVICE_CERTIFICATE")),
                 .version = "1",
                 .displayVersion = "1.0.0",
                 .downloads = downloads,

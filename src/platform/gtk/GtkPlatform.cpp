@@ -17,6 +17,7 @@
 #include "platform/gtk/launch/Application.h"
 #include "platform/gtk/mapkit/GtkLocalSearch.h"
 #include "platform/gtk/mapkit/GtkLocalSearchCompleter.h"
+#include "platform/gtk/network/HostTrust.h"
 #include "platform/gtk/panels/AlertPresenter.h"
 #include "platform/gtk/panels/OpenPanel.h"
 #include "platform/gtk/panels/PermissionsPanel.h"
@@ -70,6 +71,7 @@ GtkPlatform::GtkPlatform(Options options)
     , workspace_(std::make_unique<GtkWorkspace>())
     , alerts_(std::make_unique<AlertPresenter>())
     , rendererSafeguard_(std::make_unique<RendererSafeguard>(standardPaths(), *mainQueue_))
+    , trust_(std::make_shared<HostTrust>())
 {
     settings_->whenChanged([] {
         platform::NotificationCenter::defaultCenter().post(
@@ -91,24 +93,17 @@ int GtkPlatform::diagnose(const std::string& serviceOrigin)
 {
     return Diagnosis::run({
         .serviceOrigin = serviceOrigin,
-        .certificate = certificate_,
+        .trust = trust_,
         .downloads = files_->downloadsDirectory(false)->path(),
         .renderer = rendererSafeguard_->choice(),
     });
 }
 
-std::optional<std::string> GtkPlatform::trust(HostCertificate certificate)
+std::optional<std::string> GtkPlatform::trust(
+    std::vector<std::string> hosts, const std::string& path)
 {
-    GError* error = nullptr;
-    auto* found = g_tls_certificate_new_from_file(certificate.path.c_str(), &error);
-    if (!found) {
-        const std::string reason = error->message;
-        g_error_free(error);
-        return reason;
-    }
-    g_object_unref(found);
-    certificate_ = std::move(certificate);
-    return std::nullopt;
+    trust_ = std::make_shared<HostTrust>(std::move(hosts), path);
+    return trust_->problem();
 }
 
 GtkDispatchQueue& GtkPlatform::mainQueue()
@@ -202,8 +197,7 @@ std::shared_ptr<platform::MKLocalSearchCompleter> GtkPlatform::makeLocalSearchCo
         geocodingService_ = std::make_shared<GeocodingService>(
             GeocodingService::Options{
                 .address = options_.geocoder,
-                .userAgent = "VelmaroOnline/" VELMARO_VERSION,
-                .certificate = certificate_,
+                .trust = trust_,
             },
             *responseCache_);
     }
@@ -227,11 +221,10 @@ std::shared_ptr<platform::SPUStandardUpdaterController> GtkPlatform::makeUpdater
     };
     std::error_code ignored; // a program that cannot be found belongs to nobody
     auto updater = std::make_shared<GtkUpdaterController>(
-        UpdateOptions{
+        GtkUpdaterController::Options{
             .feed = options_.updateFeed,
             .publicKey = options_.updateKey,
-            .certificate = certificate_,
-            .userAgent = "VelmaroOnline/" VELMARO_VERSION,
+            .trust = trust_,
             .version = bundleText("CFBundleVersion"),
             .displayVersion = bundleText("CFBundleShortVersionString"),
             .downloads = standardPaths().cache / updatesName,
@@ -281,7 +274,7 @@ WebEngine& GtkPlatform::webEngine()
 {
     if (!webEngine_)
         webEngine_ = std::make_unique<WebEngine>(
-            standardPaths(), certificate_, usesGraphicsProcessor(rendererSafeguard_->choice()));
+            standardPaths(), trust_, usesGraphicsProcessor(rendererSafeguard_->choice()));
     return *webEngine_;
 }
 

@@ -2,7 +2,6 @@
 
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/gtk/foundation/GtkDispatchQueue.h"
-#include "platform/gtk/network/HostCertificate.h"
 #include "platform/Platform.h"
 
 #include <optional>
@@ -14,6 +13,7 @@ class Appearance;
 class Application;
 class GtkFileManager;
 class GeocodingService;
+class HostTrust;
 class LocationServices;
 class GtkProcessInfo;
 class PermissionsPanel;
@@ -42,9 +42,10 @@ public:
     explicit GtkPlatform(Options options);
     ~GtkPlatform() override;
 
-    // Trusts a certificate for its hosts and no others. Why that cannot be done, when its file
-    // holds none. To be called before the application runs.
-    std::optional<std::string> trust(HostCertificate certificate);
+    // Trusts the certificate in the PEM file at `path`, and those that it has issued, for `hosts`
+    // and no others. Returns why that cannot be done; absent when it can. To be called before the
+    // application runs.
+    std::optional<std::string> trust(std::vector<std::string> hosts, const std::string& path);
 
     // Tells whose pages will be shown first, so that its address is looked up while the program
     // starts. To be called before the application runs.
@@ -131,7 +132,7 @@ private:
     std::unique_ptr<RendererSafeguard> rendererSafeguard_;
     std::unique_ptr<Appearance> appearance_;
     std::unique_ptr<SharePanel> sharing_; // the one shown last
-    std::optional<HostCertificate> certificate_;
+    std::shared_ptr<const HostTrust> trust_;
     std::string expectedHost_;
     std::unique_ptr<WebEngine> webEngine_;
     std::unique_ptr<GtkUserDefaults> permissions_; // on first use, like the two below

@@ -79,9 +79,9 @@ protected:
         engine.reset();
         const gtk::StandardPaths paths{
             .config = folder_ / "config", .data = folder_ / "data", .cache = folder_ / "cache"};
-        const gtk::HostCertificate certificate{
-            {"localhost"}, writeFile("trusted.pem", trustedCertificate)};
-        engine = std::make_unique<gtk::WebEngine>(paths, certificate, false);
+        const auto trust = std::make_shared<gtk::HostTrust>(
+            std::vector<std::string>{"localhost"}, writeFile("trusted.pem", trustedCertificate));
+        engine = std::make_unique<gtk::WebEngine>(paths, trust, false);
         engine->setPatience(patience);
     }
 

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "platform/gtk/diagnosis/Check.h"
-#include "platform/gtk/network/HostCertificate.h"
 #include "platform/gtk/renderer/RendererChoice.h"
 
 #include <filesystem>
-#include <optional>
+#include <memory>
 
 namespace gtk {
+
+class HostTrust;
 
 // What support wants to know, one function for each thing that can be looked at by itself. They
 // block; each belongs into a process of its own (CheckProcess).
@@ -36,6 +37,6 @@ std::vector<Finding> checkDownloads(const std::filesystem::path& folder);
 // Whether the service at `origin` answers, and what its certificate says. Nothing is sent that
 // tells who asks.
 std::vector<Finding> checkService(
-    const std::string& origin, const std::optional<HostCertificate>& certificate);
+    const std::string& origin, const std::shared_ptr<const HostTrust>& trust);
 
 } // namespace gtk

@@ -38,7 +38,7 @@ std::vector<Check> checks(const Options& options)
         {
             .title = "Service",
             .patience = servicePatience,
-            .look = [&] { return checkService(options.serviceOrigin, options.certificate); },
+            .look = [&] { return checkService(options.serviceOrigin, options.trust); },
             .adviceWhenStuck = "Check the connection to the Internet, and a proxy or firewall.",
         },
     };

@@ -9,7 +9,7 @@ namespace Diagnosis {
 
 struct Options {
     std::string serviceOrigin;
-    std::optional<HostCertificate> certificate; // beside the system's
+    std::shared_ptr<const HostTrust> trust;
     std::filesystem::path downloads;
     RendererChoice renderer = RendererChoice::hardware;
 };

@@ -1,14 +1,14 @@
 #include "platform/gtk/diagnosis/Checks.h"
-#include "platform/gtk/network/HostTrust.h"
+#include "platform/gtk/network/HttpRequest.h"
 
-#include <libsoup/soup.h>
+#include <glibmm/main.h>
 
 namespace gtk {
 
 namespace {
 
-constexpr guint patience = 5; // seconds; less than the check has
-constexpr gint64 renewalDays = 14; // before its end a certificate should have been renewed
+constexpr unsigned patience = 5; // seconds; less than the check has
+constexpr gint64 renewalDays = 14; // a certificate should be renewed so long before its end
 
 struct Flaw {
     GTlsCertificateFlags flag;
@@ -23,22 +23,6 @@ constexpr Flaw flaws[] = {
     {G_TLS_CERTIFICATE_UNKNOWN_CA, "its issuer is not trusted"},
     {G_TLS_CERTIFICATE_INSECURE, "its signature is too weak"},
 };
-
-// What became of the certificate that the server has shown.
-struct Trust {
-    HostTrust own; // what the user trusts beside the system
-    GTlsCertificateFlags refusal = {}; // nothing when it was accepted
-};
-
-gboolean judge(
-    SoupMessage* message, GTlsCertificate* certificate, GTlsCertificateFlags refusal, gpointer data)
-{
-    auto& trust = *static_cast<Trust*>(data);
-    g_autofree char* address = g_uri_to_string(soup_message_get_uri(message));
-    const bool isAccepted = trust.own.vouchesFor(certificate, address);
-    trust.refusal = isAccepted ? GTlsCertificateFlags{} : refusal;
-    return isAccepted;
-}
 
 const char* flawOf(GTlsCertificateFlags refusal)
 {
@@ -75,20 +59,19 @@ Finding certificateFinding(GTlsCertificate* certificate, GTlsCertificateFlags re
     return result;
 }
 
-Finding serviceFinding(
-    const std::string& origin, SoupMessage* message, const GError* error, const Trust& trust)
+Finding serviceFinding(const std::string& origin, const HttpRequest& request,
+    const std::optional<HttpRequest::Failure>& failure)
 {
-    if (trust.refusal) {
+    if (request.certificateFlaws()) {
         return {"Service", origin + " answers, but cannot prove that it is the service",
             Verdict::problem, "Nothing is sent to it; see its certificate."};
     }
-    if (error) {
-        return {"Service", origin + " cannot be reached: " + error->message, Verdict::problem,
+    if (failure && failure->reason == HttpRequest::Failure::Reason::noAnswer) {
+        return {"Service", origin + " cannot be reached: " + failure->detail, Verdict::problem,
             "Check the connection to the Internet, and a proxy or firewall."};
     }
-    const auto status = soup_message_get_status(message);
-    auto finding = origin + " answers (" + std::to_string(status) + ")";
-    if (SOUP_STATUS_IS_SUCCESSFUL(status))
+    auto finding = origin + " answers (" + std::to_string(request.status()) + ")";
+    if (SOUP_STATUS_IS_SUCCESSFUL(request.status()))
         return {"Service", std::move(finding)};
     return {"Service", std::move(finding), Verdict::problem,
         "The service has no page to show at the moment. Try again later."};
@@ -97,23 +80,30 @@ Finding serviceFinding(
 } // namespace
 
 std::vector<Finding> checkService(
-    const std::string& origin, const std::optional<HostCertificate>& certificate)
+    const std::string& origin, const std::shared_ptr<const HostTrust>& trust)
 {
-    Trust trust = {.own = HostTrust(certificate)};
-    const ObjectPointer<SoupSession> session(soup_session_new_with_options(
-        "timeout", patience, "user-agent", "VelmaroOnline/" VELMARO_VERSION, nullptr));
-    const ObjectPointer<SoupMessage> message(
-        soup_message_new(SOUP_METHOD_GET, (origin + "/online").c_str()));
-    g_signal_connect(message.get(), "accept-certificate", G_CALLBACK(judge), &trust);
+    // Waits for the answer alone: what the program has queued is not for this process.
+    const auto context = Glib::MainContext::create();
+    const auto loop = Glib::MainLoop::create(context);
+    context->push_thread_default();
 
-    // The answer's first bytes say enough.
-    g_autoptr(GError) error = nullptr;
-    const ObjectPointer<GInputStream> stream(
-        soup_session_send(session.get(), message.get(), nullptr, &error));
+    const auto session = HttpRequest::makeSession(patience);
+    std::optional<HttpRequest::Failure> failure;
+    const HttpRequest request(session.get(), {.address = origin + "/online", .trust = trust},
+        {
+            .receive = [](std::string_view) { return false; },
+            .finish =
+                [&](auto reason) {
+                    failure = std::move(reason);
+                    loop->quit();
+                },
+        });
+    loop->run();
+    context->pop_thread_default();
 
-    std::vector<Finding> findings = {serviceFinding(origin, message.get(), error, trust)};
-    if (auto* shown = soup_message_get_tls_peer_certificate(message.get()))
-        findings.push_back(certificateFinding(shown, trust.refusal));
+    std::vector<Finding> findings = {serviceFinding(origin, request, failure)};
+    if (auto* shown = request.certificate())
+        findings.push_back(certificateFinding(shown, request.certificateFlaws()));
     return findings;
 }
 

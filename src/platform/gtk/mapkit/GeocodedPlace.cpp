@@ -12,14 +12,14 @@ using platform::Value;
 
 namespace {
 
-// Where the number of a house comes before the name of its street.
+// In these countries the number of a house comes before the name of its street.
 constexpr std::string_view numberFirstCountries[] = {
     "AU", "CA", "FR", "GB", "IE", "IN", "LU", "MC", "NZ", "SG", "US", "ZA"};
 
-// The keys of the map data for what is part of an address rather than somewhere to go.
+// The map data gives these keys to what is part of an address rather than somewhere to go.
 constexpr std::string_view addressKeys[] = {"place", "highway", "boundary", "building"};
 
-// Those that take more than one byte.
+// Characters that end a line, besides the control characters.
 constexpr std::string_view lineBreaks[] = {"\u0085", "\u2028", "\u2029"};
 
 constexpr const char* areaNames[] = {"city", "state", "country"};
@@ -29,7 +29,7 @@ template <class Names> bool contains(const Names& names, const std::string& name
     return std::ranges::find(names, name) != std::end(names);
 }
 
-// A text of one line: scripts and rows that show it have no room for more.
+// Reads a text and makes it one line, since scripts and rows have no room for more.
 std::string text(const Value& properties, const char* name)
 {
     const auto* member = properties.member(name);
@@ -54,7 +54,7 @@ std::string streetAddress(const Value& properties)
                                                                            : street + " " + number;
 }
 
-// The parts that say something, each once.
+// Joins the parts that are not empty, each of them once, and without `title`.
 std::string joined(const std::vector<std::string>& parts, const std::string& title)
 {
     std::vector<std::string> said = {"", title};

@@ -15,9 +15,9 @@ struct GeocodedPlace {
     platform::CLLocationCoordinate2D coordinate;
     bool isAddress = false; // a house, a street, a town…; else a point of interest
 
-    // The places in an answer, in its order. Entries without a name or without a place on the globe
-    // are left out, and so are those that read like an earlier one. Absent when the answer is no
-    // list of places.
+    // Reads the places in an answer, in its order. Entries without a name or without a place on the
+    // globe are left out, and so are those that read like an earlier one. Absent if the answer is
+    // not a list of places.
     static std::optional<std::vector<GeocodedPlace>> fromAnswer(const std::string& json);
 
     bool operator==(const GeocodedPlace&) const = default;

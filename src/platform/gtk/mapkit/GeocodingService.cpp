@@ -4,12 +4,13 @@ namespace gtk {
 
 namespace {
 
+constexpr std::uint64_t largestAnswer = 1'000'000; // bytes
+
 std::string escaped(const std::string& text)
 {
-    const std::unique_ptr<char, decltype(&g_free)> result(
-        g_uri_escape_bytes(reinterpret_cast<const guint8*>(text.data()), text.size(), nullptr),
-        g_free);
-    return result.get();
+    g_autofree char* result =
+        g_uri_escape_bytes(reinterpret_cast<const guint8*>(text.data()), text.size(), nullptr);
+    return result;
 }
 
 std::string withoutSlashAtTheEnd(std::string address)
@@ -19,48 +20,61 @@ std::string withoutSlashAtTheEnd(std::string address)
     return address;
 }
 
-gboolean acceptCertificate(
-    SoupMessage* message, GTlsCertificate* refused, GTlsCertificateFlags, gpointer trust)
+platform::NSError explanation(const HttpRequest::Failure& failure)
 {
-    const std::unique_ptr<char, decltype(&g_free)> address(
-        g_uri_to_string(soup_message_get_uri(message)), g_free);
-    return static_cast<const HostTrust*>(trust)->vouchesFor(refused, address.get());
+    using enum HttpRequest::Failure::Reason;
+    switch (failure.reason) {
+    case badAddress:
+        return {"The address search is set up with an invalid address."};
+    case badStatus:
+        return {"The address search failed (" + failure.detail + ")."};
+    case tooLong:
+        return {"The address search answered too much."};
+    case noAnswer:
+    case brokenOff:
+    case refused:
+        break;
+    }
+    return {failure.detail};
 }
 
 } // namespace
 
 GeocodingService::GeocodingService(Options options, GtkURLCache& cache)
     : options_(std::move(options))
-    , trust_(options_.certificate)
     , cache_(cache)
 {
-}
-
-GeocodingService::~GeocodingService()
-{
-    if (session_)
-        soup_session_abort(session_.get());
 }
 
 GeocodingService::Question GeocodingService::search(
     const std::string& text, int limit, Handler handler)
 {
-    const auto address = withoutSlashAtTheEnd(options_.address) + "/api?q=" + escaped(text)
-        + "&limit=" + std::to_string(limit);
-    // Null when the address is none.
-    ObjectPointer<SoupMessage> message(soup_message_new(SOUP_METHOD_GET, address.c_str()));
-    if (message) {
-        g_signal_connect(message.get(), "accept-certificate", G_CALLBACK(acceptCertificate),
-            const_cast<HostTrust*>(&trust_));
-    }
-    return HttpExchange::start(session(), std::move(message), std::move(handler));
+    const auto body = std::make_shared<std::string>();
+    return std::make_unique<HttpRequest>(session(),
+        HttpRequest::Options{
+            .address = withoutSlashAtTheEnd(options_.address) + "/api?q=" + escaped(text)
+                + "&limit=" + std::to_string(limit),
+            .mostBytes = largestAnswer,
+            .trust = options_.trust,
+        },
+        HttpRequest::Handlers{
+            .receive =
+                [body](std::string_view bytes) {
+                    body->append(bytes);
+                    return true;
+                },
+            .finish =
+                [body, handler = std::move(handler)](const auto& failure) {
+                    handler(failure ? Answer(explanation(*failure)) : Answer(*body));
+                },
+        });
 }
 
 SoupSession* GeocodingService::session()
 {
     if (!session_) {
-        session_.reset(soup_session_new_with_options("timeout", options_.secondsToWait,
-            "user-agent", options_.userAgent.c_str(), "accept-language-auto", TRUE, nullptr));
+        session_ = HttpRequest::makeSession(options_.secondsToWait);
+        g_object_set(session_.get(), "accept-language-auto", TRUE, nullptr);
         cache_.attach(session_.get());
     }
     return session_.get();

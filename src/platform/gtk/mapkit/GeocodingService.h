@@ -1,13 +1,13 @@
 #pragma once
 
+#include "platform/foundation/NSError.h"
 #include "platform/gtk/network/GtkURLCache.h"
-#include "platform/gtk/network/HostTrust.h"
-#include "platform/gtk/network/HttpExchange.h"
+#include "platform/gtk/network/HttpRequest.h"
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
+#include <variant>
 
 namespace gtk {
 
@@ -17,20 +17,19 @@ class GeocodingService {
 public:
     struct Options {
         std::string address; // such as "https://photon.example"; "/api" follows
-        std::string userAgent; // who asks
-        std::optional<HostCertificate> certificate = std::nullopt;
+        std::shared_ptr<const HostTrust> trust = std::make_shared<HostTrust>(); // never null
         unsigned secondsToWait = 10; // while nothing at all comes from the service
     };
 
-    using Answer = HttpExchange::Answer;
+    // The text of an answer, or why it did not come.
+    using Answer = std::variant<std::string, platform::NSError>;
     using Handler = std::function<void(const Answer&)>;
 
     // A question that waits for its answer. Dropping it takes the question back.
-    using Question = std::shared_ptr<void>;
+    using Question = std::unique_ptr<HttpRequest>;
 
     // `cache` must outlive this.
     GeocodingService(Options options, GtkURLCache& cache);
-    ~GeocodingService();
 
     // Asks for at most `limit` places, best first. `handler` is called once, later; not when the
     // question was taken back.
@@ -40,7 +39,6 @@ private:
     SoupSession* session();
 
     const Options options_;
-    const HostTrust trust_;
     GtkURLCache& cache_;
     ObjectPointer<SoupSession> session_; // null until the first question
 };

@@ -1,6 +1,6 @@
 #include "platform/gtk/mapkit/GtkLocalSearch.h"
 
-#include "platform/gtk/mapkit/GtkLocalSearchCompletion.h"
+#include "platform/gtk/mapkit/GtkLocalSearchCompleter.h"
 
 namespace gtk {
 

@@ -1,7 +1,6 @@
 #include "platform/gtk/mapkit/GtkLocalSearchCompleter.h"
 
 #include "platform/foundation/Unicode.h"
-#include "platform/gtk/mapkit/GtkLocalSearchCompletion.h"
 #include "platform/mapkit/MKLocalSearchCompleterDelegate.h"
 
 namespace gtk {

@@ -1,10 +1,23 @@
 #pragma once
 
 #include "platform/gtk/foundation/Timer.h"
+#include "platform/gtk/mapkit/GeocodedPlace.h"
 #include "platform/gtk/mapkit/GeocodingService.h"
 #include "platform/mapkit/MKLocalSearchCompleter.h"
 
 namespace gtk {
+
+// A suggestion that knows where its place is: the service tells that along with the name.
+class GtkLocalSearchCompletion final : public platform::MKLocalSearchCompletion {
+public:
+    explicit GtkLocalSearchCompletion(const GeocodedPlace& place)
+        : MKLocalSearchCompletion(place.title, place.subtitle)
+        , coordinate(place.coordinate)
+    {
+    }
+
+    const platform::CLLocationCoordinate2D coordinate;
+};
 
 // Suggests places that a geocoding service finds. It asks when the typing pauses, one question at a
 // time: a new text takes the last question back, so no answer can come out of order.
@@ -35,7 +48,7 @@ private:
     std::string queryFragment_;
     platform::MKLocalSearchCompletions results_;
     Timer timer_; // runs from a key to the question
-    GeocodingService::Question question_; // the one that waits; null when none does
+    GeocodingService::Question question_; // about the text; null until the typing pauses
 };
 
 } // namespace gtk

@@ -19,8 +19,8 @@ GtkURLCache::~GtkURLCache()
 
 void GtkURLCache::removeAllCachedResponses()
 {
-    std::error_code error; // means that there is nothing
-    if (!cache_ && !std::filesystem::exists(folder_, error))
+    std::error_code ignored; // a folder that cannot be looked at holds nothing
+    if (!cache_ && !std::filesystem::exists(folder_, ignored))
         return;
     soup_cache_clear(cache());
     soup_cache_dump(cache());

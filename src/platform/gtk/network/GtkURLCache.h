@@ -8,8 +8,8 @@
 
 namespace gtk {
 
-// Answers of network services, in a folder of their own for as long as the services allow. The
-// folder is not touched before the first use.
+// Keeps answers of network services for as long as the services allow, in a folder of their own.
+// The folder is not touched before the first use.
 class GtkURLCache final : public platform::URLCache {
 public:
     explicit GtkURLCache(std::filesystem::path folder);
@@ -19,7 +19,7 @@ public:
 
     void removeAllCachedResponses() override;
 
-    // Has `session` keep its answers here and look here first.
+    // Makes `session` look here before it asks a server, and keep the answers here.
     void attach(SoupSession* session);
 
 private:

@@ -1,6 +1,7 @@
 #include "platform/gtk/sparkle/GtkUpdaterController.h"
 
 #include "platform/appkit/NSWorkspace.h"
+#include "platform/gtk/foundation/ProgramOutput.h"
 #include "platform/sparkle/SUAppcast.h"
 #include "platform/sparkle/SUEdSignature.h"
 #include "platform/sparkle/SUVersionComparison.h"
@@ -15,7 +16,7 @@ using platform::SUAppcastItem;
 
 namespace {
 
-constexpr std::size_t largestFeed = 1'000'000; // bytes
+constexpr std::uint64_t largestFeed = 1'000'000; // bytes
 constexpr std::uint64_t largestPackage = 512'000'000; // bytes
 constexpr std::time_t day = 24L * 60 * 60; // seconds
 constexpr auto packageName = "velmaro-online.deb";
@@ -28,10 +29,9 @@ std::string inMegabytes(std::uint64_t bytes)
 
 } // namespace
 
-GtkUpdaterController::GtkUpdaterController(UpdateOptions options, Services services)
+GtkUpdaterController::GtkUpdaterController(Options options, Services services)
     : options_(std::move(options))
     , services_(services)
-    , trust_(options_.certificate)
     , window_([this] { return services_.store.boolean(checksAutomaticallyKey); },
           [this](bool isAllowed) { setChecksAutomatically(isAllowed); })
 {
@@ -41,10 +41,7 @@ void GtkUpdaterController::start()
 {
     if (!canCheckForUpdates())
         return;
-    services_.queue.asyncWhenIdle([this, life = std::weak_ptr(life_)] {
-        if (!life.expired())
-            startNow();
-    });
+    services_.queue.asyncWhenIdle(lifetime_.guard([this] { startNow(); }));
 }
 
 bool GtkUpdaterController::canCheckForUpdates() const
@@ -64,19 +61,27 @@ void GtkUpdaterController::checkForUpdates()
 
 void GtkUpdaterController::startNow()
 {
-    ownerSearch_ = findInstallationOwner(
-        options_.executable, options_.isSandboxed, [this](InstallationOwner owner) {
-            if (owner != InstallationOwner::nobody || window_.isOpen())
-                return;
-            auto& store = services_.store;
-            if (store.contains(checksAutomaticallyKey)) {
-                if (isCheckDue())
-                    check(Cause::schedule);
-            } else if (store.boolean(hasLaunchedKey)) {
-                askForPermission();
-            } else {
-                store.setBoolean(hasLaunchedKey, true);
-            }
+    findInstallationOwner([this](InstallationOwner owner) {
+        if (owner != InstallationOwner::nobody || window_.isOpen())
+            return;
+        auto& store = services_.store;
+        if (store.contains(checksAutomaticallyKey)) {
+            if (isCheckDue())
+                check(Cause::schedule);
+        } else if (store.boolean(hasLaunchedKey)) {
+            askForPermission();
+        } else {
+            store.setBoolean(hasLaunchedKey, true);
+        }
+    });
+}
+
+void GtkUpdaterController::findInstallationOwner(std::function<void(InstallationOwner)> handler)
+{
+    using enum InstallationOwner;
+    ownerSearch_ = runProgram({"dpkg-query", "--search", options_.executable},
+        [this, handler = std::move(handler)](const auto& packages) {
+            handler(options_.isSandboxed ? flatpak : packages ? packageManager : nobody);
         });
 }
 
@@ -118,36 +123,37 @@ void GtkUpdaterController::check(Cause cause)
     cause_ = cause;
     if (cause_ == Cause::user)
         showChecking();
-    ownerSearch_ = findInstallationOwner(
-        options_.executable, options_.isSandboxed, [this](InstallationOwner owner) {
-            if (owner == InstallationOwner::nobody)
-                fetchFeed();
-            else
-                showOwner(owner);
-        });
+    findInstallationOwner([this](InstallationOwner owner) {
+        if (owner == InstallationOwner::nobody)
+            fetchFeed();
+        else
+            showOwner(owner);
+    });
 }
 
 void GtkUpdaterController::fetchFeed()
 {
     services_.store.setInteger(lastCheckKey, std::time(nullptr));
-    feedDownload_ = std::make_unique<SecureDownload>(options_.feed, options_.userAgent, trust_,
-        SecureDownload::Handlers{
-            .receive = [this](std::string_view bytes) { return receiveFeed(bytes); },
+    feedRequest_ = std::make_unique<UpdateRequest>(
+        UpdateRequest::Options{
+            .address = options_.feed,
+            .trust = options_.trust,
+            .mostBytes = largestFeed,
+            .tooLong = "The list of updates is too large to be one.",
+        },
+        UpdateRequest::Handlers{
+            .receive =
+                [this](std::string_view bytes) {
+                    feed_ += bytes;
+                    return true;
+                },
             .finish = [this](const Failure& failure) { feedFetched(failure); },
         });
 }
 
-GtkUpdaterController::Failure GtkUpdaterController::receiveFeed(std::string_view bytes)
-{
-    feed_ += bytes;
-    if (feed_.size() > largestFeed)
-        return NSError{"The list of updates is too large to be one."};
-    return std::nullopt;
-}
-
 void GtkUpdaterController::feedFetched(const Failure& failure)
 {
-    feedDownload_.reset();
+    feedRequest_.reset();
     if (failure)
         return showFailure(*failure);
     const auto appcast = platform::SUAppcast::parse(feed_);
@@ -203,36 +209,33 @@ void GtkUpdaterController::fetchPackage()
             inMegabytes(bytes) + " of " + inMegabytes(item_.contentLength));
     };
     progress(0);
-    isHandedOver_ = false;
-    packageDownload_ =
-        std::make_unique<PackageDownload>(item_, packagePath(), options_.userAgent, trust_,
-            PackageDownload::Handlers{
-                .progress = progress,
-                .finish = [this](const Failure& failure) { packageFetched(failure); },
-            });
+    package_ = std::make_unique<UpdatePackage>(
+        UpdatePackage::Options{
+            .item = item_,
+            .file = packagePath(),
+            .trust = options_.trust,
+            .publicKey = options_.publicKey,
+            .runningVersion = options_.displayVersion,
+        },
+        services_.queue,
+        UpdatePackage::Handlers{
+            .progress = progress,
+            .finish = [this](const Failure& failure) { packageFetched(failure); },
+        });
 }
 
 void GtkUpdaterController::packageFetched(const Failure& failure)
 {
-    packageDownload_.reset();
-    if (failure)
-        return refuse(*failure);
-    packageCheck_ = std::make_unique<PackageCheck>(packagePath(),
-        PackageCheck::Expectation{item_, options_.publicKey, options_.displayVersion},
-        services_.queue, [this](const Failure& flaw) { flaw ? refuse(*flaw) : handOver(); });
-}
-
-void GtkUpdaterController::refuse(const NSError& flaw)
-{
-    removePackage();
-    showFailure(flaw);
+    if (!failure)
+        return handOver();
+    package_.reset();
+    showFailure(*failure);
 }
 
 void GtkUpdaterController::handOver()
 {
     const auto package = platform::URL::fileURL(packagePath().string());
     services_.workspace.open(package);
-    isHandedOver_ = true;
     window_.show({
         .title = "Velmaro Online " + item_.displayVersionString + " is ready to install",
         .text = "The update was verified and handed to your system\u2019s installer. Follow its "
@@ -308,20 +311,10 @@ void GtkUpdaterController::showFailure(const NSError& failure)
 void GtkUpdaterController::endSession()
 {
     ownerSearch_.reset();
-    feedDownload_.reset();
-    const bool isUnfinished = (packageDownload_ || packageCheck_) && !isHandedOver_;
-    packageDownload_.reset();
-    packageCheck_.reset();
-    if (isUnfinished)
-        removePackage();
+    feedRequest_.reset();
+    package_.reset();
     feed_.clear();
     window_.close();
-}
-
-void GtkUpdaterController::removePackage()
-{
-    std::error_code ignored; // there may be none
-    std::filesystem::remove(packagePath(), ignored);
 }
 
 bool GtkUpdaterController::isSkipped(const SUAppcastItem& item) const

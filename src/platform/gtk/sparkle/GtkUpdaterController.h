@@ -2,10 +2,8 @@
 
 #include "platform/foundation/DispatchQueue.h"
 #include "platform/foundation/UserDefaults.h"
-#include "platform/gtk/sparkle/InstallationOwner.h"
-#include "platform/gtk/sparkle/PackageCheck.h"
-#include "platform/gtk/sparkle/PackageDownload.h"
-#include "platform/gtk/sparkle/UpdateOptions.h"
+#include "platform/gtk/foundation/Sandboxing.h"
+#include "platform/gtk/sparkle/UpdatePackage.h"
 #include "platform/gtk/sparkle/UpdateWindow.h"
 #include "platform/sparkle/SPUStandardUpdaterController.h"
 #include "platform/sparkle/SPUUpdater.h"
@@ -21,6 +19,20 @@ namespace gtk {
 class GtkUpdaterController final : public platform::SPUStandardUpdaterController,
                                    public platform::SPUUpdater {
 public:
+    // Where newer versions come from, and what they are compared with.
+    struct Options {
+        std::string feed; // https address; empty: the application does not update itself
+        std::string publicKey; // Ed25519, in Base64; likewise
+        std::shared_ptr<const HostTrust> trust; // never null
+
+        std::string version; // of the running program, as builds are counted
+        std::string displayVersion; // as people know it
+
+        std::filesystem::path downloads; // folder for packages, of the user alone
+        std::filesystem::path executable; // of the running program
+        bool isSandboxed = gtk::isSandboxed();
+    };
+
     // Keys of the store.
     static constexpr auto hasLaunchedKey = "hasLaunched";
     static constexpr auto checksAutomaticallyKey = "checksAutomatically"; // once the user decided
@@ -34,7 +46,7 @@ public:
         platform::NSWorkspace& workspace; // opens packages
     };
 
-    GtkUpdaterController(UpdateOptions options, Services services);
+    GtkUpdaterController(Options options, Services services);
 
     // To be called once. In the second launch, asks whether it may look by itself; where it may,
     // does so in an idle moment, at most once a day.
@@ -46,21 +58,32 @@ public:
 
 private:
     enum class Cause { user, schedule };
+
+    // What has installed the program on this computer, and so brings its newer versions.
+    enum class InstallationOwner {
+        nobody, // it may update itself
+        packageManager,
+        flatpak,
+    };
+
     using Failure = std::optional<platform::NSError>;
 
     void startNow();
+
+    // Asks Debian's package manager, unless Flatpak runs the program. `handler` is called once,
+    // later; not any more when the session has ended.
+    void findInstallationOwner(std::function<void(InstallationOwner)> handler);
+
     bool isCheckDue() const;
     void askForPermission();
     void setChecksAutomatically(bool isAllowed);
 
     void check(Cause cause);
     void fetchFeed();
-    Failure receiveFeed(std::string_view bytes);
     void feedFetched(const Failure& failure);
     void offer(const platform::SUAppcastItem& item);
     void fetchPackage();
     void packageFetched(const Failure& failure);
-    void refuse(const platform::NSError& flaw);
     void handOver();
 
     void showOwner(InstallationOwner owner);
@@ -68,14 +91,12 @@ private:
     void showNothingNewer(const platform::SUAppcastItem* newest);
     void showFailure(const platform::NSError& failure);
     void endSession();
-    void removePackage();
 
     bool isSkipped(const platform::SUAppcastItem& item) const;
     std::filesystem::path packagePath() const;
 
-    const UpdateOptions options_;
+    const Options options_;
     const Services services_;
-    const HostTrust trust_;
     UpdateWindow window_;
 
     // Of the check that goes on.
@@ -83,12 +104,10 @@ private:
     std::string feed_;
     platform::SUAppcastItem item_;
     std::shared_ptr<void> ownerSearch_;
-    std::unique_ptr<SecureDownload> feedDownload_;
-    std::unique_ptr<PackageDownload> packageDownload_;
-    std::unique_ptr<PackageCheck> packageCheck_;
-    bool isHandedOver_ = false; // the installer has the package
+    std::unique_ptr<UpdateRequest> feedRequest_;
+    std::unique_ptr<UpdatePackage> package_;
 
-    std::shared_ptr<void> life_ = std::make_shared<char>();
+    Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -61,9 +61,9 @@ ObjectPointer<WebKitNetworkSession> makePersistentSession(const StandardPaths& p
 } // namespace
 
 WebEngine::WebEngine(
-    StandardPaths paths, std::optional<HostCertificate> certificate, bool isAccelerated)
+    StandardPaths paths, std::shared_ptr<const HostTrust> trust, bool isAccelerated)
     : paths_(std::move(paths))
-    , certificate_(std::move(certificate))
+    , trust_(std::move(trust))
     , isAccelerated_(isAccelerated)
     , offscreenLoads_(std::make_shared<LoadLimiter>(offscreenCount, offscreenPatience))
 {
@@ -103,7 +103,7 @@ ObjectPointer<WebKitNetworkSession> WebEngine::session(platform::WKWebsiteDataSt
     auto session = isPersistent
         ? makePersistentSession(paths_)
         : ObjectPointer<WebKitNetworkSession>(webkit_network_session_new_ephemeral());
-    trust()->apply(session.get());
+    trust_->apply(session.get());
     PageDownloads::refuseOthers(session.get());
     if (isPersistent)
         session_ = retain(session.get());
@@ -121,13 +121,6 @@ ObjectPointer<WebKitSettings> WebEngine::makeSettings(
         webkit_settings_set_hardware_acceleration_policy(
             settings.get(), WEBKIT_HARDWARE_ACCELERATION_POLICY_NEVER);
     return settings;
-}
-
-std::shared_ptr<const HostTrust> WebEngine::trust()
-{
-    if (!trust_)
-        trust_ = std::make_shared<HostTrust>(certificate_);
-    return trust_;
 }
 
 } // namespace gtk

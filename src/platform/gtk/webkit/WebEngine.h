@@ -20,7 +20,7 @@ public:
     // Cookies and storage go to the folder "web" of the program's data, and of its caches. Where
     // web views cannot be drawn by a graphics processor, `isAccelerated` is false. Nothing is
     // started yet.
-    WebEngine(StandardPaths paths, std::optional<HostCertificate> certificate, bool isAccelerated);
+    WebEngine(StandardPaths paths, std::shared_ptr<const HostTrust> trust, bool isAccelerated);
     ~WebEngine();
 
     WebEngine(const WebEngine&) = delete;
@@ -53,7 +53,7 @@ public:
     const std::shared_ptr<LoadLimiter>& offscreenLoads() const { return offscreenLoads_; }
     const std::shared_ptr<PrintChoice>& printChoice() const { return printChoice_; }
     const std::shared_ptr<VisiblePage>& visiblePage() const { return visiblePage_; }
-    std::shared_ptr<const HostTrust> trust();
+    const std::shared_ptr<const HostTrust>& trust() const { return trust_; }
 
     // Of the views on the persistent store.
     const std::shared_ptr<ProcessSharing>& sharing() const { return sharing_; }
@@ -64,14 +64,13 @@ public:
 
 private:
     const StandardPaths paths_;
-    const std::optional<HostCertificate> certificate_;
+    const std::shared_ptr<const HostTrust> trust_;
     const bool isAccelerated_;
     PageTimeouts patience_;
     std::shared_ptr<ProcessSharing> sharing_ = std::make_shared<ProcessSharing>();
     std::shared_ptr<VisiblePage> visiblePage_ = std::make_shared<VisiblePage>();
     const std::shared_ptr<LoadLimiter> offscreenLoads_;
     const std::shared_ptr<PrintChoice> printChoice_ = std::make_shared<PrintChoice>();
-    std::shared_ptr<const HostTrust> trust_; // read with the first session
     ObjectPointer<WebKitNetworkSession> session_; // made when first needed
     ObjectPointer<WebKitWebView> spareView_;
 };
