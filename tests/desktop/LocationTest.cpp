@@ -4,8 +4,8 @@
 #include "harness/FakeLocationPortal.h"
 #include "harness/MainLoop.h"
 #include "platform/corelocation/CLLocationManagerDelegate.h"
+#include "platform/gtk/corelocation/GtkLocationManager.h"
 #include "platform/gtk/corelocation/LocationServices.h"
-#include "platform/gtk/corelocation/ServiceLocation.h"
 #include "platform/gtk/foundation/GtkDispatchQueue.h"
 #include "platform/gtk/foundation/GtkUserDefaults.h"
 
@@ -73,7 +73,8 @@ protected:
     LocationTest()
     {
         Gio::init();
-        settings.removeObject(gtk::LocationPermission::key); // of an earlier test in this home
+        settings.removeObject(
+            gtk::GtkLocationManager::permissionKey); // of an earlier test in this home
         options.patience.answer = 0.3;
         options.patience.consent = 0.6;
         options.patience.firstLocation = 0.3;
@@ -88,7 +89,7 @@ protected:
         });
     }
 
-    void allow() { settings.setBoolean(gtk::LocationPermission::key, true); }
+    void allow() { settings.setBoolean(gtk::GtkLocationManager::permissionKey, true); }
 
     // Asks for the location once and waits for the end of it.
     Listener request(platform::CLLocationManager& manager)
@@ -128,11 +129,11 @@ TEST_F(LocationTest, aRequestEndsWhateverGeoClueDoes)
         {Manner::grants, {{1, 10, 900}, {2, 20, 5000}, {3, 30, 0}}, {1}, ""}, // nor here
         {Manner::grants, {{1, 10, 0}, {2, 20, 5000}}, {1, 2}, ""}, // accuracy not known
         {Manner::grants, {{nowhere, 10, 60}, {91, 10, 60}, {1, 181, 60}, {4, 180, 60}}, {4}, ""},
-        {Manner::grants, {}, {}, gtk::ServiceLocation::notFoundText},
-        {Manner::denies, {}, {}, gtk::ServiceLocation::refusedText},
-        {Manner::fails, {}, {}, gtk::ServiceLocation::notFoundText},
+        {Manner::grants, {}, {}, gtk::LocationSource::notFoundText},
+        {Manner::denies, {}, {}, gtk::LocationSource::refusedText},
+        {Manner::fails, {}, {}, gtk::LocationSource::notFoundText},
         {Manner::staysSilent, {}, {}, noAnswer},
-        {Manner::neverDecides, {}, {}, gtk::ServiceLocation::notFoundText},
+        {Manner::neverDecides, {}, {}, gtk::LocationSource::notFoundText},
     };
     allow();
     const auto services = makeServices();
@@ -210,7 +211,7 @@ TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)
     for (const bool isAllowed : {true, false}) {
         const auto expected =
             isAllowed ? CLAuthorizationStatus::authorizedAlways : CLAuthorizationStatus::denied;
-        settings.removeObject(gtk::LocationPermission::key);
+        settings.removeObject(gtk::GtkLocationManager::permissionKey);
         questions = 0;
         {
             const auto services = makeServices();
@@ -240,8 +241,8 @@ TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)
         EXPECT_EQ(manager->authorizationStatus(), expected);
         EXPECT_EQ(questions, 1);
         gtk::GtkUserDefaults onDisk(file, queue, [](const auto& line) { ADD_FAILURE() << line; });
-        EXPECT_TRUE(onDisk.contains(gtk::LocationPermission::key));
-        EXPECT_EQ(onDisk.boolean(gtk::LocationPermission::key), isAllowed);
+        EXPECT_TRUE(onDisk.contains(gtk::GtkLocationManager::permissionKey));
+        EXPECT_EQ(onDisk.boolean(gtk::GtkLocationManager::permissionKey), isAllowed);
     }
 }
 
@@ -252,15 +253,15 @@ TEST_F(LocationTest, anAnswerAfterTheEndIsNotHeard)
     ASSERT_TRUE(until([&] { return questions > 0; }));
     services.reset();
     answer(true);
-    EXPECT_FALSE(settings.contains(gtk::LocationPermission::key));
+    EXPECT_FALSE(settings.contains(gtk::GtkLocationManager::permissionKey));
 }
 
 TEST_F(LocationTest, geoClueIsNotAskedWithoutPermission)
 {
     FakeGeoClue geoClue(Manner::grants, {{1, 10, 50}});
-    settings.setBoolean(gtk::LocationPermission::key, false);
+    settings.setBoolean(gtk::GtkLocationManager::permissionKey, false);
     const auto services = makeServices();
-    EXPECT_EQ(request(*services->makeManager()).failure, gtk::ServiceLocation::refusedText);
+    EXPECT_EQ(request(*services->makeManager()).failure, gtk::LocationSource::refusedText);
     EXPECT_TRUE(geoClue.calls().empty());
 }
 
@@ -274,9 +275,9 @@ TEST_F(LocationTest, insideASandboxThePortalDecides)
     };
     const Case cases[] = {
         {PortalManner::grants, {12.5}, ""},
-        {PortalManner::refuses, {}, gtk::ServiceLocation::refusedText},
-        {PortalManner::endsTheSession, {}, gtk::ServiceLocation::refusedText},
-        {PortalManner::neverDecides, {}, gtk::ServiceLocation::notFoundText},
+        {PortalManner::refuses, {}, gtk::LocationSource::refusedText},
+        {PortalManner::endsTheSession, {}, gtk::LocationSource::refusedText},
+        {PortalManner::neverDecides, {}, gtk::LocationSource::notFoundText},
     };
     options.isSandboxed = true;
     const auto services = makeServices();

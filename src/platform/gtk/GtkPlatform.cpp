@@ -3,6 +3,7 @@
 #include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/gtk/corelocation/GtkLocationManager.h"
 #include "platform/gtk/corelocation/LocationServices.h"
 #include "platform/gtk/desktop/Appearance.h"
 #include "platform/gtk/desktop/GtkWorkspace.h"
@@ -323,7 +324,7 @@ LocationServices& GtkPlatform::locationServices()
     if (!locationServices_) {
         locationServices_ = std::make_unique<LocationServices>(
             LocationServices::Options{.identifier = options_.identifier}, *mainQueue_,
-            permissions(), LocationPermission::askUser);
+            permissions(), GtkLocationManager::askUser);
     }
     return *locationServices_;
 }
@@ -370,7 +371,7 @@ void GtkPlatform::showPermissions()
         return alert.runModal([](int) {});
     }
     permissionsPanel_ = std::make_unique<PermissionsPanel>(std::vector<PermissionsPanel::Entry>{
-        {"Use your location", LocationPermission::explanation, locationServices().permission()},
+        {"Use your location", GtkLocationManager::explanation, locationServices().permission()},
         {"Show notifications", GtkUserNotificationCenter::explanation,
             *notificationCenter().permission()},
     });

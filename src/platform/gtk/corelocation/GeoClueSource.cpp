@@ -1,9 +1,7 @@
 #include "platform/gtk/corelocation/GeoClueSource.h"
 
-#include "platform/gtk/corelocation/ServiceLocation.h"
-
 #include <cstdint>
-#include <tuple>
+#include <iterator>
 
 namespace gtk {
 
@@ -38,20 +36,14 @@ std::uint32_t accuracyLevel(double metres)
     return accuracyLevels[std::size(accuracyLevels) - 1].level;
 }
 
-BusConversation::Arguments pathArgument(const std::string& path)
-{
-    return Glib::VariantContainerBase::create_tuple(
-        Glib::Variant<Glib::DBusObjectPathString>::create(path));
-}
-
 } // namespace
 
 GeoClueSource::GeoClueSource(std::string identifier, const LocationTimeouts& patience)
     : identifier_(std::move(identifier))
     , patience_(patience)
-    , conversation_(serviceName, [this](const auto& error) {
+    , conversation_(Gio::DBus::BusType::SYSTEM, serviceName, [this](const auto& error) {
         const auto handler = handlers_.onFailure;
-        handler(ServiceLocation::failureText(error));
+        handler(failureText(error));
     })
 {
 }
@@ -59,42 +51,56 @@ GeoClueSource::GeoClueSource(std::string identifier, const LocationTimeouts& pat
 GeoClueSource::~GeoClueSource()
 {
     // Otherwise the desktop would go on showing that the location is in use.
-    if (!client_.empty())
-        conversation_.tell({managerPath, managerInterface, "DeleteClient"}, pathArgument(client_));
+    if (!client_.empty()) {
+        conversation_.tell(
+            {managerPath, managerInterface, "DeleteClient"}, busValues(BusPath(client_)));
+    }
 }
 
 void GeoClueSource::start(double accuracy, Handlers handlers)
 {
     accuracy_ = accuracy;
     handlers_ = std::move(handlers);
-    conversation_.open(Gio::DBus::BusType::SYSTEM, [this] { requestClient(); });
-}
-
-void GeoClueSource::requestClient()
-{
-    conversation_.call({managerPath, managerInterface, "CreateClient"}, {}, "(o)", patience_.answer,
+    conversation_.call(
+        {
+            .method = {managerPath, managerInterface, "CreateClient"},
+            .resultType = "(o)",
+            .patience = patience_.answer,
+        },
         [this](const auto& results) {
-            client_ = BusConversation::pathIn(results, 0);
+            client_ = child<BusPath>(results, 0);
             configure();
         });
 }
 
 void GeoClueSource::configure()
 {
-    const auto identifier = Glib::Variant<Glib::ustring>::create(identifier_);
-    const auto level = Glib::Variant<guint32>::create(accuracyLevel(accuracy_));
-    setClientProperty("DesktopId", identifier, [this, level] {
-        setClientProperty("RequestedAccuracyLevel", level, [this] { startClient(); });
+    setClientProperty("DesktopId", busValue(identifier_), [this] {
+        setClientProperty("RequestedAccuracyLevel", busValue(accuracyLevel(accuracy_)),
+            [this] { startClient(); });
     });
+}
+
+void GeoClueSource::setClientProperty(
+    const char* name, const Glib::VariantBase& value, std::function<void()> then)
+{
+    conversation_.call(
+        {
+            .method = {client_, propertiesInterface, "Set"},
+            .arguments = busValues(clientInterface, name, value),
+            .patience = patience_.answer,
+        },
+        [then = std::move(then)](const auto&) { then(); });
 }
 
 void GeoClueSource::startClient()
 {
     // Locations may come before the answer to "Start".
     conversation_.listen({client_, clientInterface, "LocationUpdated"}, "(oo)",
-        [this](const auto& values) { readLocation(BusConversation::pathIn(values, 1)); });
+        [this](const auto& values) { readLocation(child<BusPath>(values, 1)); });
     conversation_.call(
-        {client_, clientInterface, "Start"}, {}, "()", patience_.consent, [this](const auto&) {
+        {.method = {client_, clientInterface, "Start"}, .patience = patience_.consent},
+        [this](const auto&) {
             const auto handler = handlers_.onStarted;
             handler();
         });
@@ -102,30 +108,20 @@ void GeoClueSource::startClient()
 
 void GeoClueSource::readLocation(const std::string& path)
 {
-    const auto argument = Glib::VariantContainerBase::create_tuple(
-        Glib::Variant<Glib::ustring>::create(locationInterface));
-    conversation_.call({path, propertiesInterface, "GetAll"}, argument, "(a{sv})", patience_.answer,
+    conversation_.call(
+        {
+            .method = {path, propertiesInterface, "GetAll"},
+            .arguments = busValues(locationInterface),
+            .resultType = "(a{sv})",
+            .patience = patience_.answer,
+        },
         [this](const auto& results) {
-            Glib::Variant<ServiceLocation::Properties> properties;
-            results.get_child(properties, 0);
-            const auto location = ServiceLocation::location(properties.get());
-            if (!location)
+            const auto found = location(child<BusDictionary>(results, 0));
+            if (!found)
                 return;
             const auto handler = handlers_.onLocation;
-            handler(*location);
+            handler(*found);
         });
-}
-
-void GeoClueSource::setClientProperty(
-    const char* name, const Glib::VariantBase& value, std::function<void()> then)
-{
-    const auto arguments = Glib::VariantContainerBase::create_tuple({
-        Glib::Variant<Glib::ustring>::create(clientInterface),
-        Glib::Variant<Glib::ustring>::create(name),
-        Glib::Variant<Glib::VariantBase>::create(value),
-    });
-    conversation_.call({client_, propertiesInterface, "Set"}, arguments, "()", patience_.answer,
-        [then = std::move(then)](const auto&) { then(); });
 }
 
 } // namespace gtk

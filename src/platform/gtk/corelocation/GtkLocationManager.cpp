@@ -1,7 +1,5 @@
 #include "platform/gtk/corelocation/GtkLocationManager.h"
 
-#include "platform/gtk/corelocation/ServiceLocation.h"
-
 #include <limits>
 #include <utility>
 
@@ -12,7 +10,7 @@ using platform::CLLocation;
 
 namespace {
 
-// Metres; without limit when nobody knows.
+// The radius in metres; infinite when the service does not know it.
 double uncertainty(const CLLocation& location)
 {
     return location.horizontalAccuracy < 0 ? std::numeric_limits<double>::infinity()
@@ -21,8 +19,13 @@ double uncertainty(const CLLocation& location)
 
 } // namespace
 
+void GtkLocationManager::askUser(std::function<void(bool isAllowed)> answer)
+{
+    Permission::ask("Allow Velmaro Online to use your location?", explanation, std::move(answer));
+}
+
 GtkLocationManager::GtkLocationManager(
-    LocationPermission* permission, MakeSource makeSource, const LocationTimeouts& patience)
+    Permission* permission, MakeSource makeSource, const LocationTimeouts& patience)
     : permission_(permission)
     , makeSource_(std::move(makeSource))
     , patience_(patience)
@@ -40,9 +43,17 @@ void GtkLocationManager::setDelegate(platform::CLLocationManagerDelegate* delega
     delegate_ = delegate;
 }
 
+std::optional<bool> GtkLocationManager::isAllowed() const
+{
+    return permission_ ? permission_->isAllowed() : true;
+}
+
 CLAuthorizationStatus GtkLocationManager::authorizationStatus() const
 {
-    return permission_ ? permission_->status() : CLAuthorizationStatus::authorizedAlways;
+    const auto decision = isAllowed();
+    if (!decision)
+        return CLAuthorizationStatus::notDetermined;
+    return *decision ? CLAuthorizationStatus::authorizedAlways : CLAuthorizationStatus::denied;
 }
 
 void GtkLocationManager::requestWhenInUseAuthorization()
@@ -53,12 +64,13 @@ void GtkLocationManager::requestWhenInUseAuthorization()
 
 void GtkLocationManager::requestLocation()
 {
-    if (limit_.isRunning()) // as long as a request does
+    const bool isUnderWay = limit_.isRunning();
+    if (isUnderWay)
         return;
-    if (!isAuthorized())
-        return limit_.start(0, [this] { fail(ServiceLocation::refusedText); });
+    if (!isAllowed().value_or(false))
+        return limit_.start(0, [this] { fail(LocationSource::refusedText); });
 
-    limit_.start(patience_.consent, [this] { fail(ServiceLocation::notFoundText); });
+    limit_.start(patience_.consent, [this] { fail(LocationSource::notFoundText); });
     source_ = makeSource_();
     source_->start(desiredAccuracy_,
         {
@@ -66,20 +78,13 @@ void GtkLocationManager::requestLocation()
                 [this] {
                     if (locations_.empty()) {
                         limit_.start(patience_.firstLocation,
-                            [this] { fail(ServiceLocation::notFoundText); });
+                            [this] { fail(LocationSource::notFoundText); });
                     }
                 },
             .onLocation = [this](const auto& location) { consider(location); },
             .onFailure = [this](
                              const auto& reason) { locations_.empty() ? fail(reason) : deliver(); },
         });
-}
-
-bool GtkLocationManager::isAuthorized() const
-{
-    const auto status = authorizationStatus();
-    return status == CLAuthorizationStatus::authorizedAlways
-        || status == CLAuthorizationStatus::authorizedWhenInUse;
 }
 
 void GtkLocationManager::consider(const CLLocation& location)
@@ -105,7 +110,7 @@ void GtkLocationManager::deliver()
 void GtkLocationManager::fail(const std::string& reason)
 {
     limit_.stop();
-    const platform::NSError error{reason}; // the reason may go with the source
+    const platform::NSError error{reason}; // a copy, since the reason may belong to the source
     source_.reset();
     if (delegate_)
         delegate_->locationManagerDidFailWithError(*this, error);

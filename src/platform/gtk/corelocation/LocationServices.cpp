@@ -7,9 +7,9 @@
 namespace gtk {
 
 LocationServices::LocationServices(Options options, platform::DispatchQueue& queue,
-    platform::UserDefaults& store, LocationPermission::Prompt prompt)
+    platform::UserDefaults& store, Permission::Prompt prompt)
     : options_(std::move(options))
-    , permission_(queue, store, std::move(prompt))
+    , permission_(queue, store, GtkLocationManager::permissionKey, std::move(prompt))
 {
 }
 

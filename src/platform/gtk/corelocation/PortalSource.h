@@ -1,8 +1,6 @@
 #pragma once
 
 #include "platform/gtk/corelocation/LocationSource.h"
-#include "platform/gtk/corelocation/LocationTimeouts.h"
-#include "platform/gtk/foundation/BusConversation.h"
 
 namespace gtk {
 
@@ -16,13 +14,11 @@ public:
     void start(double accuracy, Handlers handlers) override;
 
 private:
-    void createSession();
     void startSession();
     void fail(const std::string& reason);
 
     const LocationTimeouts patience_;
     const std::string token_; // names our objects at the portal
-    double accuracy_ = 0; // metres
     Handlers handlers_;
     std::string session_; // path; empty until there is one
     BusConversation conversation_;

@@ -1,5 +1,6 @@
 #include "platform/gtk/desktop/AddressLauncher.h"
 
+#include "platform/gtk/foundation/AsyncCallback.h"
 #include "platform/Platform.h"
 
 #include <gdk/gdk.h>
@@ -11,11 +12,6 @@ namespace {
 
 constexpr std::size_t mostWaiting = 1000;
 constexpr double patience = 10; // seconds; the desktop may ask the user which program to take
-
-struct Attempt {
-    std::weak_ptr<AddressLauncher> launcher;
-    unsigned number;
-};
 
 // Carries the token with which the other program may come forward.
 GAppLaunchContext* makeLaunchContext()
@@ -40,10 +36,7 @@ void AddressLauncher::launch(std::string address)
 
 void AddressLauncher::launchNextWhenIdle()
 {
-    Glib::signal_idle().connect_once([weakSelf = weak_from_this()] {
-        if (const auto self = weakSelf.lock())
-            self->launchNext();
-    });
+    Glib::signal_idle().connect_once(life_.guard([this] { launchNext(); }));
 }
 
 void AddressLauncher::launchNext()
@@ -56,8 +49,16 @@ void AddressLauncher::launchNext()
     waiting_.pop_front();
     patience_.start(patience, [this] { goOn(); });
     g_autoptr(GAppLaunchContext) context = makeLaunchContext();
-    g_app_info_launch_default_for_uri_async(address.c_str(), context, nullptr,
-        &AddressLauncher::didLaunch, new Attempt{weak_from_this(), attempt_});
+    const auto didLaunch =
+        asyncCallback(life_.guard([this, attempt = attempt_](GObject*, GAsyncResult* result) {
+            g_autoptr(GError) error = nullptr;
+            if (!g_app_info_launch_default_for_uri_finish(result, &error))
+                platform::NSLog(std::string("No program opens this address: ") + error->message);
+            if (attempt == attempt_)
+                goOn();
+        }));
+    g_app_info_launch_default_for_uri_async(
+        address.c_str(), context, nullptr, didLaunch.function, didLaunch.data);
 }
 
 void AddressLauncher::goOn()
@@ -65,20 +66,6 @@ void AddressLauncher::goOn()
     ++attempt_;
     patience_.stop();
     launchNextWhenIdle();
-}
-
-void AddressLauncher::didLaunch(GObject*, GAsyncResult* result, gpointer data)
-{
-    const std::unique_ptr<Attempt> attempt(static_cast<Attempt*>(data));
-    g_autoptr(GError) error = nullptr;
-    const bool isLaunched = g_app_info_launch_default_for_uri_finish(result, &error);
-    const auto self = attempt->launcher.lock();
-    if (!self)
-        return;
-    if (!isLaunched)
-        platform::NSLog(std::string("No program opens this address: ") + error->message);
-    if (attempt->number == self->attempt_)
-        self->goOn();
 }
 
 } // namespace gtk

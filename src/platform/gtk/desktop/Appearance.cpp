@@ -47,6 +47,7 @@ bool isColor(const double (&parts)[3])
 
 Appearance::Appearance(std::filesystem::path memory, platform::DispatchQueue& queue)
     : memory_(std::move(memory), queue, platform::NSLog)
+    , portal_(Gio::DBus::BusType::SESSION, "org.freedesktop.portal.Desktop")
 {
 }
 
@@ -56,8 +57,7 @@ void Appearance::follow()
 {
     applyRemembered();
     // Most desktops have no such portal, or none that tells of looks; then GTK's settings hold.
-    portal_.emplace("org.freedesktop.portal.Desktop", [](const Glib::Error&) {});
-    portal_->open(Gio::DBus::BusType::SESSION, [this] { listen(); });
+    portal_.open([this] { listen(); });
 }
 
 void Appearance::applyRemembered()
@@ -68,8 +68,8 @@ void Appearance::applyRemembered()
 
 void Appearance::listen()
 {
-    portal_->listen({desktopPath, settingsInterface, "SettingChanged"}, "(ssv)",
-        [this](const BusConversation::Arguments& values) {
+    portal_.listen({desktopPath, settingsInterface, "SettingChanged"}, "(ssv)",
+        [this](const BusValues& values) {
             const char* area = nullptr;
             const char* key = nullptr;
             g_autoptr(GVariant) value = nullptr;
@@ -78,10 +78,14 @@ void Appearance::listen()
                 changed(key, Glib::VariantBase(value, true));
         });
 
-    auto* wanted = g_variant_new_strv(&appearanceNamespace, 1);
-    const Glib::VariantContainerBase arguments(g_variant_new_tuple(&wanted, 1));
-    portal_->call({desktopPath, settingsInterface, "ReadAll"}, arguments, "(a{sa{sv}})", patience,
-        [this](const BusConversation::Arguments& answer) {
+    portal_.call(
+        {
+            .method = {desktopPath, settingsInterface, "ReadAll"},
+            .arguments = busValues(std::vector<Glib::ustring>{appearanceNamespace}),
+            .resultType = "(a{sa{sv}})",
+            .patience = patience,
+        },
+        [this](const BusValues& answer) {
             g_autoptr(GVariantIter) areas = nullptr;
             g_variant_get(const_cast<GVariant*>(answer.gobj()), "(a{sa{sv}})", &areas);
             GVariantIter* members = nullptr;

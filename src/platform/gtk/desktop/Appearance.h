@@ -3,8 +3,8 @@
 #include "platform/gtk/foundation/BusConversation.h"
 #include "platform/gtk/foundation/GtkUserDefaults.h"
 
+#include <filesystem>
 #include <gtkmm/cssprovider.h>
-#include <optional>
 
 namespace gtk {
 
@@ -36,7 +36,7 @@ private:
     // theme once more.
     bool isDark_ = false;
     bool isHighContrast_ = false;
-    std::optional<BusConversation> portal_;
+    BusConversation portal_;
     Glib::RefPtr<Gtk::CssProvider> accent_; // null while the theme's is used
 };
 

@@ -1,30 +1,15 @@
 #include "platform/gtk/desktop/GtkWorkspace.h"
 
 #include <gio/gio.h>
-#include <string>
 
 namespace gtk {
 
 namespace {
 
 constexpr auto ownScheme = "velmaro";
-constexpr int fileManagerPatience = 5000; // milliseconds
-
-// Where there is no file manager that selects, the folder will do.
-struct FolderToOpen {
-    std::shared_ptr<AddressLauncher> launcher;
-    std::string address;
-};
-
-void didReveal(GObject* bus, GAsyncResult* result, gpointer data)
-{
-    const std::unique_ptr<FolderToOpen> folder(static_cast<FolderToOpen*>(data));
-    g_autoptr(GError) error = nullptr;
-    g_autoptr(GVariant) reply =
-        g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, &error);
-    if (!reply)
-        folder->launcher->launch(folder->address);
-}
+constexpr double fileManagerPatience = 5; // seconds
+constexpr auto fileManagerName = "org.freedesktop.FileManager1";
+constexpr auto fileManagerPath = "/org/freedesktop/FileManager1";
 
 std::string folderOf(const platform::URL& file)
 {
@@ -50,36 +35,40 @@ bool isOwn(const platform::URL& url)
 
 } // namespace
 
+GtkWorkspace::GtkWorkspace()
+    : fileManager_(Gio::DBus::BusType::SESSION, fileManagerName)
+{
+}
+
 void GtkWorkspace::open(const platform::URL& url)
 {
     if (isOwn(url))
         openHere(url.absoluteString());
     else
-        launcher_->launch(url.absoluteString());
+        launcher_.launch(url.absoluteString());
 }
 
 void GtkWorkspace::activateFileViewerSelecting(const std::vector<platform::URL>& files)
 {
-    GVariantBuilder addresses;
-    g_variant_builder_init(&addresses, G_VARIANT_TYPE("as"));
+    std::vector<Glib::ustring> addresses;
     std::string folder;
     for (const auto& file : files) {
         if (!file.isFileURL())
             continue;
-        g_variant_builder_add(&addresses, "s", file.absoluteString().c_str());
+        addresses.push_back(file.absoluteString());
         folder = folderOf(file);
     }
-    auto* arguments = g_variant_ref_sink(g_variant_new("(ass)", &addresses, ""));
-    [[maybe_unused]] g_autoptr(GVariant) owned = arguments;
-    if (folder.empty())
+    if (addresses.empty())
         return;
 
-    g_autoptr(GDBusConnection) bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
-    if (!bus)
-        return launcher_->launch(folder);
-    g_dbus_connection_call(bus, "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
-        "org.freedesktop.FileManager1", "ShowItems", arguments, nullptr, G_DBUS_CALL_FLAGS_NONE,
-        fileManagerPatience, nullptr, didReveal, new FolderToOpen{launcher_, folder});
+    constexpr auto startupToken = "";
+    fileManager_.call({
+        .method = {fileManagerPath, fileManagerName, "ShowItems"},
+        .arguments = busValues(addresses, startupToken),
+        .patience = fileManagerPatience,
+        // Where no file manager can select, the folder will do.
+        .onFailure = [this, folder](const auto&) { launcher_.launch(folder); },
+    });
 }
 
 } // namespace gtk

@@ -5,8 +5,8 @@
 
 namespace gtk {
 
-// Opens a new message of the user's mail program with these files attached: through the desktop's
-// portal, or where there is none through the program itself. A failure is logged.
+// Opens a new message of the user's mail program with these files attached, at least one. It asks
+// the desktop's portal, or the program itself where there is no portal. A failure is logged.
 void sendByMail(const std::vector<Glib::RefPtr<Gio::File>>& files);
 
 } // namespace gtk

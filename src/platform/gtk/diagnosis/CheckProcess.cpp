@@ -41,7 +41,7 @@ std::vector<Finding> read(const std::string& text)
     return findings;
 }
 
-// Libraries that a check calls have much to say that is of no use to a reader of the report.
+// The libraries that a check calls print much that is of no use to a reader of the report.
 void silence()
 {
     const int nothing = open("/dev/null", O_RDWR);
@@ -73,7 +73,7 @@ CheckProcess::~CheckProcess()
         close(input_);
     if (pid_ <= 0)
         return;
-    kill(-pid_, SIGKILL); // with what it has started
+    kill(-pid_, SIGKILL); // together with the processes that it has started
     kill(pid_, SIGKILL);
     waitpid(pid_, nullptr, 0);
 }

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/gtk/diagnosis/Check.h"
+#include "platform/gtk/diagnosis/Report.h"
 
 #include <chrono>
 #include <sys/types.h>
 
 namespace gtk {
 
-// A check under way. To be made while the program has one thread.
+// A check under way, in a process of its own. To be made while the program has only one thread.
 class CheckProcess {
 public:
     explicit CheckProcess(const Check& check);
@@ -16,8 +16,8 @@ public:
     CheckProcess(const CheckProcess&) = delete;
     CheckProcess& operator=(const CheckProcess&) = delete;
 
-    // Waits until it has ended or its time is over. One that crashed or was stopped yields a
-    // problem.
+    // Waits until the check has ended or its time is over. A check that crashed or took too long is
+    // reported as a problem.
     std::vector<Finding> findings();
 
 private:
@@ -28,7 +28,7 @@ private:
     const Check check_;
     const std::chrono::steady_clock::time_point end_;
     pid_t pid_ = -1;
-    int input_ = -1; // what the process finds
+    int input_ = -1; // the pipe through which the process tells its findings
 };
 
 } // namespace gtk

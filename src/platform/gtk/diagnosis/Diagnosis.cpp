@@ -1,7 +1,6 @@
 #include "platform/gtk/diagnosis/Diagnosis.h"
 
 #include "platform/gtk/diagnosis/CheckProcess.h"
-#include "platform/gtk/diagnosis/Report.h"
 
 #include <cstdio>
 #include <glib.h>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/gtk/diagnosis/Checks.h"
+#include "platform/gtk/diagnosis/Report.h"
 
 namespace gtk {
 
-// The answer to `--diagnose`.
+// What the option `--diagnose` does.
 namespace Diagnosis {
 
 struct Options {
@@ -14,8 +14,9 @@ struct Options {
     RendererChoice renderer = RendererChoice::hardware;
 };
 
-// Looks at everything at the same time and prints what it has found, within 6 seconds. Returns the
-// program's exit status: 1 where there is a problem. To be called while there is one thread.
+// Runs all checks at the same time and prints what they have found, within 6 seconds. Returns the
+// program's exit status, which is 1 when there is a problem. To be called while the program has
+// only one thread.
 int run(const Options& options);
 
 } // namespace Diagnosis

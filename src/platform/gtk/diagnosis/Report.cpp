@@ -44,7 +44,7 @@ std::string count(const std::vector<Finding>& findings, Verdict verdict)
     return std::to_string(number) + ' ' + word(verdict) + (number == 1 ? "" : "s");
 }
 
-// Whether a path goes on with this in the name that it has come to.
+// Whether the character continues the current path component.
 bool continuesName(char character)
 {
     return std::isalnum(static_cast<unsigned char>(character)) || character == '-'
@@ -53,7 +53,7 @@ bool continuesName(char character)
 
 std::string withoutName(std::string text, const std::string& home)
 {
-    if (home.size() < 2) // a home that is the root, or none, has no name in it
+    if (home.size() < 2) // the root, or no home at all, contains no name
         return text;
     for (auto at = text.find(home); at != std::string::npos; at = text.find(home, at + 1)) {
         const auto end = at + home.size();

@@ -1,4 +1,4 @@
-#include "platform/gtk/diagnosis/Checks.h"
+#include "platform/gtk/diagnosis/Report.h"
 #include "platform/gtk/network/HttpRequest.h"
 
 #include <glibmm/main.h>

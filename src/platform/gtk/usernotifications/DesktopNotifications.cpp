@@ -1,41 +1,59 @@
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
 
-#include "platform/gtk/usernotifications/NotificationAgent.h"
-#include "platform/gtk/usernotifications/NotificationText.h"
+#include "platform/gtk/foundation/ObjectPointer.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace gtk {
 
 namespace {
 
 constexpr auto serviceName = ShownNotifications::serviceName;
-constexpr auto busName = "org.freedesktop.DBus";
+constexpr auto servicePath = ShownNotifications::servicePath;
 
-constexpr int patience = 10'000; // milliseconds for one answer
-constexpr gint32 serviceDecides = -1; // how long it shows
+constexpr gint32 serviceDecides = -1; // how long a notification is shown
 
 constexpr auto clickTitle = "Open";
 constexpr auto defaultSound = "message-new-instant";
 
-using Hints = std::map<Glib::ustring, Glib::VariantBase>;
+constexpr auto agentName = "velmaro-notification-agent";
 
-template <class T> Glib::Variant<T> variant(const T& value)
+// The agent lies beside an application that has just been built, and in the folder for helpers once
+// it is installed.
+std::filesystem::path agentProgram()
 {
-    return Glib::Variant<T>::create(value);
+    std::error_code ignored;
+    const auto application = std::filesystem::read_symlink("/proc/self/exe", ignored);
+    const auto built = application.parent_path() / agentName;
+    return std::filesystem::exists(built, ignored)
+        ? built
+        : std::filesystem::path(VELMARO_HELPERS) / agentName;
 }
 
-Glib::Variant<Glib::ustring> variantText(const std::string& text)
+// Starts the program that hears clicks on the notifications and then has the session bus start
+// `application`. Returns the reason when it cannot be started.
+std::optional<std::string> startAgent(
+    const std::string& application, const BusValues& notifications)
 {
-    return Glib::Variant<Glib::ustring>::create(text);
-}
+    const auto flags = GSubprocessFlags(G_SUBPROCESS_FLAGS_STDIN_PIPE
+        | G_SUBPROCESS_FLAGS_STDOUT_SILENCE | G_SUBPROCESS_FLAGS_STDERR_SILENCE);
+    const ObjectPointer<GSubprocessLauncher> launcher(g_subprocess_launcher_new(flags));
+    g_subprocess_launcher_set_cwd(launcher.get(), "/");
 
-template <class T> T child(const Glib::VariantContainerBase& values, unsigned index)
-{
-    Glib::Variant<T> value;
-    values.get_child(value, index);
-    return value.get();
+    const auto program = agentProgram();
+    g_autoptr(GError) error = nullptr;
+    const ObjectPointer<GSubprocess> agent(g_subprocess_launcher_spawn(
+        launcher.get(), &error, program.c_str(), application.c_str(), nullptr));
+    if (!agent)
+        return error->message;
+    auto* input = g_subprocess_get_stdin_pipe(agent.get());
+    const bool isTold = g_output_stream_write_all(
+        input, notifications.get_data(), notifications.get_size(), nullptr, nullptr, &error);
+    if (!isTold || !g_output_stream_close(input, nullptr, &error))
+        return error->message;
+    return std::nullopt;
 }
 
 } // namespace
@@ -43,16 +61,10 @@ template <class T> T child(const Glib::VariantContainerBase& values, unsigned in
 DesktopNotifications::DesktopNotifications(
     std::string application, ShownNotifications::ClickHandler onClick)
     : application_(std::move(application))
-    , cancellable_(Gio::Cancellable::create())
     , shown_(std::move(onClick))
+    , service_(Gio::DBus::BusType::SESSION, serviceName,
+          [this](const auto& error) { finish(platform::NSError{busFailureText(error)}); })
 {
-}
-
-DesktopNotifications::~DesktopNotifications()
-{
-    cancellable_->cancel();
-    if (connection_)
-        connection_->signal_unsubscribe(subscription_);
 }
 
 void DesktopNotifications::post(
@@ -65,110 +77,74 @@ void DesktopNotifications::post(
 
 void DesktopNotifications::start()
 {
-    if (!connection_)
-        connect();
-    else if (!readsMarkup_)
+    if (!service_.isOpen()) {
+        service_.open([this] {
+            listen();
+            start();
+        });
+    } else if (!readsMarkup_) {
         askForCapabilities();
-    else
+    } else {
         notify();
-}
-
-void DesktopNotifications::connect()
-{
-    const auto finishConnecting = [this, life = std::weak_ptr(life_)](
-                                      Glib::RefPtr<Gio::AsyncResult>& result) {
-        if (life.expired())
-            return;
-        try {
-            connection_ = Gio::DBus::Connection::get_finish(result);
-        } catch (const Glib::Error& error) {
-            return finish(notificationError(error));
-        }
-        listen();
-        start();
-    };
-    Gio::DBus::Connection::get(Gio::DBus::BusType::SESSION, finishConnecting, cancellable_);
+    }
 }
 
 void DesktopNotifications::listen()
 {
-    const auto forgetAll = [this](const auto&, const auto&, const auto&, const auto&, const auto&,
-                               const auto&) {
+    service_.listenForOwner([this] {
         // Another service has other numbers and other capabilities.
         readsMarkup_.reset();
         shown_.clear();
-    };
-    subscription_ = connection_->signal_subscribe(
-        forgetAll, busName, busName, "NameOwnerChanged", {}, serviceName);
-    shown_.listen(connection_);
+    });
+    shown_.listen(service_);
 }
 
 void DesktopNotifications::askForCapabilities()
 {
-    call("GetCapabilities", {}, "(as)", [this](const auto& result) {
-        const auto capabilities = child<std::vector<Glib::ustring>>(result, 0);
-        const auto has = [&](const char* capability) {
-            return std::find(capabilities.begin(), capabilities.end(), capability)
-                != capabilities.end();
-        };
-        readsMarkup_ = has("body-markup");
-        shown_.setKeepsExpired(has("persistence"));
-        notify();
-    });
+    service_.call({.method = {servicePath, serviceName, "GetCapabilities"}, .resultType = "(as)"},
+        [this](const auto& results) {
+            const auto capabilities = child<std::vector<Glib::ustring>>(results, 0);
+            const auto has = [&](const char* capability) {
+                return std::find(capabilities.begin(), capabilities.end(), capability)
+                    != capabilities.end();
+            };
+            readsMarkup_ = has("body-markup");
+            shown_.setKeepsExpired(has("persistence"));
+            notify();
+        });
 }
 
 void DesktopNotifications::notify()
 {
-    const auto& request = jobs_.front().request;
-    call("Notify", notifyArguments(request), "(u)", [this](const auto& result) {
-        const auto& shown = jobs_.front().request;
-        shown_.add(child<guint32>(result, 0), shown.identifier, shown.content.userInfo);
-        finish({});
-    });
+    service_.call(
+        {
+            .method = {servicePath, serviceName, "Notify"},
+            .arguments = notifyArguments(jobs_.front().request),
+            .resultType = "(u)",
+        },
+        [this](const auto& results) {
+            const auto& shown = jobs_.front().request;
+            shown_.add(child<guint32>(results, 0), shown.identifier, shown.content.userInfo);
+            finish({});
+        });
 }
 
-DesktopNotifications::Arguments DesktopNotifications::notifyArguments(
+BusValues DesktopNotifications::notifyArguments(
     const platform::UNNotificationRequest& request) const
 {
     const auto& content = request.content;
-    Hints hints{{"desktop-entry", variantText(application_)}};
+    BusDictionary hints{{"desktop-entry", busValue(application_)}};
     if (content.sound)
-        hints.emplace("sound-name", variantText(defaultSound));
+        hints.emplace("sound-name", busValue(defaultSound));
     else
-        hints.emplace("suppress-sound", variant(true));
+        hints.emplace("suppress-sound", busValue(true));
 
-    return Arguments::create_tuple({
-        variantText("Velmaro Online"),
-        variant<guint32>(shown_.number(request.identifier)),
-        variantText(application_), // the icon's name too
-        variantText(notificationText(content.title)),
-        variantText(
-            *readsMarkup_ ? notificationMarkup(content.body) : notificationText(content.body)),
-        variant(std::vector<Glib::ustring>{ShownNotifications::clickAction, clickTitle}),
-        variant(hints),
-        variant(serviceDecides),
-    });
-}
-
-void DesktopNotifications::call(
-    const char* method, const Arguments& arguments, const char* resultType, Result then)
-{
-    const auto finishCall = [this, life = std::weak_ptr(life_), then = std::move(then)](
-                                Glib::RefPtr<Gio::AsyncResult>& result) {
-        if (life.expired())
-            return;
-        Arguments values;
-        try {
-            values = connection_->call_finish(result);
-        } catch (const Glib::Error& error) {
-            return finish(notificationError(error));
-        }
-        const auto kept = then;
-        kept(values);
-    };
-    connection_->call(ShownNotifications::servicePath, serviceName, method, arguments, finishCall,
-        cancellable_, serviceName, patience, Gio::DBus::CallFlags::NONE,
-        Glib::VariantType(resultType));
+    const auto& iconName = application_;
+    const std::vector<Glib::ustring> actions{ShownNotifications::clickAction, clickTitle};
+    return busValues("Velmaro Online", shown_.number(request.identifier), iconName,
+        notificationText(content.title),
+        *readsMarkup_ ? notificationMarkup(content.body) : notificationText(content.body), actions,
+        hints, serviceDecides);
 }
 
 void DesktopNotifications::finish(const std::optional<platform::NSError>& error)
@@ -184,8 +160,7 @@ void DesktopNotifications::leaveToAgent() const
 {
     if (shown_.isEmpty())
         return;
-    const auto handover = shown_.serialized();
-    if (const auto failure = startNotificationAgent(application_, handover))
+    if (const auto failure = startAgent(application_, shown_.serialized()))
         platform::NSLog("Velmaro notifications cannot be clicked any more: " + *failure);
 }
 

@@ -10,7 +10,8 @@
 
 namespace gtk {
 
-// The notifications of this program: who may post them, how they show, and who hears of clicks.
+// The notifications of this program: whether it may post them, how they are shown, and what is told
+// of clicks.
 class GtkUserNotificationCenter final : public platform::UNUserNotificationCenter {
 public:
     static constexpr auto permissionKey = "notificationsAllowed";
@@ -22,8 +23,8 @@ public:
     // Asks the user, in an alert of the current platform, whether notifications may be shown.
     static void askUser(std::function<void(bool isAllowed)> answer);
 
-    // The permission is null where the desktop has one of its own, as inside a sandbox. It and
-    // `queue` must outlive this.
+    // The permission is null where the desktop manages permissions itself, as it does for programs
+    // in a sandbox. `queue` must outlive this.
     GtkUserNotificationCenter(platform::DispatchQueue& queue,
         std::unique_ptr<Permission> permission, std::unique_ptr<NotificationService> service);
 
@@ -36,10 +37,11 @@ public:
     void add(const platform::UNNotificationRequest& request,
         std::function<void(const std::optional<platform::NSError>&)> completion) override;
 
-    // Null where the desktop has one of its own.
+    // Null where the desktop manages permissions itself.
     Permission* permission() { return permission_.get(); }
 
-    // The user has clicked a notification. It waits for a delegate if there is none.
+    // To be called when the user has clicked a notification. Without a delegate the click waits for
+    // one.
     void receiveClick(const std::map<std::string, std::string>& userInfo);
 
 private:

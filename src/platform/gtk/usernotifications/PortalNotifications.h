@@ -1,27 +1,22 @@
 #pragma once
 
+#include "platform/gtk/foundation/BusConversation.h"
 #include "platform/gtk/usernotifications/NotificationService.h"
-
-#include <giomm/dbusconnection.h>
-#include <memory>
-#include <string>
 
 namespace gtk {
 
-// The portal for notifications, as programs inside a sandbox reach it. It keeps what a click is to
-// do and activates that action of this program, which it starts first if need be.
+// Shows notifications through the desktop's portal, which programs inside a sandbox can reach. The
+// portal remembers the action that a click is to activate, and starts this program for it.
 class PortalNotifications final : public NotificationService {
 public:
     // `clickAction` is an action of the application with a dictionary of texts as its target.
     explicit PortalNotifications(std::string clickAction);
-    ~PortalNotifications() override;
 
     void post(const platform::UNNotificationRequest& request, Completion completion) override;
 
 private:
     const std::string clickAction_;
-    Glib::RefPtr<Gio::Cancellable> cancellable_;
-    std::shared_ptr<void> life_ = std::make_shared<char>();
+    BusConversation portal_;
 };
 
 } // namespace gtk

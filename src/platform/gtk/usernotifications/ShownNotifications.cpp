@@ -9,13 +9,6 @@ using Texts = std::map<Glib::ustring, Glib::ustring>;
 constexpr std::size_t most = 1000; // notifications whose clicks are understood
 constexpr std::uint32_t hasExpired = 1; // why a notification was closed
 
-template <class T> T child(const Glib::VariantContainerBase& values, unsigned index)
-{
-    Glib::Variant<T> value;
-    values.get_child(value, index);
-    return value.get();
-}
-
 } // namespace
 
 ShownNotifications::ShownNotifications(ClickHandler onClick)
@@ -23,21 +16,25 @@ ShownNotifications::ShownNotifications(ClickHandler onClick)
 {
 }
 
-ShownNotifications::~ShownNotifications()
+void ShownNotifications::listen(BusConversation& service)
 {
-    if (connection_)
-        connection_->signal_unsubscribe(subscription_);
-}
-
-void ShownNotifications::listen(const Glib::RefPtr<Gio::DBus::Connection>& connection)
-{
-    connection_ = connection;
-    const auto receive = [this](const Glib::RefPtr<Gio::DBus::Connection>&, const Glib::ustring&,
-                             const Glib::ustring&, const Glib::ustring&,
-                             const Glib::ustring& signal,
-                             const Glib::VariantContainerBase& values) { hear(signal, values); };
-    subscription_ =
-        connection_->signal_subscribe(receive, serviceName, serviceName, {}, servicePath);
+    service.listen(
+        {servicePath, serviceName, "ActivationToken"}, "(us)", [this](const BusValues& values) {
+            if (auto* notification = find(child<guint32>(values, 0)))
+                notification->activationToken = child<Glib::ustring>(values, 1);
+        });
+    service.listen(
+        {servicePath, serviceName, "ActionInvoked"}, "(us)", [this](const BusValues& values) {
+            const auto* notification = find(child<guint32>(values, 0));
+            if (!notification || child<Glib::ustring>(values, 1) != clickAction)
+                return;
+            const auto clicked = *notification;
+            onClick_(clicked.userInfo, clicked.activationToken);
+        });
+    service.listen(
+        {servicePath, serviceName, "NotificationClosed"}, "(uu)", [this](const BusValues& values) {
+            hearOfEnd(child<guint32>(values, 0), child<guint32>(values, 1));
+        });
 }
 
 void ShownNotifications::add(
@@ -61,46 +58,36 @@ void ShownNotifications::clear()
     numbers_.clear();
 }
 
-Glib::VariantContainerBase ShownNotifications::serialized() const
+BusValues ShownNotifications::serialized() const
 {
     std::map<guint32, Texts> notifications;
     for (const auto& [number, notification] : shown_)
         notifications[number] = Texts(notification.userInfo.begin(), notification.userInfo.end());
-    return Glib::VariantContainerBase::create_tuple({
-        Glib::Variant<bool>::create(keepsExpired_),
-        Glib::Variant<std::map<guint32, Texts>>::create(notifications),
-    });
+    return busValues(keepsExpired_, notifications);
 }
 
-void ShownNotifications::add(const Glib::VariantContainerBase& serialized)
+void ShownNotifications::add(const BusValues& serialized)
 {
     keepsExpired_ = child<bool>(serialized, 0);
     for (const auto& [number, userInfo] : child<std::map<guint32, Texts>>(serialized, 1))
         shown_[number].userInfo = UserInfo(userInfo.begin(), userInfo.end());
 }
 
-void ShownNotifications::hear(const std::string& signal, const Glib::VariantContainerBase& values)
+// The service tells of the notifications of all programs.
+ShownNotifications::Notification* ShownNotifications::find(std::uint32_t number)
 {
-    const bool hasText = values.is_of_type(Glib::VariantType("(us)"));
-    const bool hasReason = values.is_of_type(Glib::VariantType("(uu)"));
-    if (!hasText && !hasReason)
-        return;
-    const auto number = child<guint32>(values, 0);
     const auto found = shown_.find(number);
-    if (found == shown_.end())
-        return; // another program's
-    if (signal == "ActivationToken" && hasText) {
-        found->second.activationToken = child<Glib::ustring>(values, 1);
-    } else if (signal == "ActionInvoked" && hasText
-        && child<Glib::ustring>(values, 1) == clickAction) {
-        const auto clicked = found->second;
-        onClick_(clicked.userInfo, clicked.activationToken);
-    } else if (signal == "NotificationClosed" && hasReason
-        && (child<guint32>(values, 1) != hasExpired || !keepsExpired_)) {
-        forget(number);
-        if (shown_.empty())
-            empty_();
-    }
+    return found == shown_.end() ? nullptr : &found->second;
+}
+
+void ShownNotifications::hearOfEnd(std::uint32_t number, std::uint32_t reason)
+{
+    const bool mayStillBeClicked = reason == hasExpired && keepsExpired_;
+    if (mayStillBeClicked || !find(number))
+        return;
+    forget(number);
+    if (shown_.empty())
+        empty_();
 }
 
 void ShownNotifications::forget(std::uint32_t number)

@@ -1,11 +1,12 @@
-// The desktop's notification service tells the program that has posted a notification of clicks on
-// it, and starts none for them. When the application ends while it has notifications shown, this
-// small program stays for them: a click has the session bus start the application again. It ends
-// with the last notification, and with the service or the session bus.
+// The desktop's notification service reports clicks only to programs that run, and starts no
+// program for them. When the application ends while its notifications are shown, this small program
+// stays for them: on a click it has the session bus start the application again. It ends with the
+// last notification, and with the service or the session bus.
 //
 //   velmaro-notification-agent APPLICATION <NOTIFICATIONS
 //
-// APPLICATION is the application's name on the bus; NOTIFICATIONS as `ShownNotifications` has them.
+// APPLICATION is the application's name on the bus, and NOTIFICATIONS is what
+// `ShownNotifications::serialized` returns.
 
 #include "platform/gtk/usernotifications/ShownNotifications.h"
 
@@ -21,18 +22,20 @@ namespace gtk {
 
 namespace {
 
-constexpr int patience = 60'000; // milliseconds for the application to start
+constexpr double patience = 60; // seconds for the application to start
 
 class NotificationAgent {
 public:
-    NotificationAgent(std::string application, const Glib::VariantContainerBase& notifications)
-        : application_(std::move(application))
-        , bus_(Gio::DBus::Connection::get_sync(Gio::DBus::BusType::SESSION))
+    NotificationAgent(const std::string& application, const BusValues& notifications)
+        : path_("/" + application)
         , shown_([this](const auto& userInfo, const auto& token) { activate(userInfo, token); })
+        , service_(Gio::DBus::BusType::SESSION, ShownNotifications::serviceName)
+        , application_(Gio::DBus::BusType::SESSION, application)
     {
+        std::replace(path_.begin(), path_.end(), '.', '/');
         shown_.add(notifications);
-        shown_.listen(bus_);
         shown_.whenEmpty([this] { endWhenDone(); });
+        service_.open([this] { shown_.listen(service_); });
     }
 
     void run()
@@ -44,40 +47,32 @@ public:
     }
 
 private:
-    // As the desktop does for a notification that it keeps itself.
+    // Does what the desktop does for a notification whose action it keeps itself.
     void activate(const ShownNotifications::UserInfo& userInfo, const std::string& token)
     {
-        auto path = "/" + application_;
-        std::replace(path.begin(), path.end(), '.', '/');
         const std::map<Glib::ustring, Glib::ustring> target(userInfo.begin(), userInfo.end());
-        std::map<Glib::ustring, Glib::VariantBase> platformData;
+        BusDictionary platformData;
         if (!token.empty()) {
             for (const char* name : {"activation-token", "desktop-startup-id"})
-                platformData[name] = Glib::Variant<Glib::ustring>::create(token);
+                platformData[name] = busValue(token);
         }
-        const std::vector<Glib::VariantBase> parameters{
-            Glib::Variant<std::map<Glib::ustring, Glib::ustring>>::create(target)};
-        const auto arguments = Glib::VariantContainerBase::create_tuple({
-            Glib::Variant<Glib::ustring>::create("notification"),
-            Glib::Variant<std::vector<Glib::VariantBase>>::create(parameters),
-            Glib::Variant<std::map<Glib::ustring, Glib::VariantBase>>::create(platformData),
-        });
+        const auto finish = [this] {
+            --activations_;
+            endWhenDone();
+        };
         ++activations_;
-        bus_->call(
-            path, "org.freedesktop.Application", "ActivateAction", arguments,
-            [this](Glib::RefPtr<Gio::AsyncResult>& result) { finish(result); }, application_,
-            patience);
-    }
-
-    void finish(Glib::RefPtr<Gio::AsyncResult>& result)
-    {
-        try {
-            bus_->call_finish(result);
-        } catch (const Glib::Error& error) {
-            std::cerr << error.what() << '\n';
-        }
-        --activations_;
-        endWhenDone();
+        application_.call(
+            {
+                .method = {path_, "org.freedesktop.Application", "ActivateAction"},
+                .arguments = busValues("notification", std::vector{busValue(target)}, platformData),
+                .patience = patience,
+                .onFailure =
+                    [finish](const Glib::Error& error) {
+                        std::cerr << error.what() << '\n';
+                        finish();
+                    },
+            },
+            [finish](const auto&) { finish(); });
     }
 
     void endWhenDone()
@@ -86,21 +81,22 @@ private:
             loop_->quit();
     }
 
-    const std::string application_;
+    std::string path_; // of the application on the bus
     Glib::RefPtr<Glib::MainLoop> loop_ = Glib::MainLoop::create();
-    Glib::RefPtr<Gio::DBus::Connection> bus_;
     ShownNotifications shown_;
+    BusConversation service_;
+    BusConversation application_;
     int activations_ = 0; // that the application has not answered yet
 };
 
-Glib::VariantContainerBase notificationsFromInput()
+BusValues notificationsFromInput()
 {
     const std::string bytes(std::istreambuf_iterator<char>(std::cin), {});
     GBytes* copy = g_bytes_new(bytes.data(), bytes.size());
     GVariant* value =
         g_variant_new_from_bytes(G_VARIANT_TYPE(ShownNotifications::serializedType), copy, FALSE);
     g_bytes_unref(copy);
-    return Glib::VariantContainerBase(value);
+    return BusValues(value);
 }
 
 } // namespace
@@ -114,11 +110,6 @@ int main(int argumentCount, char** arguments)
         return EXIT_FAILURE;
     }
     Gio::init();
-    try {
-        gtk::NotificationAgent(arguments[1], gtk::notificationsFromInput()).run();
-    } catch (const Glib::Error& error) {
-        std::cerr << "velmaro-notification-agent: " << error.what() << '\n';
-        return EXIT_FAILURE;
-    }
+    gtk::NotificationAgent(arguments[1], gtk::notificationsFromInput()).run();
     return EXIT_SUCCESS;
 }

@@ -1,13 +1,12 @@
-#include "platform/gtk/corelocation/ServiceLocation.h"
+#include "platform/gtk/corelocation/LocationSource.h"
 
 #include <cmath>
-#include <gio/gio.h>
 
-namespace gtk::ServiceLocation {
+namespace gtk {
 
 namespace {
 
-std::optional<double> number(const Properties& properties, const char* name)
+std::optional<double> number(const BusDictionary& properties, const char* name)
 {
     const auto found = properties.find(name);
     if (found == properties.end() || !found->second.is_of_type(Glib::VARIANT_TYPE_DOUBLE))
@@ -17,7 +16,7 @@ std::optional<double> number(const Properties& properties, const char* name)
 
 } // namespace
 
-std::optional<platform::CLLocation> location(const Properties& properties)
+std::optional<platform::CLLocation> LocationSource::location(const BusDictionary& properties)
 {
     const auto latitude = number(properties, "Latitude");
     const auto longitude = number(properties, "Longitude");
@@ -35,18 +34,20 @@ std::optional<platform::CLLocation> location(const Properties& properties)
     };
 }
 
-std::string failureText(const Glib::Error& error)
+std::string LocationSource::failureText(const Glib::Error& error)
 {
-    const auto is = [&](GQuark domain, int code) { return error.matches(domain, code); };
-    if (is(G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED) || is(G_DBUS_ERROR, G_DBUS_ERROR_AUTH_FAILED))
+    switch (busFailure(error)) {
+    case BusFailure::refused:
         return refusedText;
-    if (is(G_IO_ERROR, G_IO_ERROR_TIMED_OUT) || is(G_DBUS_ERROR, G_DBUS_ERROR_NO_REPLY)
-        || is(G_DBUS_ERROR, G_DBUS_ERROR_TIMED_OUT))
+    case BusFailure::noAnswer:
         return "The location service does not answer.";
-    if (is(G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN)
-        || is(G_DBUS_ERROR, G_DBUS_ERROR_NAME_HAS_NO_OWNER) || error.domain() == G_IO_ERROR)
+    case BusFailure::noBus:
+    case BusFailure::noService:
         return "This computer has no location service.";
+    case BusFailure::other:
+        break;
+    }
     return notFoundText;
 }
 
-} // namespace gtk::ServiceLocation
+} // namespace gtk

@@ -1,7 +1,7 @@
-#include "platform/gtk/usernotifications/NotificationText.h"
+#include "platform/gtk/usernotifications/NotificationService.h"
 
 #include <algorithm>
-#include <gio/gio.h>
+#include <glib.h>
 
 namespace gtk {
 
@@ -23,13 +23,6 @@ std::string notificationMarkup(std::string text)
 {
     g_autofree char* markup = g_markup_escape_text(notificationText(std::move(text)).c_str(), -1);
     return markup;
-}
-
-platform::NSError notificationError(const Glib::Error& error)
-{
-    g_autoptr(GError) copy = g_error_copy(error.gobj());
-    g_dbus_error_strip_remote_error(copy);
-    return {copy->message};
 }
 
 } // namespace gtk
