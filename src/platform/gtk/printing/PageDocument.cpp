@@ -112,9 +112,8 @@ PageDocument::Result contents(const std::string& path)
 
 } // namespace
 
-PageDocument::PageDocument(WebKitWebView* view, double width)
+PageDocument::PageDocument(WebKitWebView* view)
     : view_(retain(view))
-    , width_(width)
 {
 }
 
@@ -123,7 +122,8 @@ void PageDocument::start(std::function<void(const Result&)> completion)
     completion_ = std::move(completion);
     GVariantBuilder arguments;
     g_variant_builder_init(&arguments, G_VARIANT_TYPE_VARDICT);
-    g_variant_builder_add(&arguments, "{sv}", "minimumWidth", g_variant_new_double(width_));
+    g_variant_builder_add(&arguments, "{sv}", "minimumWidth",
+        g_variant_new_double(gtk_widget_get_width(GTK_WIDGET(view_.get()))));
 
     const auto didRun = [](GObject* view, GAsyncResult* result, gpointer data) {
         const std::unique_ptr<std::weak_ptr<PageDocument>> weakSelf(

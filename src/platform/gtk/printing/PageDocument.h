@@ -15,8 +15,8 @@ class PageDocument : public std::enable_shared_from_this<PageDocument> {
 public:
     using Result = std::variant<platform::Data, platform::NSError>;
 
-    // The page is laid out at least `width` CSS pixels wide.
-    PageDocument(WebKitWebView* view, double width);
+    // The page is laid out at least as wide as the view.
+    explicit PageDocument(WebKitWebView* view);
 
     // Calls `completion` once, later, unless this goes before.
     void start(std::function<void(const Result&)> completion);
@@ -29,7 +29,6 @@ private:
     void finish(const Result& result);
 
     const ObjectPointer<WebKitWebView> view_;
-    const double width_;
     std::function<void(const Result&)> completion_;
     std::unique_ptr<PrintToFile> print_;
 };

@@ -54,7 +54,8 @@ private:
     static void processDied(WebKitWebView*, WebKitWebProcessTerminationReason, PageRecovery* self);
 
     bool isAskedFor(const std::string& address) const;
-    void send(const std::string& address, bool revalidates, double secondsToAnswer);
+    void send(const std::string& address, double secondsToAnswer,
+        platform::URLRequest::CachePolicy policy = {});
     void awaitAnswer(double seconds);
     void giveUp();
     void commit();

@@ -37,6 +37,7 @@ public:
 
     // An empty view whose content process is running, for the next view to join; null when there is
     // none. Whoever takes it lets go of it once that view has a page.
+    WebKitWebView* spareView() const { return spareView_.get(); }
     ObjectPointer<WebKitWebView> takeSpareView() { return std::move(spareView_); }
 
     // Why web views cannot be made, in a few words; to be asked before the first one, which would
