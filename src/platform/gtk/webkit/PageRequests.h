@@ -7,9 +7,9 @@
 
 namespace gtk {
 
-// Brings what a page wants - to go somewhere, a window of its own, files of the user's - before the
-// delegates of its web view, and does what they decide. Where nobody is the delegate, pages of the
-// web are shown and nothing else.
+// Asks the delegates of a web view about what its pages want - to go somewhere, a window of their
+// own, files of the user's - and does what they decide. Without a delegate, pages of the web are
+// shown and nothing else.
 class PageRequests {
 public:
     // `view` is the engine's part of `owner`, which must outlive this.

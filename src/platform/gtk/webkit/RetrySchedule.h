@@ -2,11 +2,18 @@
 
 #include "platform/gtk/foundation/SignalHandlers.h"
 #include "platform/gtk/foundation/Timer.h"
-#include "platform/gtk/webkit/PageTimeouts.h"
 
 #include <gio/gio.h>
 
 namespace gtk {
+
+// How long web views wait, in seconds.
+struct PageTimeouts {
+    double answer = 60; // from a page's own request until the answer has begun
+    double firstRetry = 5; // from a failure until the next attempt; doubled after each further one
+    double longestRetry = 60;
+    double secondDeath = 30; // a content process that dies again within this time is given up
+};
 
 // Decides when a load that has failed is tried again: when the network comes back, and from time to
 // time while somebody looks, each time after a longer pause.

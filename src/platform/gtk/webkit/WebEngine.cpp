@@ -1,6 +1,6 @@
 #include "platform/gtk/webkit/WebEngine.h"
 
-#include "platform/gtk/webkit/PageDownloads.h"
+#include "platform/gtk/printing/PrintOperation.h"
 #include "platform/gtk/webkit/Sandbox.h"
 #include "platform/gtk/webkit/WebsiteData.h"
 
@@ -66,6 +66,7 @@ WebEngine::WebEngine(
     , certificate_(std::move(certificate))
     , isAccelerated_(isAccelerated)
     , offscreenLoads_(std::make_shared<LoadLimiter>(offscreenCount, offscreenPatience))
+    , printChoice_(std::make_shared<PrintChoice>())
 {
 }
 

@@ -2,16 +2,17 @@
 
 #include "platform/gtk/foundation/StandardPaths.h"
 #include "platform/gtk/network/HostTrust.h"
-#include "platform/gtk/printing/PrintChoice.h"
 #include "platform/gtk/webkit/LoadLimiter.h"
-#include "platform/gtk/webkit/PageTimeouts.h"
 #include "platform/gtk/webkit/ProcessSharing.h"
+#include "platform/gtk/webkit/RetrySchedule.h"
 #include "platform/gtk/webkit/VisiblePage.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
 #include <memory>
 
 namespace gtk {
+
+struct PrintChoice;
 
 // What the web views of a program share: where they keep data, whom they trust, and which of them
 // is in front. Its processes end when it and the last view have gone.
@@ -71,7 +72,7 @@ private:
     std::shared_ptr<ProcessSharing> sharing_ = std::make_shared<ProcessSharing>();
     std::shared_ptr<VisiblePage> visiblePage_ = std::make_shared<VisiblePage>();
     const std::shared_ptr<LoadLimiter> offscreenLoads_;
-    const std::shared_ptr<PrintChoice> printChoice_ = std::make_shared<PrintChoice>();
+    const std::shared_ptr<PrintChoice> printChoice_;
     std::shared_ptr<const HostTrust> trust_; // read with the first session
     ObjectPointer<WebKitNetworkSession> session_; // made when first needed
     ObjectPointer<WebKitWebView> spareView_;
