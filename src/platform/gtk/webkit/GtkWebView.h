@@ -3,9 +3,9 @@
 #include "platform/gtk/ui/NativeView.h"
 #include "platform/gtk/webkit/EngineView.h"
 #include "platform/gtk/webkit/FileDrop.h"
-#include "platform/gtk/webkit/PageDownloads.h"
 #include "platform/gtk/webkit/PageRecovery.h"
 #include "platform/gtk/webkit/PageRequests.h"
+#include "platform/gtk/webkit/RunningDownloads.h"
 
 namespace gtk {
 
@@ -47,7 +47,7 @@ private:
     Gtk::Overlay area_;
     PageRecovery recovery_;
     PageRequests requests_;
-    PageDownloads downloads_;
+    RunningDownloads downloads_;
     FileDrop drop_;
     bool drawsBackground_ = true;
     SignalHandlers signals_;

@@ -37,7 +37,7 @@ bool isMadeByPage(std::string_view address)
 }
 
 // The URL of an address that the engine tells. Absent for what the engine itself cannot make sense
-// of and passes on as it was written: it would go by another host there than we do.
+// of and passes on as it was written, since the engine and we would read different hosts in it.
 std::optional<URL> urlOfPageAddress(std::string_view address)
 {
     auto url = URL::encodingInvalidCharacters(address);

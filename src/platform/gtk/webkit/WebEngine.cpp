@@ -58,6 +58,24 @@ ObjectPointer<WebKitNetworkSession> makePersistentSession(const StandardPaths& p
     return session;
 }
 
+gboolean cancel(WebKitDownload* download)
+{
+    webkit_download_cancel(download);
+    return TRUE;
+}
+
+// Cancels every download for which no web view chooses a destination: left alone, the engine would
+// save it under a name of its own, and might replace a file of the user's. The handlers of the web
+// views run first, and end the signal.
+void refuseOtherDownloads(WebKitNetworkSession* session)
+{
+    g_signal_connect(session, "download-started",
+        G_CALLBACK(+[](WebKitNetworkSession*, WebKitDownload* download) {
+            g_signal_connect_after(download, "decide-destination", G_CALLBACK(cancel), nullptr);
+        }),
+        nullptr);
+}
+
 } // namespace
 
 WebEngine::WebEngine(
@@ -105,7 +123,7 @@ ObjectPointer<WebKitNetworkSession> WebEngine::session(platform::WKWebsiteDataSt
         ? makePersistentSession(paths_)
         : ObjectPointer<WebKitNetworkSession>(webkit_network_session_new_ephemeral());
     trust()->apply(session.get());
-    PageDownloads::refuseOthers(session.get());
+    refuseOtherDownloads(session.get());
     if (isPersistent)
         session_ = retain(session.get());
     return session;

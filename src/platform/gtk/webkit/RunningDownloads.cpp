@@ -1,40 +1,29 @@
-#include "platform/gtk/webkit/PageDownloads.h"
+#include "platform/gtk/webkit/RunningDownloads.h"
 
 #include "platform/webkit/WKNavigationDelegate.h"
 
 namespace gtk {
 
-namespace {
-
-// Runs after the handlers of whoever takes the download, which end the signal.
-gboolean refuse(WebKitDownload* download)
-{
-    webkit_download_cancel(download);
-    return TRUE;
-}
-
-} // namespace
-
-PageDownloads::PageDownloads(WebKitWebView* view, platform::WKWebView& owner)
+RunningDownloads::RunningDownloads(WebKitWebView* view, platform::WKWebView& owner)
     : view_(view)
     , owner_(owner)
 {
     signals_.connect(webkit_web_view_get_network_session(view), "download-started",
-        G_CALLBACK(+[](WebKitNetworkSession*, WebKitDownload* download, PageDownloads* self) {
+        G_CALLBACK(+[](WebKitNetworkSession*, WebKitDownload* download, RunningDownloads* self) {
             if (webkit_download_get_web_view(download) == self->view_)
                 self->begin(download);
         }),
         this);
 }
 
-PageDownloads::~PageDownloads()
+RunningDownloads::~RunningDownloads()
 {
     const auto running = running_; // each leaves the list
     for (const auto& download : running)
         download->stop("The tab was closed");
 }
 
-void PageDownloads::begin(WebKitDownload* download)
+void RunningDownloads::begin(WebKitDownload* download)
 {
     const auto begun = std::make_shared<GtkDownload>(download, [this](GtkDownload& ended) {
         std::erase_if(running_, [&](const auto& download) { return download.get() == &ended; });
@@ -44,15 +33,6 @@ void PageDownloads::begin(WebKitDownload* download)
     // The engine does not tell whether it was the question or the answer that became a download.
     if (const auto delegate = owner_.navigationDelegate.lock())
         delegate->navigationResponseDidBecomeDownload(owner_, begun);
-}
-
-void PageDownloads::refuseOthers(WebKitNetworkSession* session)
-{
-    g_signal_connect(session, "download-started",
-        G_CALLBACK(+[](WebKitNetworkSession*, WebKitDownload* download) {
-            g_signal_connect_after(download, "decide-destination", G_CALLBACK(refuse), nullptr);
-        }),
-        nullptr);
 }
 
 } // namespace gtk
