@@ -1,6 +1,7 @@
 #include "platform/gtk/printing/PageDocument.h"
 
 #include "platform/foundation/JSONSerialization.h"
+#include "platform/gtk/foundation/AsyncCallback.h"
 #include "platform/gtk/foundation/AtomicFile.h"
 #include "platform/gtk/printing/DocumentLinks.h"
 
@@ -125,24 +126,20 @@ void PageDocument::start(std::function<void(const Result&)> completion)
     g_variant_builder_add(&arguments, "{sv}", "minimumWidth",
         g_variant_new_double(gtk_widget_get_width(GTK_WIDGET(view_.get()))));
 
-    const auto didRun = [](GObject* view, GAsyncResult* result, gpointer data) {
-        const std::unique_ptr<std::weak_ptr<PageDocument>> weakSelf(
-            static_cast<std::weak_ptr<PageDocument>*>(data));
+    const auto didRun = [this](GObject* view, GAsyncResult* result) {
         g_autoptr(GError) error = nullptr;
         const ObjectPointer<JSCValue> measures(
             webkit_web_view_call_async_javascript_function_finish(
                 WEBKIT_WEB_VIEW(view), result, &error));
-        const auto self = weakSelf->lock();
-        if (!self)
-            return;
         if (!measures)
-            return self->fail(error->message);
+            return fail(error->message);
         g_autofree char* text = jsc_value_to_string(measures.get());
-        self->print(platform::JSONSerialization::decode(text).value_or(platform::Value()));
+        print(platform::JSONSerialization::decode(text).value_or(platform::Value()));
     };
+    const auto callback = asyncCallback(lifetime_.guard(didRun));
     webkit_web_view_call_async_javascript_function(view_.get(), script, -1,
-        g_variant_builder_end(&arguments), scriptWorld, nullptr, nullptr, didRun,
-        new std::weak_ptr(weak_from_this()));
+        g_variant_builder_end(&arguments), scriptWorld, nullptr, nullptr, callback.function,
+        callback.data);
 }
 
 void PageDocument::fail(const std::string& reason)
