@@ -14,13 +14,13 @@ namespace gtk {
 
 namespace {
 
-constexpr auto scriptWorld = "velmaro"; // where nothing that the page has replaced is seen
+constexpr auto scriptWorld = "velmaro"; // where the page cannot have replaced anything
 constexpr double pointsPerPixel = 0.75;
 
 // The engine prints with the styles for paper, breaks pages where they say so and lays out narrower
 // than the screen. This freezes what the media queries of the page say on the screen, whatever the
-// medium, and takes the breaks and margins away. What comes out is the size of all that there is,
-// and where its links are, which the engine leaves out.
+// medium, and takes the breaks and margins away. Its result is the size of the whole page, and the
+// places of its links, which the engine leaves out.
 constexpr auto script = R"(
 const freeze = (media) => {
     if (media.length) media.mediaText = matchMedia(media.mediaText).matches ? 'all' : 'not all';

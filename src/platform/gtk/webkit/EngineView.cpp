@@ -42,8 +42,8 @@ gboolean denyPermission(WebKitWebView*, WebKitPermissionRequest* request)
     return TRUE;
 }
 
-// The page then shows what the server has to say without a password. A proxy's question is one
-// between the user and the network, and stays.
+// The page then shows the server's answer without a password. A proxy's question is between the
+// user and the network, and stays.
 gboolean goOnWithoutPassword(WebKitWebView*, WebKitAuthenticationRequest* request)
 {
     if (webkit_authentication_request_is_for_proxy(request))
@@ -116,7 +116,7 @@ void EngineView::loadHTMLString(
     const std::string& html, const std::optional<platform::URL>& baseURL)
 {
     const auto* base = baseURL ? baseURL->absoluteString().c_str() : nullptr;
-    // As bytes, since there may be a NUL in it; no bytes at all the engine does not take.
+    // As bytes, since there may be a NUL in it. The engine does not take an empty document.
     const std::string_view text = html.empty() ? "\n" : std::string_view(html);
     g_autoptr(GBytes) bytes = g_bytes_new(text.data(), text.size());
     webkit_web_view_load_bytes(view_.get(), bytes, "text/html", "UTF-8", base);

@@ -17,7 +17,7 @@ class WebEngine;
 // What the web view of a tab and one off the screen have in common: the engine's view, the scripts
 // in its pages, what is observed of them, and the documents and prints that are made of them.
 //
-// No page gets a dialog, a permission or a print of its own, and none holds back a user who leaves.
+// No page can open a dialog, get a permission, print, or hold back a user who leaves.
 class EngineView : public platform::WKWebView {
 public:
     EngineView(const EngineView&) = delete;
@@ -50,7 +50,7 @@ protected:
     EngineView(WebEngine& engine, const platform::WKWebViewConfiguration& configuration,
         WebKitWebView* companion = nullptr);
 
-    // Whether what pages post reaches the handlers; it is dropped otherwise.
+    // Whether messages of the page reach the handlers; they are dropped otherwise.
     virtual bool acceptsMessages() const { return true; }
 
     // Calls the observers of these properties. They may add and drop observations, and destroy

@@ -6,7 +6,7 @@ namespace gtk {
 
 namespace {
 
-// The files that this computer has under a path.
+// The dragged files that have a path on this computer.
 platform::NSDraggingInfo draggingInfo(const GValue* files)
 {
     platform::NSDraggingInfo info;

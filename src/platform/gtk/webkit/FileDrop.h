@@ -7,8 +7,8 @@
 
 namespace gtk {
 
-// Shows every drag of files over a web view to its dragging destination first. What that does not
-// take goes on to the engine, and so to the page.
+// Shows every drag of files over a web view to its dragging destination first. A drag that is not
+// taken there goes on to the engine, and so to the page.
 class FileDrop {
 public:
     FileDrop(WebKitWebView* view, platform::WKWebView& owner);

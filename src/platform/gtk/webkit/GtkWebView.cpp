@@ -26,8 +26,8 @@ WebKitWebView* companion(
     return engine.spareView() ? engine.spareView() : engine.sharing()->companion();
 }
 
-// The engine keeps a text view inside of its own, to learn what keys mean there. To the toolkit it
-// is one more stop on the way of the focus, and one that no Tab leads out of.
+// The engine keeps a text view inside its own, to learn what keys mean there. To the toolkit it is
+// one more stop for the keyboard focus, and one that Tab does not lead out of.
 void keepFocusOutOfHelpers(WebKitWebView* view)
 {
     for (auto* child = gtk_widget_get_first_child(GTK_WIDGET(view)); child;
@@ -35,7 +35,7 @@ void keepFocusOutOfHelpers(WebKitWebView* view)
         gtk_widget_set_can_focus(child, FALSE);
 }
 
-// Calls `act` for the engine's recogniser of pinches, for which it has no switch.
+// Calls `act` for the engine's recogniser of pinches, which has no switch of its own.
 template <class Act> void withPinchGesture(WebKitWebView* view, Act act)
 {
     const ObjectPointer<GListModel> controllers(gtk_widget_observe_controllers(GTK_WIDGET(view)));
@@ -180,7 +180,7 @@ void GtkWebView::setAllowsMagnification(bool isAllowed)
 
 void GtkWebView::setUsesOverlayScrollers(bool isOverlay)
 {
-    // One setting for the whole program: the engine follows it, and has none for a single view.
+    // One setting for the whole program: the engine follows it, and has no other for one view.
     const auto setting = Gtk::Settings::get_default()->property_gtk_overlay_scrolling();
     if (setting.get_value() != isOverlay)
         Gtk::Settings::get_default()->property_gtk_overlay_scrolling() = isOverlay;
@@ -192,9 +192,9 @@ void GtkWebView::setDrawsBackground(bool isDrawn)
     paintBackground();
 }
 
-// The page lies on white, or on the colour of the window, whatever theme the desktop has. Nothing
-// at all would look like the window's colour too. But where the engine draws in software, it draws
-// what changes over what was there before, and both could be seen.
+// The page lies on white, or on the colour of the window, whatever theme the desktop has. A
+// transparent background would look like the window's colour too; but when the engine draws in
+// software, it draws changes over what was there before, and both would show.
 void GtkWebView::paintBackground()
 {
     const auto color =

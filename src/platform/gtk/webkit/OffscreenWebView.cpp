@@ -9,7 +9,7 @@ namespace gtk {
 
 namespace {
 
-// A page has no width before its view has one, and nobody else gives one to this view.
+// A page has no width before its view has one, and no container gives one to this view.
 void layOut(GtkWidget* widget, platform::NSSize size)
 {
     const auto width = static_cast<int>(std::lround(size.width));
@@ -60,7 +60,7 @@ void OffscreenWebView::loadHTMLString(
 std::shared_ptr<platform::NSPrintOperation> OffscreenWebView::printOperation(
     const platform::NSPrintInfo& printInfo)
 {
-    turn_.reset(); // from now on it is the user who takes time
+    turn_.reset(); // from now on only the user takes time
     return EngineView::printOperation(printInfo);
 }
 

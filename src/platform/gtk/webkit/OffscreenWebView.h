@@ -5,9 +5,8 @@
 
 namespace gtk {
 
-// A web view of the engine that is laid out and never shown. It loads when its turn has come, and
-// what becomes of the load is told to the navigation delegate and nothing else: there is no panel
-// and no second attempt.
+// A web view of the engine that is laid out and never shown. It loads when its turn has come. Only
+// the navigation delegate is told how the load ends: there is no panel and no second attempt.
 class OffscreenWebView final : public EngineView {
 public:
     OffscreenWebView(WebEngine& engine, platform::NSSize size,

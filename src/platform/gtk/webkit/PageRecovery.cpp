@@ -110,15 +110,15 @@ gboolean PageRecovery::loadFailed(
     else if (!reason && error->domain == WEBKIT_POLICY_ERROR && hasNothingToShow)
         reason = LoadFailure::Reason::noPage;
     if (!reason) {
-        // Nothing comes of the load, so it is not what is to be tried again when another one fails.
-        // One that it was given up for may already have been asked for.
+        // The load leads nowhere, so it must not be tried again when another one fails. The load
+        // that it was given up for may already have been asked for.
         if (error->domain == WEBKIT_POLICY_ERROR || self->isAskedFor(address))
             self->request_.reset();
         return TRUE;
     }
 
     if (event == WEBKIT_LOAD_COMMITTED)
-        self->hasPage_ = false; // half of one is none
+        self->hasPage_ = false; // a page that was cut off does not count as loaded
     self->fail(*reason, address);
     return TRUE;
 }

@@ -16,7 +16,7 @@ using platform::WKNavigationActionPolicy;
 
 constexpr guint middleButton = 2;
 
-// The engine loads what has one of these schemes; for any other it would show an error page.
+// The engine can load these schemes; for any other it would show an error page.
 constexpr std::array<std::string_view, 5> loadableSchemes = {
     "https", "http", "about", "data", "blob"};
 
@@ -51,7 +51,7 @@ std::optional<URL> urlOfPageAddress(std::string_view address)
         return url;
     auto authority = std::string_view(text).substr(start + 2);
     authority = authority.substr(0, authority.find_first_of("/?#"));
-    const auto host = authority.substr(authority.rfind('@') + 1); // from the start without one
+    const auto host = authority.substr(authority.rfind('@') + 1); // all of it without an "@"
     return host.find('%') == host.npos ? url : std::nullopt;
 }
 
@@ -85,8 +85,8 @@ std::string pathForEngine(const URL& file)
     return escaped;
 }
 
-// A question of the engine that is answered once. One that nobody answers is refused in the end;
-// the engine would take it for allowed.
+// A question of the engine that is answered once. Without an answer it is refused in the end; the
+// engine would take it for allowed.
 class PendingDecision {
 public:
     explicit PendingDecision(WebKitPolicyDecision* decision)
@@ -198,7 +198,7 @@ void PageRequests::ask(WebKitPolicyDecision* question, const char* address, bool
         case WKNavigationActionPolicy::allow:
             return pending->allow();
         case WKNavigationActionPolicy::download:
-            // The engine saves by itself what the page wants saved, and asks again about the rest.
+            // The engine saves real downloads by itself, and asks again about the rest.
             return mayBeDownload ? pending->allow() : pending->download();
         }
     });

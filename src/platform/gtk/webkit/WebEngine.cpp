@@ -12,8 +12,8 @@ namespace gtk {
 
 namespace {
 
-// So many pages that nobody sees are worked on at a time, so that those that somebody sees stay
-// quick. One that takes longer than this, in seconds, makes room for the next.
+// At most this many off-screen pages load at once; after this many seconds a slow one no longer
+// counts.
 constexpr std::size_t offscreenCount = 2;
 constexpr double offscreenPatience = 10;
 
@@ -45,8 +45,8 @@ ObjectPointer<WebKitNetworkSession> makePersistentSession(const StandardPaths& p
 {
     const auto data = paths.data / "web";
     const auto cache = paths.cache / "web";
-    std::error_code
-        error; // a folder that cannot be made leaves the session with what it can keep in memory
+    // Without the folders the session keeps in memory what it can.
+    std::error_code error;
     std::filesystem::create_directories(data, error);
     removeForgottenHosts(data);
 

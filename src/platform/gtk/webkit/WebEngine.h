@@ -14,8 +14,8 @@ namespace gtk {
 
 struct PrintChoice;
 
-// What the web views of a program share: where they keep data, whom they trust, and which of them
-// is in front. Its processes end when it and the last view have gone.
+// What the web views of a program share: where they keep data, which servers they trust, and which
+// of them is in front. Its processes end when it and the last view have gone.
 class WebEngine {
 public:
     // Cookies and storage go to the folder "web" of the program's data, and of its caches. Where
@@ -36,13 +36,13 @@ public:
     // can load. After GTK is initialised.
     void startContentProcess();
 
-    // An empty view whose content process is running, for the next view to join; null when there is
-    // none. Whoever takes it lets go of it once that view has a page.
+    // An empty view whose content process is running, for the next view to join; null when it has
+    // been taken or was never made. The view that takes it drops it once it loads a page itself.
     WebKitWebView* spareView() const { return spareView_.get(); }
     ObjectPointer<WebKitWebView> takeSpareView() { return std::move(spareView_); }
 
-    // Why web views cannot be made, in a few words; to be asked before the first one, which would
-    // end the program.
+    // Why web views cannot be made, in a few words; absent when they can. To be asked before the
+    // first one is made, which would end the program.
     std::optional<std::string> missingSandboxHelper() const;
 
     // Whether the web view in front shows a page that has been loaded to its end; the signal tells

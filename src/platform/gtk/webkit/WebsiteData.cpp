@@ -39,7 +39,7 @@ std::vector<fs::path> foldersIn(const fs::path& folder)
     return folders;
 }
 
-// Nothing but the file with the host's name, and folders that are empty.
+// Whether there is nothing but the file with the host's name, and empty folders.
 bool isForgotten(const fs::path& host)
 {
     std::error_code error;
