@@ -62,9 +62,9 @@ GtkWebView::GtkWebView(WebEngine& engine, const platform::WKWebViewConfiguration
               },
               [this] { visiblePage_->readinessChanged(this, recovery_.isReady()); },
           })
-    , requests_(native(), *this)
-    , downloads_(native(), *this)
-    , drop_(native(), *this)
+    , requests_(*this)
+    , downloads_(*this)
+    , drop_(*this)
 {
     if (sharing_)
         sharing_->add(native(), spare_ ? nullptr : sharing_->companion());

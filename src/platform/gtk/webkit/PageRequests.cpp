@@ -1,5 +1,6 @@
 #include "platform/gtk/webkit/PageRequests.h"
 
+#include "platform/gtk/webkit/EngineView.h"
 #include "platform/webkit/WKUIDelegate.h"
 
 #include <algorithm>
@@ -129,9 +130,10 @@ void give(WebKitFileChooserRequest* request, const std::optional<std::vector<URL
 
 } // namespace
 
-PageRequests::PageRequests(WebKitWebView* view, platform::WKWebView& owner)
+PageRequests::PageRequests(EngineView& owner)
     : owner_(owner)
 {
+    auto* view = owner.native();
     signals_.connect(view, "decide-policy", G_CALLBACK(&PageRequests::decide), this);
     signals_.connect(view, "create", G_CALLBACK(&PageRequests::makeWindow), this);
     signals_.connect(view, "run-file-chooser", G_CALLBACK(&PageRequests::chooseFiles), this);

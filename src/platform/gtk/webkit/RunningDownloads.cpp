@@ -1,16 +1,16 @@
 #include "platform/gtk/webkit/RunningDownloads.h"
 
+#include "platform/gtk/webkit/EngineView.h"
 #include "platform/webkit/WKNavigationDelegate.h"
 
 namespace gtk {
 
-RunningDownloads::RunningDownloads(WebKitWebView* view, platform::WKWebView& owner)
-    : view_(view)
-    , owner_(owner)
+RunningDownloads::RunningDownloads(EngineView& owner)
+    : owner_(owner)
 {
-    signals_.connect(webkit_web_view_get_network_session(view), "download-started",
+    signals_.connect(webkit_web_view_get_network_session(owner.native()), "download-started",
         G_CALLBACK(+[](WebKitNetworkSession*, WebKitDownload* download, RunningDownloads* self) {
-            if (webkit_download_get_web_view(download) == self->view_)
+            if (webkit_download_get_web_view(download) == self->owner_.native())
                 self->begin(download);
         }),
         this);

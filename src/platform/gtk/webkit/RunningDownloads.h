@@ -1,18 +1,18 @@
 #pragma once
 
 #include "platform/gtk/webkit/GtkDownload.h"
-#include "platform/webkit/WKWebView.h"
 
 #include <vector>
 
 namespace gtk {
 
+class EngineView;
+
 // The downloads of one web view that are running. They end in the failure path when this goes.
 class RunningDownloads {
 public:
-    // `owner`, whose engine view is `view`, has the navigation delegate that is told of each. Both
-    // must outlive this.
-    RunningDownloads(WebKitWebView* view, platform::WKWebView& owner);
+    // The navigation delegate of `owner`, which must outlive this, is told of each.
+    explicit RunningDownloads(EngineView& owner);
     ~RunningDownloads();
 
     RunningDownloads(const RunningDownloads&) = delete;
@@ -21,8 +21,7 @@ public:
 private:
     void begin(WebKitDownload* download);
 
-    WebKitWebView* const view_;
-    platform::WKWebView& owner_;
+    EngineView& owner_;
     std::vector<std::shared_ptr<GtkDownload>> running_;
     SignalHandlers signals_;
 };

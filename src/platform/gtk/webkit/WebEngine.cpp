@@ -1,7 +1,6 @@
 #include "platform/gtk/webkit/WebEngine.h"
 
 #include "platform/gtk/printing/PrintOperation.h"
-#include "platform/gtk/webkit/Sandbox.h"
 #include "platform/gtk/webkit/WebsiteData.h"
 
 #include <clocale>
@@ -104,11 +103,6 @@ void WebEngine::startContentProcess()
     spareView_ = retain(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session",
         session.get(), "settings", settings.get(), nullptr)));
     webkit_web_view_load_uri(spareView_.get(), "about:blank"); // without a load there is no process
-}
-
-std::optional<std::string> WebEngine::missingSandboxHelper() const
-{
-    return sandboxProblem();
 }
 
 ObjectPointer<WebKitNetworkSession> WebEngine::session(platform::WKWebsiteDataStore store)

@@ -41,10 +41,6 @@ public:
     WebKitWebView* spareView() const { return spareView_.get(); }
     ObjectPointer<WebKitWebView> takeSpareView() { return std::move(spareView_); }
 
-    // Why web views cannot be made, in a few words; absent when they can. To be asked before the
-    // first one is made, which would end the program.
-    std::optional<std::string> missingSandboxHelper() const;
-
     // Whether the web view in front shows a page that has been loaded to its end; the signal tells
     // each change.
     bool isVisiblePageReady() const { return visiblePage_->isReady(); }
