@@ -32,6 +32,7 @@
 #include "platform/gtk/usernotifications/PortalNotifications.h"
 #include "platform/gtk/webkit/GtkWebView.h"
 #include "platform/gtk/webkit/OffscreenWebView.h"
+#include "platform/gtk/webkit/Sandbox.h"
 #include "platform/gtk/webkit/WebEngine.h"
 #include "platform/gtk/webkit/WebsiteData.h"
 #include "platform/gtk/windows/GtkScreen.h"
@@ -284,8 +285,7 @@ std::optional<std::string> GtkPlatform::prepare()
     rendererSafeguard_->begin();
     // The check waits for a process, which the engine's own start need not wait for.
     auto& engine = webEngine();
-    auto check =
-        std::async(std::launch::async, [&engine] { return engine.missingSandboxHelper(); });
+    auto check = std::async(std::launch::async, sandboxProblem);
     engine.prepare(expectedHost_);
     if (const auto missing = check.get()) {
         rendererSafeguard_->end();

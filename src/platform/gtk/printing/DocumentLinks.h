@@ -17,8 +17,8 @@ struct DocumentLink {
     std::optional<double> target; // distance from the sheet's upper edge
 };
 
-// A PDF document of a single sheet with these links in it. The engine draws them and leaves it at
-// that. A document that is not what it should be stays as it is.
+// A PDF document of a single sheet with these links in it; the engine only draws them. A document
+// that cannot be read, or has more than one sheet, stays as it is.
 platform::Data withLinks(platform::Data document, const std::vector<DocumentLink>& links);
 
 } // namespace gtk

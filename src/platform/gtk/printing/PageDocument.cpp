@@ -1,6 +1,7 @@
 #include "platform/gtk/printing/PageDocument.h"
 
 #include "platform/foundation/JSONSerialization.h"
+#include "platform/gtk/foundation/AsyncCallback.h"
 #include "platform/gtk/foundation/AtomicFile.h"
 #include "platform/gtk/printing/DocumentLinks.h"
 
@@ -13,13 +14,13 @@ namespace gtk {
 
 namespace {
 
-constexpr auto scriptWorld = "velmaro"; // where nothing that the page has replaced is seen
+constexpr auto scriptWorld = "velmaro"; // where the page cannot have replaced anything
 constexpr double pointsPerPixel = 0.75;
 
 // The engine prints with the styles for paper, breaks pages where they say so and lays out narrower
 // than the screen. This freezes what the media queries of the page say on the screen, whatever the
-// medium, and takes the breaks and margins away. What comes out is the size of all that there is,
-// and where its links are, which the engine leaves out.
+// medium, and takes the breaks and margins away. Its result is the size of the whole page, and the
+// places of its links, which the engine leaves out.
 constexpr auto script = R"(
 const freeze = (media) => {
     if (media.length) media.mediaText = matchMedia(media.mediaText).matches ? 'all' : 'not all';
@@ -112,9 +113,8 @@ PageDocument::Result contents(const std::string& path)
 
 } // namespace
 
-PageDocument::PageDocument(WebKitWebView* view, double width)
+PageDocument::PageDocument(WebKitWebView* view)
     : view_(retain(view))
-    , width_(width)
 {
 }
 
@@ -123,26 +123,23 @@ void PageDocument::start(std::function<void(const Result&)> completion)
     completion_ = std::move(completion);
     GVariantBuilder arguments;
     g_variant_builder_init(&arguments, G_VARIANT_TYPE_VARDICT);
-    g_variant_builder_add(&arguments, "{sv}", "minimumWidth", g_variant_new_double(width_));
+    g_variant_builder_add(&arguments, "{sv}", "minimumWidth",
+        g_variant_new_double(gtk_widget_get_width(GTK_WIDGET(view_.get()))));
 
-    const auto didRun = [](GObject* view, GAsyncResult* result, gpointer data) {
-        const std::unique_ptr<std::weak_ptr<PageDocument>> weakSelf(
-            static_cast<std::weak_ptr<PageDocument>*>(data));
+    const auto didRun = [this](GObject* view, GAsyncResult* result) {
         g_autoptr(GError) error = nullptr;
         const ObjectPointer<JSCValue> measures(
             webkit_web_view_call_async_javascript_function_finish(
                 WEBKIT_WEB_VIEW(view), result, &error));
-        const auto self = weakSelf->lock();
-        if (!self)
-            return;
         if (!measures)
-            return self->fail(error->message);
+            return fail(error->message);
         g_autofree char* text = jsc_value_to_string(measures.get());
-        self->print(platform::JSONSerialization::decode(text).value_or(platform::Value()));
+        print(platform::JSONSerialization::decode(text).value_or(platform::Value()));
     };
+    const auto callback = asyncCallback(lifetime_.guard(didRun));
     webkit_web_view_call_async_javascript_function(view_.get(), script, -1,
-        g_variant_builder_end(&arguments), scriptWorld, nullptr, nullptr, didRun,
-        new std::weak_ptr(weak_from_this()));
+        g_variant_builder_end(&arguments), scriptWorld, nullptr, nullptr, callback.function,
+        callback.data);
 }
 
 void PageDocument::fail(const std::string& reason)

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Data.h"
 #include "platform/foundation/Value.h"
+#include "platform/gtk/foundation/Lifetime.h"
 #include "platform/gtk/printing/PrintToFile.h"
 
 #include <memory>
@@ -11,12 +12,12 @@ namespace gtk {
 
 // Makes one PDF document of a web view's page: a single sheet as large as the page, which looks as
 // it does on the screen. The page is changed for that, and not changed back.
-class PageDocument : public std::enable_shared_from_this<PageDocument> {
+class PageDocument {
 public:
     using Result = std::variant<platform::Data, platform::NSError>;
 
-    // The page is laid out at least `width` CSS pixels wide.
-    PageDocument(WebKitWebView* view, double width);
+    // The page is laid out at least as wide as the view.
+    explicit PageDocument(WebKitWebView* view);
 
     // Calls `completion` once, later, unless this goes before.
     void start(std::function<void(const Result&)> completion);
@@ -29,9 +30,9 @@ private:
     void finish(const Result& result);
 
     const ObjectPointer<WebKitWebView> view_;
-    const double width_;
     std::function<void(const Result&)> completion_;
     std::unique_ptr<PrintToFile> print_;
+    Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -25,7 +25,7 @@ ObjectPointer<GtkPrintSettings> initialSettings(std::string title, const std::st
     return settings;
 }
 
-// The pages are in the file as often and in the order in which they are wanted.
+// The file already holds the chosen pages, as often and in the order in which they are wanted.
 ObjectPointer<GtkPrintSettings> settingsForFinishedPages(GtkPrintSettings* chosen)
 {
     ObjectPointer<GtkPrintSettings> settings(gtk_print_settings_copy(chosen));
@@ -83,7 +83,7 @@ void PrintOperation::showPanel(GtkWindow* parent)
     if (parent)
         panelSignals_->connect(parent, "hide",
             G_CALLBACK(+[](GtkWidget*, PrintOperation* self) { self->end(false); }), this);
-    // There is nothing left to print.
+    // The page has gone, so there is nothing to print.
     panelSignals_->connect(view_.get(), "web-process-terminated",
         G_CALLBACK(+[](WebKitWebView*, WebKitWebProcessTerminationReason, PrintOperation* self) {
             self->end(false);
@@ -150,7 +150,7 @@ void PrintOperation::send()
 
 void PrintOperation::end(bool success)
 {
-    const auto self = shared_from_this(); // whoever is told may let go of this
+    const auto self = shared_from_this(); // the completion may drop this
     closePanel();
     hasEnded_ = true;
     if (const auto completion = std::exchange(completion_, nullptr))

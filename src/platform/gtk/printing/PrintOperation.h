@@ -1,12 +1,17 @@
 #pragma once
 
 #include "platform/appkit/NSPrintOperation.h"
-#include "platform/gtk/printing/PrintChoice.h"
 #include "platform/gtk/printing/PrintToFile.h"
 
 #include <gtk/gtkunixprint.h>
 
 namespace gtk {
+
+// What the user chose in the last print panel of this run, for the next one.
+struct PrintChoice {
+    std::string printer; // empty before the first choice
+    ObjectPointer<GtkPageSetup> setup; // null likewise
+};
 
 // A print of a web view's page. The engine writes the pages into a file, as the user wants them,
 // and the file goes to the printer: the engine's own jobs have no title, and its panel stops the

@@ -16,7 +16,7 @@ gboolean isFilePrinter(GtkPrinter* printer)
 }
 
 struct Search {
-    std::function<void(const std::string& name)> completion; // empty name: there is none
+    std::function<void(const std::string& name)> completion; // with "" where there is no printer
     std::string name;
 };
 
@@ -62,7 +62,6 @@ PrintToFile::PrintToFile(WebKitWebView* view, GtkPrintSettings* settings, GtkPag
     : view_(retain(view))
     , operation_(webkit_print_operation_new(view))
     , settings_(gtk_print_settings_copy(settings))
-    , self_(std::make_shared<PrintToFile*>(this))
 {
     webkit_print_operation_set_page_setup(operation_.get(), setup);
     signals_.connect(operation_.get(), "failed", G_CALLBACK(&PrintToFile::operationFailed), this);
@@ -75,13 +74,8 @@ PrintToFile::~PrintToFile() = default;
 void PrintToFile::start(std::function<void(const std::optional<platform::NSError>&)> completion)
 {
     completion_ = std::move(completion);
-    const std::weak_ptr<PrintToFile*> weakSelf = self_;
-    auto* search = new Search{[weakSelf](const std::string& name) {
-                                  if (const auto self = weakSelf.lock())
-                                      (*self)->print(name);
-                              },
-        {}};
-    gtk_enumerate_printers(lookAt, search, endSearch, FALSE);
+    const auto useResult = [this](const std::string& name) { print(name); };
+    gtk_enumerate_printers(lookAt, new Search{lifetime_.guard(useResult), {}}, endSearch, FALSE);
 }
 
 void PrintToFile::fail(const std::string& reason)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/NSError.h"
+#include "platform/gtk/foundation/Lifetime.h"
 #include "platform/gtk/foundation/SignalHandlers.h"
 #include "platform/gtk/foundation/TemporaryFolder.h"
 
@@ -43,7 +44,7 @@ private:
     std::function<void(const std::optional<platform::NSError>&)> completion_;
     std::string failure_;
     SignalHandlers signals_;
-    std::shared_ptr<PrintToFile*> self_; // for the search for the printer, which may outlast this
+    Lifetime lifetime_; // the search for the printer may outlast this
 };
 
 } // namespace gtk

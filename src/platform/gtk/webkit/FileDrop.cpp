@@ -1,12 +1,13 @@
 #include "platform/gtk/webkit/FileDrop.h"
 
 #include "platform/appkit/NSDraggingDestination.h"
+#include "platform/gtk/webkit/EngineView.h"
 
 namespace gtk {
 
 namespace {
 
-// The files that this computer has under a path.
+// The dragged files that have a path on this computer.
 platform::NSDraggingInfo draggingInfo(const GValue* files)
 {
     platform::NSDraggingInfo info;
@@ -21,7 +22,7 @@ platform::NSDraggingInfo draggingInfo(const GValue* files)
 
 } // namespace
 
-FileDrop::FileDrop(WebKitWebView* view, platform::WKWebView& owner)
+FileDrop::FileDrop(EngineView& owner)
     : owner_(owner)
     , target_(gtk_drop_target_new(GDK_TYPE_FILE_LIST, GDK_ACTION_COPY))
 {
@@ -36,7 +37,7 @@ FileDrop::FileDrop(WebKitWebView* view, platform::WKWebView& owner)
             return static_cast<gboolean>(self->drop(files));
         }),
         this);
-    gtk_widget_add_controller(GTK_WIDGET(view), GTK_EVENT_CONTROLLER(target_));
+    gtk_widget_add_controller(GTK_WIDGET(owner.native()), GTK_EVENT_CONTROLLER(target_));
 }
 
 void FileDrop::look()

@@ -1,17 +1,19 @@
 #pragma once
 
 #include "platform/gtk/foundation/SignalHandlers.h"
-#include "platform/webkit/WKWebView.h"
 
-#include <webkit/webkit.h>
+#include <gtk/gtk.h>
 
 namespace gtk {
 
-// Shows every drag of files over a web view to its dragging destination first. What that does not
-// take goes on to the engine, and so to the page.
+class EngineView;
+
+// Shows every drag of files over a web view to its dragging destination first. A drag that is not
+// taken there goes on to the engine, and so to the page.
 class FileDrop {
 public:
-    FileDrop(WebKitWebView* view, platform::WKWebView& owner);
+    // `owner` must outlive this.
+    explicit FileDrop(EngineView& owner);
 
     FileDrop(const FileDrop&) = delete;
     FileDrop& operator=(const FileDrop&) = delete;
@@ -20,7 +22,7 @@ private:
     void look();
     bool drop(const GValue* files);
 
-    platform::WKWebView& owner_;
+    EngineView& owner_;
     GtkDropTarget* const target_; // belongs to the view
     SignalHandlers signals_;
 };

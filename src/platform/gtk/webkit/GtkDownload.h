@@ -33,7 +33,7 @@ private:
     void receiveInto(const std::optional<platform::URL>& destination);
     void moveToDestination();
     void finish();
-    void fail(const std::string& reason); // the engine has done with it
+    void fail(const std::string& reason); // without cancelling it in the engine
 
     const ObjectPointer<WebKitDownload> download_;
     std::function<void(GtkDownload&)> onEnd_; // empty once it has ended

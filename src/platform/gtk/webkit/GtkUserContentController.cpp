@@ -6,8 +6,8 @@ namespace gtk {
 
 namespace {
 
-// While the keyboard is in the find field, the match that is selected in the page is as well to be
-// seen as when it is in the page. Pages may have it otherwise.
+// The selected match is as bright while the keyboard is in the find field as while it is in the
+// page. Pages may override this.
 constexpr auto selectionStyle = "::selection { background-color: Highlight; color: HighlightText }";
 
 } // namespace
@@ -63,7 +63,7 @@ void GtkUserContentController::receive(WebKitUserContentManager*, JSCValue* body
     const auto handler = bridge->receiver.handler.lock();
     if (!handler || !bridge->owner.acceptsMessages_())
         return;
-    // The handler may do away with the web view, and with it the bridge.
+    // The handler may destroy the web view, and with it the bridge.
     handler->userContentControllerDidReceiveScriptMessage(
         {bridge->receiver.name, valueFromScript(body)});
 }

@@ -18,16 +18,14 @@ using Reason = LoadFailure::Reason;
 
 constexpr Wording wordings[] = {
     {Reason::offline, "You Are Offline",
-        "This computer has no network connection. The page loads by itself as soon as there is "
-        "one."},
+        "This computer has no network connection. "
+        "The page loads by itself as soon as there is one."},
     {Reason::hostNotFound, "Page Unavailable",
-        "The server of this page could not be found. The connection to the Internet may be down, "
-        "or "
-        "the address may be wrong."},
+        "The server of this page could not be found. "
+        "The connection to the Internet may be down, or the address may be wrong."},
     {Reason::connection, "Page Unavailable",
-        "The server could not be reached, or the connection broke off. The page is tried again "
-        "from "
-        "time to time."},
+        "The server could not be reached, or the connection broke off. "
+        "The page is tried again from time to time."},
     {Reason::certificate, "Connection Not Secure",
         "The server could not prove that it is the one it should be. Nothing has been sent to it."},
     {Reason::timeout, "Page Unavailable",

@@ -6,7 +6,7 @@
 
 namespace gtk {
 
-// Why a web view has no page to show, told to a person.
+// Why a web view has no page to show, in words for the user.
 struct LoadFailure {
     enum class Reason {
         offline,
@@ -24,8 +24,8 @@ struct LoadFailure {
     // A sentence or two.
     const char* explanation() const;
 
-    // Whether it may pass without anybody doing anything here. An address without a page is none
-    // the next time either, and asking for it may open a program or save a file each time.
+    // Whether retrying can help. Not for an address without a page: each request may open a program
+    // or save a file.
     bool mayPass() const { return reason != Reason::processDied && reason != Reason::noPage; }
 
     Reason reason;

@@ -8,11 +8,11 @@
 
 namespace gtk {
 
-// Lets only so many work at the same time; the others wait, and come on in the order in which they
-// asked. Whoever takes too long keeps on working, but no longer stands in the way of the others.
+// Lets only a certain number of pages load at the same time; the others wait, and begin in the
+// order in which they asked. One that takes too long goes on, but no longer holds up the others.
 class LoadLimiter : public std::enable_shared_from_this<LoadLimiter> {
 public:
-    // A place in the queue, and then one at work. Dropping it gives it up.
+    // A place among those that wait, and later among those that load. Dropping it gives it up.
     class Turn {
     public:
         Turn(std::shared_ptr<LoadLimiter> turns, std::function<void()> begin);
@@ -26,10 +26,10 @@ public:
 
         const std::shared_ptr<LoadLimiter> limiter_;
         std::function<void()> begin_; // empty once it has begun
-        Timer patience_; // runs as long as this stands in the way of others
+        Timer patience_; // runs as long as this holds up others
     };
 
-    // `patience` is in seconds.
+    // At most `count` load at once; each holds up others for at most `patience` seconds.
     LoadLimiter(std::size_t count, double patience)
         : count_(count)
         , patience_(patience)

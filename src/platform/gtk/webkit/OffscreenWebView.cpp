@@ -1,7 +1,5 @@
 #include "platform/gtk/webkit/OffscreenWebView.h"
 
-#include "platform/gtk/webkit/EngineRequest.h"
-#include "platform/gtk/webkit/PageRefusals.h"
 #include "platform/gtk/webkit/WebEngine.h"
 #include "platform/webkit/WKNavigationDelegate.h"
 
@@ -11,67 +9,32 @@ namespace gtk {
 
 namespace {
 
-ObjectPointer<WebKitWebView> makeView(WebEngine& engine, platform::NSSize size,
-    const platform::WKWebViewConfiguration& configuration, WebKitUserContentManager* content)
+// A page has no width before its view has one, and no container gives one to this view.
+void layOut(GtkWidget* widget, platform::NSSize size)
 {
-    const auto session = engine.session(configuration.websiteDataStore);
-    const auto settings = engine.makeSettings(configuration.preferences);
-    auto view = retain(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session",
-        session.get(), "settings", settings.get(), "user-content-manager", content, nullptr)));
-
-    // A page has no width before its view has one, and nobody else gives one to this view.
-    auto* widget = GTK_WIDGET(view.get());
     const auto width = static_cast<int>(std::lround(size.width));
     const auto height = static_cast<int>(std::lround(size.height));
     gtk_widget_set_size_request(widget, width, height);
     gtk_widget_get_preferred_size(widget, nullptr, nullptr);
     gtk_widget_allocate(widget, width, height, -1, nullptr);
-    return view;
 }
 
 } // namespace
 
 OffscreenWebView::OffscreenWebView(
     WebEngine& engine, platform::NSSize size, const platform::WKWebViewConfiguration& configuration)
-    : size_(size)
+    : EngineView(engine, configuration)
+    , size_(size)
     , limiter_(engine.offscreenLoads())
-    , content_(configuration.userContentController, [] { return true; })
-    , view_(makeView(engine, size, configuration, content_.manager()))
-    , search_(view_.get())
-    , output_(view_.get(), engine.printChoice())
 {
-    refusePageRequests(view_.get());
-    watch();
-}
-
-void OffscreenWebView::watch()
-{
-    auto* view = view_.get();
-    signals_.connect(view, "load-changed", G_CALLBACK(&OffscreenWebView::loadChanged), this);
-    signals_.connect(view, "load-failed", G_CALLBACK(&OffscreenWebView::loadFailed), this);
-    signals_.connect(view, "load-failed-with-tls-errors",
-        G_CALLBACK(&OffscreenWebView::certificateFailed), this);
-    signals_.connect(
-        view, "web-process-terminated", G_CALLBACK(&OffscreenWebView::processDied), this);
-
-    const auto notify = [this](gpointer object, const char* signal, auto handler) {
-        signals_.connect(object, signal, G_CALLBACK(+handler), this);
+    layOut(GTK_WIDGET(native()), size);
+    const auto connect = [this](const char* signal, auto handler) {
+        signals_.connect(native(), signal, G_CALLBACK(handler), this);
     };
-    notify(view, "notify::title", [](GObject*, GParamSpec*, OffscreenWebView* self) {
-        self->observers_.notify(Property::title);
-    });
-    notify(view, "notify::is-loading", [](GObject*, GParamSpec*, OffscreenWebView* self) {
-        self->observers_.notify(Property::isLoading);
-    });
-    notify(
-        view, "notify::estimated-load-progress", [](GObject*, GParamSpec*, OffscreenWebView* self) {
-            self->observers_.notify(Property::estimatedProgress);
-        });
-    notify(webkit_web_view_get_back_forward_list(view), "changed",
-        [](WebKitBackForwardList*, WebKitBackForwardListItem*, gpointer, OffscreenWebView* self) {
-            self->observers_.notify(Property::canGoBack);
-            self->observers_.notify(Property::canGoForward);
-        });
+    connect("load-changed", &OffscreenWebView::loadChanged);
+    connect("load-failed", &OffscreenWebView::loadFailed);
+    connect("load-failed-with-tls-errors", &OffscreenWebView::certificateFailed);
+    connect("web-process-terminated", &OffscreenWebView::processDied);
 }
 
 void OffscreenWebView::awaitTurn(std::function<void()> begin)
@@ -83,66 +46,22 @@ void OffscreenWebView::load(const platform::URLRequest& request)
 {
     awaitTurn([this, request] {
         answerTimer_.start(
-            request.timeoutInterval, [this] { webkit_web_view_stop_loading(view_.get()); });
-        const bool revalidates =
-            request.cachePolicy == platform::URLRequest::CachePolicy::reloadRevalidatingCacheData;
-        const auto& address = request.url.absoluteString();
-        webkit_web_view_load_request(view_.get(), makeRequest(address, revalidates).get());
+            request.timeoutInterval, [this] { webkit_web_view_stop_loading(native()); });
+        loadAddress(native(), request.url.absoluteString(), request.cachePolicy);
     });
 }
 
 void OffscreenWebView::loadHTMLString(
     const std::string& html, const std::optional<platform::URL>& baseURL)
 {
-    awaitTurn([this, html, baseURL] { loadDocument(view_.get(), html, baseURL); });
-}
-
-void OffscreenWebView::evaluateJavaScript(const std::string& script)
-{
-    webkit_web_view_evaluate_javascript(view_.get(), script.data(),
-        static_cast<gssize>(script.size()), nullptr, nullptr, nullptr, nullptr, nullptr);
-}
-
-void OffscreenWebView::find(const std::string& text,
-    const platform::WKFindConfiguration& configuration,
-    std::function<void(const platform::WKFindResult&)> completion)
-{
-    search_.find(text, configuration, std::move(completion));
-}
-
-void OffscreenWebView::createPDF(const platform::WKPDFConfiguration&,
-    std::function<void(const PageDocument::Result&)> completion)
-{
-    output_.createPDF(size_.width, std::move(completion));
+    awaitTurn([this, html, baseURL] { EngineView::loadHTMLString(html, baseURL); });
 }
 
 std::shared_ptr<platform::NSPrintOperation> OffscreenWebView::printOperation(
     const platform::NSPrintInfo& printInfo)
 {
-    turn_.reset(); // from now on it is the user who takes time
-    return output_.print(printInfo);
-}
-
-double OffscreenWebView::estimatedProgress() const
-{
-    return webkit_web_view_get_estimated_load_progress(view_.get());
-}
-
-std::string OffscreenWebView::title() const
-{
-    const char* title = webkit_web_view_get_title(view_.get());
-    return title ? title : "";
-}
-
-OffscreenWebView::Observation OffscreenWebView::observe(
-    Property property, std::function<void()> handler)
-{
-    return observers_.add(property, std::move(handler));
-}
-
-void OffscreenWebView::setCustomUserAgent(const std::string& userAgent)
-{
-    webkit_settings_set_user_agent(webkit_web_view_get_settings(view_.get()), userAgent.c_str());
+    turn_.reset(); // from now on only the user takes time
+    return EngineView::printOperation(printInfo);
 }
 
 void OffscreenWebView::fail(const std::string& reason)
@@ -195,7 +114,7 @@ void OffscreenWebView::processDied(
     WebKitWebView*, WebKitWebProcessTerminationReason, OffscreenWebView* self)
 {
     const std::string reason = "The page has stopped unexpectedly.";
-    if (!self->output_.fail(reason))
+    if (!self->failDocuments(reason))
         self->fail(reason);
 }
 

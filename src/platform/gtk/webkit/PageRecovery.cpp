@@ -1,6 +1,6 @@
 #include "platform/gtk/webkit/PageRecovery.h"
 
-#include "platform/gtk/webkit/EngineRequest.h"
+#include "platform/gtk/webkit/EngineView.h"
 
 #include <string_view>
 #include <utility>
@@ -43,9 +43,7 @@ PageRecovery::PageRecovery(WebKitWebView* view, Gtk::Overlay& area,
 void PageRecovery::load(const platform::URLRequest& request)
 {
     request_ = request;
-    send(request.url.absoluteString(),
-        request.cachePolicy == platform::URLRequest::CachePolicy::reloadRevalidatingCacheData,
-        request.timeoutInterval);
+    send(request.url.absoluteString(), request.timeoutInterval, request.cachePolicy);
 }
 
 bool PageRecovery::hasPageForScript()
@@ -112,15 +110,15 @@ gboolean PageRecovery::loadFailed(
     else if (!reason && error->domain == WEBKIT_POLICY_ERROR && hasNothingToShow)
         reason = LoadFailure::Reason::noPage;
     if (!reason) {
-        // Nothing comes of the load, so it is not what is to be tried again when another one fails.
-        // One that it was given up for may already have been asked for.
+        // The load leads nowhere, so it must not be tried again when another one fails. The load
+        // that it was given up for may already have been asked for.
         if (error->domain == WEBKIT_POLICY_ERROR || self->isAskedFor(address))
             self->request_.reset();
         return TRUE;
     }
 
     if (event == WEBKIT_LOAD_COMMITTED)
-        self->hasPage_ = false; // half of one is none
+        self->hasPage_ = false; // a page that was cut off does not count as loaded
     self->fail(*reason, address);
     return TRUE;
 }
@@ -151,11 +149,12 @@ bool PageRecovery::isAskedFor(const std::string& address) const
     return request_ && request_->url.absoluteString() == address;
 }
 
-void PageRecovery::send(const std::string& address, bool revalidates, double secondsToAnswer)
+void PageRecovery::send(
+    const std::string& address, double secondsToAnswer, platform::URLRequest::CachePolicy policy)
 {
     revivesWhenShown_ = false;
     awaitAnswer(secondsToAnswer);
-    webkit_web_view_load_request(view_, makeRequest(address, revalidates).get());
+    loadAddress(view_, address, policy);
 }
 
 void PageRecovery::awaitAnswer(double seconds)
@@ -220,7 +219,7 @@ void PageRecovery::loadAgain(const std::string& address)
     else if (withoutFragment(address) == withoutFragment(currentAddress(view_)))
         webkit_web_view_reload(view_);
     else
-        send(address, false, patience_.answer);
+        send(address, patience_.answer);
 }
 
 void PageRecovery::revive()

@@ -9,10 +9,10 @@
 
 namespace gtk {
 
-// Sees to it that a web view ends on a page. It watches the loads and the content process: a load
-// that gets no answer is given up, a process that dies is replaced, and while there is no page to
-// be had a panel covers the view, from which the page is tried again. The engine's own error pages
-// never appear.
+// Makes sure that a web view ends on a page. It watches the loads and the content process: a load
+// that gets no answer is given up, a process that dies is replaced, and while there is no page a
+// panel covers the view, from which the page is tried again. The engine's own error pages never
+// appear.
 class PageRecovery {
 public:
     struct Callbacks {
@@ -20,14 +20,14 @@ public:
         std::function<void()> readinessChanged;
     };
 
-    // `view` and `area`, whose child it is, must outlive this.
+    // `view` and `area`, its parent, must outlive this.
     PageRecovery(WebKitWebView* view, Gtk::Overlay& area, std::shared_ptr<const HostTrust> trust,
         const PageTimeouts& patience, Callbacks callbacks);
 
     void load(const platform::URLRequest& request);
 
-    // Whether there is a page that a script can run in. Asking for it means that the user wants
-    // one: where the page has failed or died, it is loaded again.
+    // Whether there is a page that a script can run in. Asking means that the user wants the page:
+    // when it has failed or died, it is loaded again.
     bool hasPageForScript();
 
     // Takes the panel away from a page that is still alive under it, and gives up the load that has
@@ -36,7 +36,7 @@ public:
 
     void setShown(bool isShown);
 
-    // What the panel tells; null while there is none.
+    // What the panel tells; null while there is no panel.
     const LoadFailure* failure() const { return failure_ ? &*failure_ : nullptr; }
 
     // A page stands under the panel: the one from which the load that failed was started.
@@ -54,7 +54,8 @@ private:
     static void processDied(WebKitWebView*, WebKitWebProcessTerminationReason, PageRecovery* self);
 
     bool isAskedFor(const std::string& address) const;
-    void send(const std::string& address, bool revalidates, double secondsToAnswer);
+    void send(const std::string& address, double secondsToAnswer,
+        platform::URLRequest::CachePolicy policy = {});
     void awaitAnswer(double seconds);
     void giveUp();
     void commit();
@@ -72,7 +73,7 @@ private:
     const PageTimeouts patience_;
     const Callbacks callbacks_;
 
-    std::optional<platform::URLRequest> request_; // asked for, and no page has come of it yet
+    std::optional<platform::URLRequest> request_; // asked for; its page is not there yet
     std::optional<LoadFailure> failure_;
     std::unique_ptr<FailurePanel> panel_; // as long as there is a failure
     bool hasPage_ = false; // a document is there and its process is alive

@@ -1,7 +1,6 @@
 #include "platform/gtk/webkit/PageRequests.h"
 
-#include "platform/gtk/webkit/PageAddress.h"
-#include "platform/gtk/webkit/PendingDecision.h"
+#include "platform/gtk/webkit/EngineView.h"
 #include "platform/webkit/WKUIDelegate.h"
 
 #include <algorithm>
@@ -18,7 +17,7 @@ using platform::WKNavigationActionPolicy;
 
 constexpr guint middleButton = 2;
 
-// The engine loads what has one of these schemes; for any other it would show an error page.
+// The engine can load these schemes; for any other it would show an error page.
 constexpr std::array<std::string_view, 5> loadableSchemes = {
     "https", "http", "about", "data", "blob"};
 
@@ -32,13 +31,32 @@ bool isLoadable(std::string_view address)
     return std::ranges::find(loadableSchemes, schemeOf(address)) != loadableSchemes.end();
 }
 
-// What a page has put together itself: to be saved or shown, which the engine tells too late.
+// data: and blob: addresses; whether they are downloads is known only later.
 bool isMadeByPage(std::string_view address)
 {
     return schemeOf(address) == "data" || schemeOf(address) == "blob";
 }
 
-// The engine does not treat such a click as anything special.
+// The URL of an address that the engine tells. Absent for what the engine itself cannot make sense
+// of and passes on as it was written, since the engine and we would read different hosts in it.
+std::optional<URL> urlOfPageAddress(std::string_view address)
+{
+    auto url = URL::encodingInvalidCharacters(address);
+    if (!url || (url->scheme() != "https" && url->scheme() != "http"))
+        return url;
+
+    // In a web address that the engine has understood no escapes are left in the host.
+    const auto& text = url->absoluteString();
+    const auto start = text.find("//");
+    if (start == text.npos)
+        return url;
+    auto authority = std::string_view(text).substr(start + 2);
+    authority = authority.substr(0, authority.find_first_of("/?#"));
+    const auto host = authority.substr(authority.rfind('@') + 1); // all of it without an "@"
+    return host.find('%') == host.npos ? url : std::nullopt;
+}
+
+// A middle click, which the engine does not treat as anything special.
 bool asksForWindow(WebKitNavigationAction* action)
 {
     return webkit_navigation_action_get_navigation_type(action)
@@ -59,7 +77,7 @@ bool carriesFile(WebKitURIResponse* response)
         || status == SOUP_STATUS_NON_AUTHORITATIVE || status == SOUP_STATUS_PARTIAL_CONTENT;
 }
 
-// The engine takes paths, and decodes escapes in them that are none.
+// The engine takes paths, and decodes what looks like an escape in them.
 std::string pathForEngine(const URL& file)
 {
     std::string escaped;
@@ -67,6 +85,34 @@ std::string pathForEngine(const URL& file)
         escaped += letter == '%' ? "%25" : std::string(1, letter);
     return escaped;
 }
+
+// A question of the engine that is answered once. Without an answer it is refused in the end; the
+// engine would take it for allowed.
+class PendingDecision {
+public:
+    explicit PendingDecision(WebKitPolicyDecision* decision)
+        : decision_(retain(decision))
+    {
+    }
+    ~PendingDecision() { refuse(); }
+
+    PendingDecision(const PendingDecision&) = delete;
+    PendingDecision& operator=(const PendingDecision&) = delete;
+
+    // The first of these counts.
+    void allow() { answer(webkit_policy_decision_use); }
+    void download() { answer(webkit_policy_decision_download); }
+    void refuse() { answer(webkit_policy_decision_ignore); }
+
+private:
+    void answer(void (*choose)(WebKitPolicyDecision*))
+    {
+        if (const auto decision = std::move(decision_))
+            choose(decision.get());
+    }
+
+    ObjectPointer<WebKitPolicyDecision> decision_; // null once it is answered
+};
 
 void give(WebKitFileChooserRequest* request, const std::optional<std::vector<URL>>& files)
 {
@@ -84,9 +130,10 @@ void give(WebKitFileChooserRequest* request, const std::optional<std::vector<URL
 
 } // namespace
 
-PageRequests::PageRequests(WebKitWebView* view, platform::WKWebView& owner)
+PageRequests::PageRequests(EngineView& owner)
     : owner_(owner)
 {
+    auto* view = owner.native();
     signals_.connect(view, "decide-policy", G_CALLBACK(&PageRequests::decide), this);
     signals_.connect(view, "create", G_CALLBACK(&PageRequests::makeWindow), this);
     signals_.connect(view, "run-file-chooser", G_CALLBACK(&PageRequests::chooseFiles), this);
@@ -126,7 +173,7 @@ gboolean PageRequests::decideResponse(WebKitResponsePolicyDecision* decision)
     const char* address = webkit_uri_response_get_uri(response);
     auto* question = WEBKIT_POLICY_DECISION(decision);
     if (isMadeByPage(address)) {
-        ask(question, address, false); // had it been to be saved, it would not have come this far
+        ask(question, address, false); // a download never reaches the response decision
         return TRUE;
     }
     if (webkit_response_policy_decision_is_mime_type_supported(decision) || !carriesFile(response))
@@ -153,7 +200,7 @@ void PageRequests::ask(WebKitPolicyDecision* question, const char* address, bool
         case WKNavigationActionPolicy::allow:
             return pending->allow();
         case WKNavigationActionPolicy::download:
-            // The engine saves by itself what the page wants saved, and asks again about the rest.
+            // The engine saves real downloads by itself, and asks again about the rest.
             return mayBeDownload ? pending->allow() : pending->download();
         }
     });
@@ -168,7 +215,7 @@ GtkWidget* PageRequests::makeWindow(
 
 void PageRequests::askForWindow(const char* address)
 {
-    // Where would a second view be shown? One that the delegate makes all the same goes again.
+    // A view that the delegate makes is dropped: there is no place to show a second one.
     if (const auto delegate = owner_.uiDelegate.lock())
         delegate->createWebView(
             owner_, {.requestURL = urlOfPageAddress(address), .shouldPerformDownload = false});

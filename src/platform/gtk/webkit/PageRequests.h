@@ -1,19 +1,20 @@
 #pragma once
 
 #include "platform/gtk/foundation/SignalHandlers.h"
-#include "platform/webkit/WKWebView.h"
 
 #include <webkit/webkit.h>
 
 namespace gtk {
 
-// Brings what a page wants - to go somewhere, a window of its own, files of the user's - before the
-// delegates of its web view, and does what they decide. Where nobody is the delegate, pages of the
-// web are shown and nothing else.
+class EngineView;
+
+// Asks the delegates of a web view about what its pages want - to go somewhere, a window of their
+// own, files of the user's - and does what they decide. Without a delegate, pages of the web are
+// shown and nothing else.
 class PageRequests {
 public:
-    // `view` is the engine's part of `owner`, which must outlive this.
-    PageRequests(WebKitWebView* view, platform::WKWebView& owner);
+    // `owner` must outlive this.
+    explicit PageRequests(EngineView& owner);
 
 private:
     static gboolean decide(
@@ -26,7 +27,7 @@ private:
     void ask(WebKitPolicyDecision* decision, const char* address, bool mayBeDownload);
     void askForWindow(const char* address);
 
-    platform::WKWebView& owner_;
+    EngineView& owner_;
     SignalHandlers signals_;
 };
 

@@ -2,14 +2,21 @@
 
 #include "platform/gtk/foundation/SignalHandlers.h"
 #include "platform/gtk/foundation/Timer.h"
-#include "platform/gtk/webkit/PageTimeouts.h"
 
 #include <gio/gio.h>
 
 namespace gtk {
 
+// How long web views wait, in seconds.
+struct PageTimeouts {
+    double answer = 60; // from a page's own request until the answer has begun
+    double firstRetry = 5; // from a failure until the next attempt; doubled after each further one
+    double longestRetry = 60;
+    double secondDeath = 30; // a content process that dies again within this time is given up
+};
+
 // Decides when a load that has failed is tried again: when the network comes back, and from time to
-// time while somebody looks, each time after a longer pause.
+// time while the view is shown, each time after a longer pause.
 class RetrySchedule {
 public:
     RetrySchedule(const PageTimeouts& patience, std::function<void()> retry);
@@ -17,14 +24,13 @@ public:
     // An attempt has failed; there will be another one.
     void failed();
 
-    // An attempt is under way, by whomever: none is due before it has ended.
+    // An attempt is under way, whatever started it: the next one is due only after it has failed.
     void attempted() { timer_.stop(); }
 
     // No more attempts. The next failure starts with the shortest pause again.
     void stop();
 
-    // Nobody looks any more, so only the network counts; or somebody looks again, and will try at
-    // once.
+    // Whether the view is shown; while it is not, only the network counts.
     void setWatched(bool isWatched);
 
 private:

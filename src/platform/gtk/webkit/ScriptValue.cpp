@@ -67,8 +67,8 @@ private:
         return elements;
     }
 
-    // Members that are no objects come first, so that none is lost to the size of another. Those of
-    // the message itself are all read.
+    // Members that are not objects come first, so that a large member displaces none of them. The
+    // members of the message itself are all read.
     Value::Object members(JSCValue* object)
     {
         const bool isMessage = path_.size() == 1;

@@ -1,7 +1,6 @@
 #include "platform/gtk/webkit/WebEngine.h"
 
-#include "platform/gtk/webkit/PageDownloads.h"
-#include "platform/gtk/webkit/Sandbox.h"
+#include "platform/gtk/printing/PrintOperation.h"
 #include "platform/gtk/webkit/WebsiteData.h"
 
 #include <clocale>
@@ -12,8 +11,8 @@ namespace gtk {
 
 namespace {
 
-// So many pages that nobody sees are worked on at a time, so that those that somebody sees stay
-// quick. One that takes longer than this, in seconds, makes room for the next.
+// At most this many off-screen pages load at once; after this many seconds a slow one no longer
+// counts.
 constexpr std::size_t offscreenCount = 2;
 constexpr double offscreenPatience = 10;
 
@@ -45,8 +44,8 @@ ObjectPointer<WebKitNetworkSession> makePersistentSession(const StandardPaths& p
 {
     const auto data = paths.data / "web";
     const auto cache = paths.cache / "web";
-    std::error_code
-        error; // a folder that cannot be made leaves the session with what it can keep in memory
+    // Without the folders the session keeps in memory what it can.
+    std::error_code error;
     std::filesystem::create_directories(data, error);
     removeForgottenHosts(data);
 
@@ -58,6 +57,24 @@ ObjectPointer<WebKitNetworkSession> makePersistentSession(const StandardPaths& p
     return session;
 }
 
+gboolean cancel(WebKitDownload* download)
+{
+    webkit_download_cancel(download);
+    return TRUE;
+}
+
+// Cancels every download for which no web view chooses a destination: left alone, the engine would
+// save it under a name of its own, and might replace a file of the user's. The handlers of the web
+// views run first, and end the signal.
+void refuseOtherDownloads(WebKitNetworkSession* session)
+{
+    g_signal_connect(session, "download-started",
+        G_CALLBACK(+[](WebKitNetworkSession*, WebKitDownload* download) {
+            g_signal_connect_after(download, "decide-destination", G_CALLBACK(cancel), nullptr);
+        }),
+        nullptr);
+}
+
 } // namespace
 
 WebEngine::WebEngine(
@@ -66,6 +83,7 @@ WebEngine::WebEngine(
     , trust_(std::move(trust))
     , isAccelerated_(isAccelerated)
     , offscreenLoads_(std::make_shared<LoadLimiter>(offscreenCount, offscreenPatience))
+    , printChoice_(std::make_shared<PrintChoice>())
 {
 }
 
@@ -87,11 +105,6 @@ void WebEngine::startContentProcess()
     webkit_web_view_load_uri(spareView_.get(), "about:blank"); // without a load there is no process
 }
 
-std::optional<std::string> WebEngine::missingSandboxHelper() const
-{
-    return sandboxProblem();
-}
-
 ObjectPointer<WebKitNetworkSession> WebEngine::session(platform::WKWebsiteDataStore store)
 {
     const bool isPersistent = store == platform::WKWebsiteDataStore::defaultDataStore;
@@ -104,7 +117,7 @@ ObjectPointer<WebKitNetworkSession> WebEngine::session(platform::WKWebsiteDataSt
         ? makePersistentSession(paths_)
         : ObjectPointer<WebKitNetworkSession>(webkit_network_session_new_ephemeral());
     trust_->apply(session.get());
-    PageDownloads::refuseOthers(session.get());
+    refuseOtherDownloads(session.get());
     if (isPersistent)
         session_ = retain(session.get());
     return session;

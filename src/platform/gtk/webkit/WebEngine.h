@@ -2,10 +2,9 @@
 
 #include "platform/gtk/foundation/StandardPaths.h"
 #include "platform/gtk/network/HostTrust.h"
-#include "platform/gtk/printing/PrintChoice.h"
 #include "platform/gtk/webkit/LoadLimiter.h"
-#include "platform/gtk/webkit/PageTimeouts.h"
 #include "platform/gtk/webkit/ProcessSharing.h"
+#include "platform/gtk/webkit/RetrySchedule.h"
 #include "platform/gtk/webkit/VisiblePage.h"
 #include "platform/webkit/WKWebViewConfiguration.h"
 
@@ -13,8 +12,10 @@
 
 namespace gtk {
 
-// What the web views of a program share: where they keep data, whom they trust, and which of them
-// is in front. Its processes end when it and the last view have gone.
+struct PrintChoice;
+
+// What the web views of a program share: where they keep data, which servers they trust, and which
+// of them is in front. Its processes end when it and the last view have gone.
 class WebEngine {
 public:
     // Cookies and storage go to the folder "web" of the program's data, and of its caches. Where
@@ -35,13 +36,10 @@ public:
     // can load. After GTK is initialised.
     void startContentProcess();
 
-    // An empty view whose content process is running, for the next view to join; null when there is
-    // none. Whoever takes it lets go of it once that view has a page.
+    // An empty view whose content process is running, for the next view to join; null when it has
+    // been taken or was never made. The view that takes it drops it once it loads a page itself.
+    WebKitWebView* spareView() const { return spareView_.get(); }
     ObjectPointer<WebKitWebView> takeSpareView() { return std::move(spareView_); }
-
-    // Why web views cannot be made, in a few words; to be asked before the first one, which would
-    // end the program.
-    std::optional<std::string> missingSandboxHelper() const;
 
     // Whether the web view in front shows a page that has been loaded to its end; the signal tells
     // each change.
@@ -70,7 +68,7 @@ private:
     std::shared_ptr<ProcessSharing> sharing_ = std::make_shared<ProcessSharing>();
     std::shared_ptr<VisiblePage> visiblePage_ = std::make_shared<VisiblePage>();
     const std::shared_ptr<LoadLimiter> offscreenLoads_;
-    const std::shared_ptr<PrintChoice> printChoice_ = std::make_shared<PrintChoice>();
+    const std::shared_ptr<PrintChoice> printChoice_;
     ObjectPointer<WebKitNetworkSession> session_; // made when first needed
     ObjectPointer<WebKitWebView> spareView_;
 };

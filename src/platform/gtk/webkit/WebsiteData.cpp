@@ -1,6 +1,9 @@
 #include "platform/gtk/webkit/WebsiteData.h"
 
-#include <memory>
+#include "platform/gtk/foundation/AsyncCallback.h"
+#include "platform/gtk/foundation/ObjectPointer.h"
+
+#include <glibmm/main.h>
 #include <vector>
 
 namespace gtk {
@@ -11,23 +14,23 @@ namespace fs = std::filesystem;
 
 // The engine writes an answer to its cache a second after it has come, also when the cache was
 // cleared in between.
-constexpr guint lateWrites = 3000; // milliseconds until the last of them
+constexpr unsigned lateWrites = 3000; // milliseconds until the last of them
 
 void clearCacheLater(WebKitWebsiteDataManager* manager)
 {
-    const auto clear = +[](gpointer manager) -> gboolean {
-        webkit_website_data_manager_clear(WEBKIT_WEBSITE_DATA_MANAGER(manager),
-            WEBKIT_WEBSITE_DATA_DISK_CACHE, 0, nullptr, nullptr, nullptr);
-        return G_SOURCE_REMOVE;
-    };
-    g_timeout_add_full(
-        G_PRIORITY_DEFAULT, lateWrites, clear, g_object_ref(manager), g_object_unref);
+    const std::shared_ptr<WebKitWebsiteDataManager> kept(retain(manager));
+    Glib::signal_timeout().connect_once(
+        [kept] {
+            webkit_website_data_manager_clear(
+                kept.get(), WEBKIT_WEBSITE_DATA_DISK_CACHE, 0, nullptr, nullptr, nullptr);
+        },
+        lateWrites);
 }
 
 std::vector<fs::path> foldersIn(const fs::path& folder)
 {
     std::vector<fs::path> folders;
-    std::error_code error; // means that there are none
+    std::error_code error; // means that there are no folders
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
         if (entry->is_directory(error) && !entry->is_symlink(error))
@@ -36,7 +39,7 @@ std::vector<fs::path> foldersIn(const fs::path& folder)
     return folders;
 }
 
-// Nothing but the file with the host's name, and folders that are empty.
+// Whether there is nothing but the file with the host's name, and empty folders.
 bool isForgotten(const fs::path& host)
 {
     std::error_code error;
@@ -52,17 +55,15 @@ bool isForgotten(const fs::path& host)
 
 void removeWebsiteData(WebKitNetworkSession* session, std::function<void()> completion)
 {
-    const auto removed = +[](GObject* object, GAsyncResult* result, gpointer data) {
-        const std::unique_ptr<std::function<void()>> completion(
-            static_cast<std::function<void()>*>(data));
-        auto* manager = WEBKIT_WEBSITE_DATA_MANAGER(object);
-        webkit_website_data_manager_clear_finish(manager, result, nullptr);
-        clearCacheLater(manager);
-        (*completion)();
-    };
+    const auto callback =
+        asyncCallback([completion = std::move(completion)](GObject* object, GAsyncResult* result) {
+            auto* manager = WEBKIT_WEBSITE_DATA_MANAGER(object);
+            webkit_website_data_manager_clear_finish(manager, result, nullptr);
+            clearCacheLater(manager);
+            completion();
+        });
     webkit_website_data_manager_clear(webkit_network_session_get_website_data_manager(session),
-        WEBKIT_WEBSITE_DATA_ALL, 0, nullptr, removed,
-        new std::function<void()>(std::move(completion)));
+        WEBKIT_WEBSITE_DATA_ALL, 0, nullptr, callback.function, callback.data);
 }
 
 void removeForgottenHosts(const fs::path& data)

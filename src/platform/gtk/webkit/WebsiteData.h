@@ -8,8 +8,8 @@ namespace gtk {
 
 // Removes all that pages have left in the session, in memory and on the disk, but for the names of
 // hosts that have stored something: the engine keeps those while one of their pages is open.
-// `completion` is called when that has been done. What the engine has yet to write to its cache by
-// then goes within seconds.
+// `completion` is called when that has been done. What the engine writes to its cache after that is
+// removed within seconds.
 void removeWebsiteData(WebKitNetworkSession* session, std::function<void()> completion);
 
 // Removes the names of hosts below the engine's folder for data that have nothing stored any more.
