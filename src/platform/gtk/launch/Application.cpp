@@ -26,13 +26,6 @@ namespace gtk {
 namespace {
 constexpr double longestStart = 10; // seconds until a page that is still loading holds up nothing
 
-// "New Tab" is "NewTab" in the desktop entry, which also keeps it apart from the menu bar's own.
-std::string dockActionName(std::string title)
-{
-    std::erase(title, ' ');
-    return title;
-}
-
 } // namespace
 
 Application::Application(
@@ -102,8 +95,8 @@ int Application::run(platform::NSApplicationDelegate& delegate, const ui::Scene&
 {
     delegate_ = &delegate;
     scene_ = &scene;
-    for (const auto& title : scene.dockMenu)
-        program_.addAction(dockActionName(title), [this, title] { chooseInDock(title); });
+    for (const auto& action : scene.dockMenu)
+        program_.addAction(action.id, [this, item = action.menuItem] { chooseInDock(item); });
 
     const TerminationSignals signals([this] { terminate(); });
     const int status = program_.run(address_);
@@ -157,15 +150,15 @@ void Application::receiveNotificationClick(const Program::UserInfo& userInfo)
     platform_.notificationCenter().receiveClick(userInfo);
 }
 
-void Application::chooseInDock(const std::string& title)
+void Application::chooseInDock(const std::string& menuItem)
 {
     if (isTerminating_)
         return;
     comeForward();
-    requests_.enqueue([this, title] {
+    requests_.enqueue([this, menuItem] {
         // The desktop may give the keyboard late, or to another window.
         ui::FocusedScene::current().values = windows_.front()->focusedValues();
-        menuBar_->choose(title);
+        menuBar_->choose(menuItem);
         followFocus();
     });
 }

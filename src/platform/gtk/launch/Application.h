@@ -44,7 +44,7 @@ private:
     void activate();
     void open(const std::vector<std::string>& addresses);
     void receiveNotificationClick(const Program::UserInfo& userInfo);
-    void chooseInDock(const std::string& title);
+    void chooseInDock(const std::string& menuItem);
 
     void comeForward();
     void launchOnce();
