@@ -52,13 +52,6 @@ public:
     void setMinSize(platform::NSSize size) override;
     bool isFullScreen() const override { return window_->is_fullscreen(); }
 
-    std::uint32_t collectionBehavior() const override { return collectionBehavior_; }
-    void setCollectionBehavior(std::uint32_t behavior) override { collectionBehavior_ = behavior; }
-    TabbingMode tabbingMode() const override { return tabbingMode_; }
-    void setTabbingMode(TabbingMode mode) override { tabbingMode_ = mode; }
-    bool isRestorable() const override { return isRestorable_; }
-    void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
-
     bool canBecomeMainWindow() const override { return !isClosed_; }
     platform::NSView* contentView() const override { return contentView_.get(); }
     void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
@@ -94,9 +87,6 @@ private:
     platform::NSWindowDelegate* delegate_ = nullptr;
     platform::NSRect frame_; // as last asked for
     platform::NSSize minSize_;
-    std::uint32_t collectionBehavior_ = 0;
-    TabbingMode tabbingMode_ = TabbingMode::automatic;
-    bool isRestorable_ = true;
     bool isClosed_ = false;
     Extent extent_; // as last told
     bool isCheckQueued_ = false;

@@ -21,13 +21,6 @@ public:
     void setMinSize(platform::NSSize size) override { minSize_ = size; }
     bool isFullScreen() const override { return false; }
 
-    std::uint32_t collectionBehavior() const override { return collectionBehavior_; }
-    void setCollectionBehavior(std::uint32_t behavior) override { collectionBehavior_ = behavior; }
-    TabbingMode tabbingMode() const override { return tabbingMode_; }
-    void setTabbingMode(TabbingMode mode) override { tabbingMode_ = mode; }
-    bool isRestorable() const override { return isRestorable_; }
-    void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
-
     bool canBecomeMainWindow() const override { return false; }
     platform::NSView* contentView() const override { return contentView_.get(); }
     void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
@@ -37,9 +30,6 @@ public:
 private:
     platform::NSRect frame_;
     platform::NSSize minSize_;
-    std::uint32_t collectionBehavior_ = 0;
-    TabbingMode tabbingMode_ = TabbingMode::automatic;
-    bool isRestorable_ = true;
     platform::NSWindowDelegate* delegate_ = nullptr;
     std::shared_ptr<OffscreenWebView> contentView_; // null once the window is closed
 };
