@@ -23,7 +23,8 @@
 #include "platform/gtk/panels/SharePanel.h"
 #include "platform/gtk/renderer/RendererSafeguard.h"
 #include "platform/gtk/sparkle/GtkUpdaterController.h"
-#include "platform/gtk/ui/PlainView.h"
+#include "platform/gtk/ui/NativeWidget.h"
+#include "platform/gtk/ui/NativeWindow.h"
 #include "platform/gtk/ui/TextField.h"
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
 #include "platform/gtk/usernotifications/GtkUserNotificationCenter.h"
@@ -39,6 +40,7 @@
 #include <future>
 #include <gio/gio.h>
 #include <glibmm/init.h>
+#include <gtkmm/box.h>
 
 namespace gtk {
 
@@ -56,6 +58,23 @@ StandardPaths standardPaths()
 {
     return StandardPaths::forProgram(programName);
 }
+
+// A native view with nothing in it, through which clicks fall.
+class PlainView final : public platform::NSView, public NativeView {
+public:
+    PlainView() { area_.set_can_target(false); }
+    ~PlainView() override
+    {
+        if (area_.get_parent())
+            area_.unparent();
+    }
+
+    platform::NSWindow* window() const override { return platformWindow(area_); }
+    Gtk::Widget& nativeWidget() override { return area_; }
+
+private:
+    Gtk::Box area_;
+};
 
 } // namespace
 

@@ -7,19 +7,18 @@
 #include "platform/gtk/GtkPlatform.h"
 #include "platform/gtk/launch/DisplayLossHandler.h"
 #include "platform/gtk/launch/TerminationSignals.h"
+#include "platform/gtk/menus/FocusTracker.h"
 #include "platform/gtk/menus/MenuBar.h"
 #include "platform/gtk/menus/ShortcutsPanel.h"
-#include "platform/gtk/menus/StandardCommands.h"
 #include "platform/gtk/renderer/RendererSafeguard.h"
+#include "platform/gtk/ui/FirstFrame.h"
+#include "platform/gtk/ui/Pictures.h"
 #include "platform/gtk/usernotifications/GtkUserNotificationCenter.h"
 #include "platform/gtk/webkit/WebEngine.h"
-#include "platform/gtk/windows/ApplicationIcon.h"
-#include "platform/gtk/windows/FocusTracker.h"
 #include "platform/gtk/windows/MainWindow.h"
 #include "platform/ui/FocusedScene.h"
 
 #include <algorithm>
-#include <glibmm/main.h>
 
 namespace gtk {
 
@@ -138,7 +137,7 @@ void Application::open(const std::vector<std::string>& addresses)
     comeForward();
     for (const auto& address : addresses) {
         if (const auto url = platform::URL::fromString(address))
-            requests_.enqueue([this, url = *url] { windows_.front()->openURL(url); });
+            requests_.enqueue([this, url = *url] { windows_.front()->mount().openURL(url); });
     }
 }
 
@@ -157,7 +156,7 @@ void Application::chooseInDock(const std::string& menuItem)
     comeForward();
     requests_.enqueue([this, menuItem] {
         // The desktop may give the keyboard late, or to another window.
-        ui::FocusedScene::current().values = windows_.front()->focusedValues();
+        ui::FocusedScene::current().values = windows_.front()->mount().focusedValues();
         menuBar_->choose(menuItem);
         followFocus();
     });
@@ -222,7 +221,7 @@ void Application::perform(ui::StandardCommand command)
     else if (command == ui::StandardCommand::showShortcuts)
         showShortcuts(menuBar_->menus(), focus_->window());
     else
-        gtk::perform(command, *focus_);
+        focus_->perform(command);
 }
 
 void Application::followFocus()
@@ -231,7 +230,7 @@ void Application::followFocus()
         return GTK_WINDOW(window->native().gobj()) == focus_->window();
     });
     ui::FocusedScene::current().values =
-        found == windows_.end() ? nullptr : (*found)->focusedValues();
+        found == windows_.end() ? nullptr : (*found)->mount().focusedValues();
 }
 
 void Application::reopen()
@@ -253,9 +252,7 @@ void Application::makeWindow()
     adopt(window);
     windows_.push_back(window);
 
-    // The views have just queued what they do to their window; it is shown when that is done, and
-    // when the engine has answered its processes, which would wait until the window is drawn.
-    Glib::signal_idle().connect_once([weakWindow = std::weak_ptr(window)] {
+    whenEngineHasAnswered([weakWindow = std::weak_ptr(window)] {
         if (const auto window = weakWindow.lock())
             window->makeKeyAndOrderFront();
     });

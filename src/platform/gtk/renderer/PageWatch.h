@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
+#include "platform/gtk/foundation/Lifetime.h"
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 
 namespace gtk {
 
@@ -51,7 +51,7 @@ private:
     std::int64_t windowFrames_ = 0;
     int secondsWithoutWindow_ = 0;
     int secondsWithoutPage_ = 0;
-    std::shared_ptr<void> life_ = std::make_shared<char>();
+    Lifetime lifetime_;
 };
 
 } // namespace gtk

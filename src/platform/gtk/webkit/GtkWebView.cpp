@@ -1,11 +1,10 @@
 #include "platform/gtk/webkit/GtkWebView.h"
 
-#include "platform/gtk/ui/Reachability.h"
+#include "platform/gtk/ui/NativeWindow.h"
 #include "platform/gtk/webkit/EngineRequest.h"
 #include "platform/gtk/webkit/PageRefusals.h"
 #include "platform/gtk/webkit/VisiblePage.h"
 #include "platform/gtk/webkit/WebEngine.h"
-#include "platform/gtk/windows/MainWindow.h"
 
 #include <gtkmm/settings.h>
 
@@ -150,7 +149,7 @@ void GtkWebView::historyChanged()
 
 platform::NSWindow* GtkWebView::window() const
 {
-    return MainWindow::holding(area_);
+    return platformWindow(area_);
 }
 
 void GtkWebView::setShown(bool isShown)

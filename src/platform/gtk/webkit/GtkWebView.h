@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/gtk/printing/PageOutput.h"
-#include "platform/gtk/ui/NativeView.h"
+#include "platform/gtk/ui/NativeWidget.h"
 #include "platform/gtk/webkit/FileDrop.h"
 #include "platform/gtk/webkit/GtkUserContentController.h"
 #include "platform/gtk/webkit/PageBackground.h"

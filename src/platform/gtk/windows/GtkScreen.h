@@ -32,4 +32,11 @@ private:
     GdkMonitor* monitor_; // owns this
 };
 
+// The desktop counts from its upper left corner downwards, `NSRect` from the lower left corner of
+// the first screen upwards. `first` is where that screen lies on the desktop.
+platform::NSRect fromDesktop(const Gdk::Rectangle& area, const Gdk::Rectangle& first);
+
+// To whole points, rounded up and to the left.
+Gdk::Rectangle toDesktop(const platform::NSRect& area, const Gdk::Rectangle& first);
+
 } // namespace gtk

@@ -3,11 +3,10 @@
 #include "platform/appkit/NSWindowDelegate.h"
 #include "platform/appkit/NSWindowDescription.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/gtk/windows/ApplicationIcon.h"
-#include "platform/gtk/windows/CloseRequests.h"
+#include "platform/gtk/ui/NativeWindow.h"
+#include "platform/gtk/ui/Pictures.h"
 #include "platform/gtk/windows/GtkScreen.h"
 #include "platform/gtk/windows/PanelFrame.h"
-#include "platform/gtk/windows/ScreenCoordinates.h"
 #include "platform/gtk/windows/X11Window.h"
 
 #include <cmath>
@@ -17,8 +16,6 @@
 namespace gtk {
 
 namespace {
-
-constexpr auto windowKey = "velmaro-window";
 
 int whole(double points)
 {
@@ -34,6 +31,11 @@ void showIcon(Gdk::Surface& surface)
         return;
     GList list{.data = icon->gobj(), .next = nullptr, .prev = nullptr};
     gdk_toplevel_set_icon_list(GDK_TOPLEVEL(surface.gobj()), &list);
+}
+
+guint eventSignal()
+{
+    return g_signal_lookup("event", GDK_TYPE_SURFACE);
 }
 
 } // namespace
@@ -56,6 +58,50 @@ public:
 private:
     MainWindow& window_;
 };
+
+// The window manager's requests to close a window. The toolkit drops them while something modal,
+// such as the print panel, is in front of that window; here all of them are told.
+class MainWindow::CloseRequests {
+public:
+    // Tells of those for the window of `surface`, before the toolkit gets them.
+    CloseRequests(GdkSurface* surface, std::function<void()> requested);
+    ~CloseRequests();
+
+    CloseRequests(const CloseRequests&) = delete;
+    CloseRequests& operator=(const CloseRequests&) = delete;
+
+private:
+    static gboolean receive(
+        GSignalInvocationHint*, guint, const GValue* arguments, gpointer requests);
+
+    GdkSurface* surface_; // only compared
+    std::function<void()> requested_;
+    gulong hook_;
+};
+
+// The toolkit's handler comes before any other and ends the signal, so only a hook sees them all.
+MainWindow::CloseRequests::CloseRequests(GdkSurface* surface, std::function<void()> requested)
+    : surface_(surface)
+    , requested_(std::move(requested))
+    , hook_(g_signal_add_emission_hook(eventSignal(), 0, receive, this, nullptr))
+{
+}
+
+MainWindow::CloseRequests::~CloseRequests()
+{
+    g_signal_remove_emission_hook(eventSignal(), hook_);
+}
+
+gboolean MainWindow::CloseRequests::receive(
+    GSignalInvocationHint*, guint, const GValue* arguments, gpointer requests)
+{
+    const auto* self = static_cast<CloseRequests*>(requests);
+    auto* event = static_cast<GdkEvent*>(g_value_get_pointer(arguments + 1));
+    if (g_value_peek_pointer(arguments) == self->surface_
+        && gdk_event_get_event_type(event) == GDK_DELETE)
+        self->requested_();
+    return TRUE; // goes on
+}
 
 MainWindow::MainWindow(const ui::Scene& scene)
     : MainWindow(scene.content())
@@ -85,7 +131,7 @@ MainWindow::MainWindow(ui::View content)
     : content_(std::move(content))
     , contentView_(std::make_shared<ContentView>(*this))
 {
-    g_object_set_data(G_OBJECT(window_->gobj()), windowKey, this);
+    setPlatformWindow(*window_, this);
     window_->signal_realize().connect(sigc::mem_fun(*this, &MainWindow::watchSurface));
     window_->signal_close_request().connect(
         [this] {
@@ -97,15 +143,9 @@ MainWindow::MainWindow(ui::View content)
 
 MainWindow::~MainWindow()
 {
-    g_object_set_data(G_OBJECT(window_->gobj()), windowKey, nullptr);
+    setPlatformWindow(*window_, nullptr);
     panelFrame_.reset();
     window_->unset_child();
-}
-
-MainWindow* MainWindow::holding(const Gtk::Widget& widget)
-{
-    auto* root = gtk_widget_get_root(const_cast<GtkWidget*>(widget.gobj()));
-    return root ? static_cast<MainWindow*>(g_object_get_data(G_OBJECT(root), windowKey)) : nullptr;
 }
 
 bool MainWindow::isVisible() const

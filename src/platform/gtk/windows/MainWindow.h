@@ -15,7 +15,6 @@ struct NSWindowDescription;
 
 namespace gtk {
 
-class CloseRequests;
 class PanelFrame;
 
 // A window of the application: of its scene, or one beside those. It is made hidden.
@@ -25,22 +24,13 @@ public:
     explicit MainWindow(const platform::NSWindowDescription& description);
     ~MainWindow() override;
 
-    // The one that `widget` is in; null while it is in none.
-    static MainWindow* holding(const Gtk::Widget& widget);
-
     // The user or the program closes the window, which is still whole then.
     sigc::signal<void()>& signalClosed() { return signalClosed_; }
 
     Gtk::ApplicationWindow& native() { return *window_; }
 
-    // Hands `url` to the views that open addresses.
-    void openURL(const platform::URL& url) { content_.openURL(url); }
-
-    // What its views publish for the menus.
-    std::shared_ptr<const ui::Published<ui::FocusedValues>> focusedValues() const
-    {
-        return content_.focusedValues();
-    }
+    // Its views.
+    ui::Mount& mount() { return content_.mount(); }
 
     bool isKeyWindow() const { return window_->is_active(); }
 
@@ -59,6 +49,7 @@ public:
     void close() override;
 
 private:
+    class CloseRequests;
     class ContentView;
 
     // How large the window is, and what it is measured against.

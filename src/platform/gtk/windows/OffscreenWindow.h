@@ -1,7 +1,9 @@
 #pragma once
 
-#include "platform/appkit/NSWindow.h"
+#include "platform/appkit/NSWindowDelegate.h"
 #include "platform/gtk/webkit/OffscreenWebView.h"
+
+#include <utility>
 
 namespace gtk {
 
@@ -10,7 +12,12 @@ namespace gtk {
 // desktop that does not let programs place their windows either.
 class OffscreenWindow final : public platform::NSWindow {
 public:
-    OffscreenWindow(const platform::NSRect& frame, std::shared_ptr<OffscreenWebView> contentView);
+    OffscreenWindow(const platform::NSRect& frame, std::shared_ptr<OffscreenWebView> contentView)
+        : frame_(frame)
+        , contentView_(std::move(contentView))
+    {
+        contentView_->setWindow(this);
+    }
     ~OffscreenWindow() override { close(); }
 
     platform::NSScreen* screen() const override { return nullptr; }
@@ -25,7 +32,15 @@ public:
     platform::NSView* contentView() const override { return contentView_.get(); }
     void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
     void makeKeyAndOrderFront() override { }
-    void close() override;
+    void close() override
+    {
+        const auto view = std::exchange(contentView_, nullptr);
+        if (!view)
+            return;
+        if (delegate_)
+            delegate_->windowWillClose(*this);
+        view->setWindow(nullptr);
+    }
 
 private:
     platform::NSRect frame_;
