@@ -98,7 +98,19 @@ GtkPlatform::GtkPlatform(Options options)
     g_set_prgname(options_.identifier.c_str());
     // Texts for people follow the user's language; numbers in scripts and files must not.
     Glib::set_init_to_users_preferred_locale(false);
-    application_ = std::make_unique<Application>(*this, options_.identifier, options_.address);
+    application_ = std::make_unique<Application>(
+        Application::Services{
+            .mainQueue = *mainQueue_,
+            .rendererSafeguard = *rendererSafeguard_,
+            .prepare = [this] { return prepare(); },
+            .webEngine = [this]() -> WebEngine& { return webEngine(); },
+            .followAppearance = [this] { followAppearance(); },
+            .receiveNotificationClick =
+                [this](const auto& userInfo) { notificationCenter().receiveClick(userInfo); },
+            .showPermissions = [this] { showPermissions(); },
+            .saveSettings = [this] { saveSettings(); },
+        },
+        options_.identifier, options_.address);
 }
 
 GtkPlatform::~GtkPlatform()
@@ -365,7 +377,7 @@ GtkUserNotificationCenter& GtkPlatform::notificationCenter()
         return *notificationCenter_;
     if (isSandboxed()) {
         notificationCenter_ = std::make_unique<GtkUserNotificationCenter>(*mainQueue_, nullptr,
-            std::make_unique<PortalNotifications>(Program::notificationAction));
+            std::make_unique<PortalNotifications>(Application::notificationAction));
         return *notificationCenter_;
     }
     auto permission = std::make_unique<Permission>(*mainQueue_, permissions(),

@@ -96,27 +96,16 @@ public:
     // What all web views share; made on first use.
     WebEngine& webEngine();
 
-    RendererSafeguard& rendererSafeguard() { return *rendererSafeguard_; }
-
-    GtkUserNotificationCenter& notificationCenter();
-
-    // Lets the user change what they have allowed, in a window over the one in use.
-    void showPermissions();
-
-    // Sets the web engine going while the window has yet to be made. Returns why the program cannot
-    // run; absent when it can.
+private:
+    // What the application asks for while it runs.
     std::optional<std::string> prepare();
-
-    // Looks as the desktop is told to, from now on. Once there is a display, before the first
-    // window is made.
     void followAppearance();
-
-    // Returns when the settings are on the disk, or could not be put there.
+    void showPermissions();
     void saveSettings();
 
-private:
     GtkUserDefaults& permissions();
     LocationServices& locationServices();
+    GtkUserNotificationCenter& notificationCenter();
 
     const Options options_;
 
