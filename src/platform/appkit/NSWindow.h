@@ -34,7 +34,7 @@ public:
 
     virtual ~NSWindow() = default;
 
-    // The screen that holds the largest part of the window; null when it is on none.
+    // The screen that holds the largest part of the window; null when it is on no screen.
     virtual NSScreen* screen() const = 0;
 
     // The user sees it, or would if no other window covered it.
@@ -65,8 +65,8 @@ public:
     // The view that fills the window; null before there is one.
     virtual NSView* contentView() const = 0;
 
-    // Who is told what becomes of the window; null for nobody. It must outlive the window, or take
-    // itself away first.
+    // Tells `delegate` from now on what becomes of the window; null takes it away. It must outlive
+    // the window, or take itself away first.
     virtual void setDelegate(NSWindowDelegate* delegate) = 0;
 
     // Moves the window to the middle of its screen.

@@ -256,7 +256,7 @@ std::shared_ptr<platform::SPUStandardUpdaterController> GtkPlatform::makeUpdater
     const auto bundleText = [this](const char* key) {
         return bundle_->stringForInfoDictionaryKey(key).value_or("");
     };
-    std::error_code ignored; // a program that cannot be found belongs to nobody
+    std::error_code ignored; // a program that cannot be found has no owner
     auto updater = std::make_shared<GtkUpdaterController>(
         UpdateOptions{
             .feed = options_.updateFeed,

@@ -35,15 +35,15 @@ public:
         std::string identifier; // of the application, in reverse domain order
         std::optional<std::string> address; // to be opened
         std::string geocoder; // address of the service that finds places
-        std::string updateFeed = {}; // https address of the list of versions; empty: there is none
+        std::string updateFeed = {}; // https address of the list of versions; empty without a list
         std::string updateKey = {}; // with which packages are signed: Ed25519, in Base64
     };
 
     explicit GtkPlatform(Options options);
     ~GtkPlatform() override;
 
-    // Trusts a certificate for its hosts and no others. Why that cannot be done, when its file
-    // holds none. To be called before the application runs.
+    // Trusts a certificate for its hosts and no others. Returns why that cannot be done, when its
+    // file holds no certificate. To be called before the application runs.
     std::optional<std::string> trust(HostCertificate certificate);
 
     // Tells whose pages will be shown first, so that its address is looked up while the program

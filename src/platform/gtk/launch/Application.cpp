@@ -28,7 +28,7 @@ namespace {
 constexpr double longestStart = 10; // seconds until a page that is still loading holds up nothing
 constexpr auto applicationKey = "velmaro-application";
 
-// Nothing that would have to be wound up exists yet.
+// Called before anything exists that would have to be wound up.
 [[noreturn]] void giveUp(const std::string& reason)
 {
     std::fprintf(stderr, "velmaro-online: %s\n", reason.c_str());
@@ -188,7 +188,8 @@ int Application::run(platform::NSApplicationDelegate& delegate, const ui::Scene&
     menus_.reset();
     focus_.reset();
 
-    // Only now, since another start would wait for this one as long as its name is on the bus.
+    // Windows go only now that the name is off the bus: until then, another start waits for this
+    // one.
     closedWindows_.clear();
     windows_.clear();
     otherWindows_.clear();
@@ -277,8 +278,8 @@ void Application::launchOnce()
     if (isLaunched_)
         return;
     isLaunched_ = true;
-    g_application_hold(
-        G_APPLICATION(object_.get())); // windows alone do not decide how long the program lives
+    // Windows alone do not decide how long the program lives.
+    g_application_hold(G_APPLICATION(object_.get()));
     displayLossHandler_ = std::make_unique<DisplayLossHandler>([this] { finish(); });
     auto& queue = services_.mainQueue;
     services_.webEngine().signalVisiblePageChanged().connect([this, &queue] {
@@ -372,7 +373,7 @@ void Application::windowClosed(MainWindow& window)
         return;
     closedWindows_.push_back(self);
 
-    // Those beside the scene's, such as About, are no reason to go on.
+    // Windows beside the scene's, such as About, do not keep the program alive.
     if (windows_.empty() && delegate_->applicationShouldTerminateAfterLastWindowClosed(*this))
         terminate();
     else

@@ -71,8 +71,7 @@ public:
         const platform::NSWindowDescription& description) override;
     bool hasApplicationIconImage() const override;
 
-    // In a start that is not the user's first, hands the address to the running program and returns
-    // at once.
+    // Where the program runs already, hands the address to it and returns at once.
     int run(platform::NSApplicationDelegate& delegate, const ui::Scene& scene) override;
     void activateIgnoringOtherApps(bool) override { } // windows come forward, one by one
     void terminate() override;

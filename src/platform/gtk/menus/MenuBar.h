@@ -20,7 +20,7 @@ public:
     // `application` must outlive this.
     MenuBar(GtkApplication* application, Perform perform);
 
-    // Takes the place of what was shown before. The first call must come before the first window.
+    // Shows these in place of the menus before. The first call must come before the first window.
     void show(std::vector<ui::Menu> menus);
 
     // Does what the item with this id says, as if it had been chosen; nothing where there is no

@@ -12,8 +12,8 @@ namespace gtk {
 // everything else does. It looks once a second, from the first second of the program until there is
 // such a picture or it has given up.
 //
-// Time counts only while pictures of the window keep coming: a window that nobody can see gets
-// none, and one that is slow gets fewer, in which the page may yet appear.
+// Time counts only while pictures of the window keep coming: a window that is out of sight is not
+// painted, and a slow one is painted less often, so the page may yet appear in it.
 class PageWatch {
 public:
     struct Sight {

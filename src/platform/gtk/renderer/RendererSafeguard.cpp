@@ -49,7 +49,7 @@ Node lastPainted(GtkWidget* widget)
     return Node(gtk_snapshot_free_to_node(snapshot));
 }
 
-// The engine paints by way of this even when it has nothing to paint.
+// The engine makes such a recording even when it has nothing to paint.
 bool hasInk(cairo_surface_t* surface)
 {
     if (!surface)

@@ -18,7 +18,7 @@ inline void setPlatformWindow(Gtk::Window& native, platform::NSWindow* window)
     g_object_set_data(G_OBJECT(native.gobj()), platformWindowKey, window);
 }
 
-// The platform's window that `widget` is in; null while it is in none.
+// The platform's window that `widget` is in; null while it is in no window.
 inline platform::NSWindow* platformWindow(const Gtk::Widget& widget)
 {
     auto* root = gtk_widget_get_root(const_cast<GtkWidget*>(widget.gobj()));

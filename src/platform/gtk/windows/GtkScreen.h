@@ -13,7 +13,7 @@ public:
     // has one. Null without a monitor, and before the toolkit has started.
     static GtkScreen* first();
 
-    // The one that holds the largest part of `surface`; null when it is on none.
+    // The one that holds the largest part of `surface`; null when that is on no screen.
     static GtkScreen* of(GdkSurface* surface);
 
     platform::NSRect visibleFrame() const override;

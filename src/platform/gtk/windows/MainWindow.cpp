@@ -22,8 +22,8 @@ int whole(double points)
     return static_cast<int>(std::lround(points));
 }
 
-// For task lists, also where the program is not installed and the desktop knows no icon of its
-// name.
+// Task lists show this icon also where the program is not installed and the desktop knows no icon
+// of its name.
 void showIcon(Gdk::Surface& surface)
 {
     const auto icon = std::dynamic_pointer_cast<Gdk::Texture>(applicationIcon());
@@ -31,11 +31,6 @@ void showIcon(Gdk::Surface& surface)
         return;
     GList list{.data = icon->gobj(), .next = nullptr, .prev = nullptr};
     gdk_toplevel_set_icon_list(GDK_TOPLEVEL(surface.gobj()), &list);
-}
-
-guint eventSignal()
-{
-    return g_signal_lookup("event", GDK_TYPE_SURFACE);
 }
 
 } // namespace
@@ -59,49 +54,40 @@ private:
     MainWindow& window_;
 };
 
-// The window manager's requests to close a window. The toolkit drops them while something modal,
-// such as the print panel, is in front of that window; here all of them are told.
+// Tells of the window manager's requests to close the window of `surface`, all of them: the toolkit
+// drops those that come while something modal, such as the print panel, is in front of the window.
 class MainWindow::CloseRequests {
 public:
-    // Tells of those for the window of `surface`, before the toolkit gets them.
-    CloseRequests(GdkSurface* surface, std::function<void()> requested);
-    ~CloseRequests();
+    // The toolkit's handler comes before any other and ends the signal, so only a hook sees them.
+    CloseRequests(GdkSurface* surface, std::function<void()> requested)
+        : surface_(surface)
+        , requested_(std::move(requested))
+        , hook_(g_signal_add_emission_hook(eventSignal(), 0, receive, this, nullptr))
+    {
+    }
+
+    ~CloseRequests() { g_signal_remove_emission_hook(eventSignal(), hook_); }
 
     CloseRequests(const CloseRequests&) = delete;
     CloseRequests& operator=(const CloseRequests&) = delete;
 
 private:
-    static gboolean receive(
-        GSignalInvocationHint*, guint, const GValue* arguments, gpointer requests);
+    static guint eventSignal() { return g_signal_lookup("event", GDK_TYPE_SURFACE); }
+
+    static gboolean receive(GSignalInvocationHint*, guint, const GValue* arguments, gpointer data)
+    {
+        const auto* self = static_cast<CloseRequests*>(data);
+        auto* event = static_cast<GdkEvent*>(g_value_get_pointer(arguments + 1));
+        if (g_value_peek_pointer(arguments) == self->surface_
+            && gdk_event_get_event_type(event) == GDK_DELETE)
+            self->requested_();
+        return TRUE; // goes on
+    }
 
     GdkSurface* surface_; // only compared
     std::function<void()> requested_;
     gulong hook_;
 };
-
-// The toolkit's handler comes before any other and ends the signal, so only a hook sees them all.
-MainWindow::CloseRequests::CloseRequests(GdkSurface* surface, std::function<void()> requested)
-    : surface_(surface)
-    , requested_(std::move(requested))
-    , hook_(g_signal_add_emission_hook(eventSignal(), 0, receive, this, nullptr))
-{
-}
-
-MainWindow::CloseRequests::~CloseRequests()
-{
-    g_signal_remove_emission_hook(eventSignal(), hook_);
-}
-
-gboolean MainWindow::CloseRequests::receive(
-    GSignalInvocationHint*, guint, const GValue* arguments, gpointer requests)
-{
-    const auto* self = static_cast<CloseRequests*>(requests);
-    auto* event = static_cast<GdkEvent*>(g_value_get_pointer(arguments + 1));
-    if (g_value_peek_pointer(arguments) == self->surface_
-        && gdk_event_get_event_type(event) == GDK_DELETE)
-        self->requested_();
-    return TRUE; // goes on
-}
 
 MainWindow::MainWindow(const ui::Scene& scene)
     : MainWindow(scene.content())
@@ -230,8 +216,8 @@ void MainWindow::watchSurface()
 }
 
 // A window that has come to another screen counts as resized, since it is measured against that one
-// from then on. Whoever listens may resize the window once more, so not while the toolkit lays it
-// out.
+// from then on. Observers may resize the window once more, so they are told when the toolkit has
+// laid it out.
 void MainWindow::checkExtent()
 {
     if (isCheckQueued_)

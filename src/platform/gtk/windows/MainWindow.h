@@ -56,7 +56,7 @@ private:
     struct Extent {
         int width = 0;
         int height = 0;
-        Gdk::Rectangle screen; // empty when it is on none
+        Gdk::Rectangle screen; // empty when the window is on no screen
 
         bool operator==(const Extent&) const = default;
     };

@@ -7,9 +7,8 @@
 
 namespace gtk {
 
-// A window that holds a view which is only printed. The engine prints views that are in no window
-// of the toolkit, so there is none behind this one: nothing can come onto a screen by mistake, on a
-// desktop that does not let programs place their windows either.
+// A window that holds a view which is only printed. The engine also prints views that are in no
+// window of the toolkit, so this one has no such window: nothing can come onto a screen by mistake.
 class OffscreenWindow final : public platform::NSWindow {
 public:
     OffscreenWindow(const platform::NSRect& frame, std::shared_ptr<OffscreenWebView> contentView)
