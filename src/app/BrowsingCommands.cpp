@@ -32,28 +32,30 @@ MenuItem unlisted(MenuItem item)
 
 std::vector<CommandGroup> BrowsingCommands::body() const
 {
-    const auto tabs = [this](const char* title, ui::KeyEquivalent shortcut, auto action) {
-        return focusedItem(tabbedApp, title, {shortcut}, std::move(action));
+    const auto tabs = [this](std::string id, std::string title, ui::KeyEquivalent shortcut,
+                          auto action) {
+        return focusedItem(
+            tabbedApp, std::move(id), std::move(title), {shortcut}, std::move(action));
     };
-    const auto zoomItem = [&](const char* title, const char* key, int percent) {
-        auto item = tabs(title, command(key),
+    const auto zoomItem = [&](const char* id, const char* title, const char* key, int percent) {
+        auto item = tabs(id, title, command(key),
             [zoom = zoom, percent](TabbedAppModel&) { zoom.setPercent(percent); });
         item.isEnabled &= percent != zoom.percent();
         return item;
     };
 
-    auto reopen =
-        tabs("Reopen Closed Tab", ui::shiftCommand("t"), [](auto& app) { app.reopenClosedTab(); });
+    auto reopen = tabs("reopen-closed-tab", "Reopen Closed Tab", ui::shiftCommand("t"),
+        [](auto& app) { app.reopenClosedTab(); });
     const auto app = tabbedApp();
     reopen.isEnabled = app && app->canReopenTab();
 
     CommandGroup::Section selectTabs;
     for (std::size_t index = 0; index < digits.size(); ++index) {
-        const std::string title = std::string("Tab ") + digits[index];
-        selectTabs.push_back(unlisted(tabs(title.c_str(), command(digits[index]),
+        const std::string digit = digits[index];
+        selectTabs.push_back(unlisted(tabs("tab-" + digit, "Tab " + digit, command(digits[index]),
             [index](TabbedAppModel& app) { selectTab(app, index); })));
     }
-    selectTabs.push_back(unlisted(tabs("Last Tab", command("9"),
+    selectTabs.push_back(unlisted(tabs("last-tab", "Last Tab", command("9"),
         [](TabbedAppModel& app) { selectTab(app, app.tabs().size() - 1); })));
 
     using enum ui::CommandGroupPlacement;
@@ -63,9 +65,9 @@ std::vector<CommandGroup> BrowsingCommands::body() const
         {toolbar, after,
             {
                 {
-                    zoomItem("Zoom In", "+", zoom.larger()),
-                    zoomItem("Zoom Out", "-", zoom.smaller()),
-                    zoomItem("Actual Size", "0", PageZoom::actualSize),
+                    zoomItem("zoom-in", "Zoom In", "+", zoom.larger()),
+                    zoomItem("zoom-out", "Zoom Out", "-", zoom.smaller()),
+                    zoomItem("actual-size", "Actual Size", "0", PageZoom::actualSize),
                 },
             }},
         {windowList, replacing, {selectTabs}},

@@ -24,7 +24,12 @@ ui::Scene VelmaroOnlineApp::body() const
         .toolbarStyle = ui::WindowToolbarStyle::unified,
         .content = [] { return ui::View(AppRoot{}); },
         .commands = [this] { return commands(); },
-        .dockMenu = {"New Tab", "Log Fuel", "Log Charging Session"},
+        .dockMenu =
+            {
+                {.id = "NewTab", .menuItem = "new-tab"},
+                {.id = "LogFuel", .menuItem = "log-fuel"},
+                {.id = "LogChargingSession", .menuItem = "log-charging-session"},
+            },
     };
 }
 

@@ -59,15 +59,6 @@ std::string_view rawValue(StationKind kind)
     return rowOf(kind).rawValue;
 }
 
-std::optional<StationKind> stationKind(std::string_view rawValue)
-{
-    for (const auto& row : rows) {
-        if (row.rawValue == rawValue)
-            return row.kind;
-    }
-    return std::nullopt;
-}
-
 const StationKindAppearance& appearance(StationKind kind)
 {
     return rowOf(kind).appearance;

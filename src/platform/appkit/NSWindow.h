@@ -34,7 +34,7 @@ public:
 
     virtual ~NSWindow() = default;
 
-    // The screen that holds the largest part of the window; null when it is on none.
+    // The screen that holds the largest part of the window; null when it is on no screen.
     virtual NSScreen* screen() const = 0;
 
     // The user sees it, or would if no other window covered it.
@@ -50,15 +50,14 @@ public:
 
     virtual bool isFullScreen() const = 0;
 
-    virtual std::uint32_t collectionBehavior() const = 0;
-    virtual void setCollectionBehavior(std::uint32_t behavior) = 0;
-
-    virtual TabbingMode tabbingMode() const = 0;
-    virtual void setTabbingMode(TabbingMode mode) = 0;
-
-    // Whether the platform itself brings the window back at the next launch.
-    virtual bool isRestorable() const = 0;
-    virtual void setRestorable(bool isRestorable) = 0;
+    // These three are remembered and change nothing: this desktop has no spaces for full screens,
+    // merges no windows into tabs and brings no windows back by itself.
+    std::uint32_t collectionBehavior() const { return collectionBehavior_; }
+    void setCollectionBehavior(std::uint32_t behavior) { collectionBehavior_ = behavior; }
+    TabbingMode tabbingMode() const { return tabbingMode_; }
+    void setTabbingMode(TabbingMode mode) { tabbingMode_ = mode; }
+    bool isRestorable() const { return isRestorable_; }
+    void setRestorable(bool isRestorable) { isRestorable_ = isRestorable; }
 
     // False for panels and for windows that are going away.
     virtual bool canBecomeMainWindow() const = 0;
@@ -66,8 +65,8 @@ public:
     // The view that fills the window; null before there is one.
     virtual NSView* contentView() const = 0;
 
-    // Who is told what becomes of the window; null for nobody. It must outlive the window, or take
-    // itself away first.
+    // Tells `delegate` from now on what becomes of the window; null takes it away. It must outlive
+    // the window, or take itself away first.
     virtual void setDelegate(NSWindowDelegate* delegate) = 0;
 
     // Moves the window to the middle of its screen.
@@ -79,6 +78,11 @@ public:
 
     // Closes without asking. The last window's closing may end the application.
     virtual void close() = 0;
+
+private:
+    std::uint32_t collectionBehavior_ = 0;
+    TabbingMode tabbingMode_ = TabbingMode::automatic;
+    bool isRestorable_ = true;
 };
 
 } // namespace platform

@@ -46,8 +46,6 @@ public:
     {
     }
 
-    bool isNull() const { return std::holds_alternative<std::monostate>(content_); }
-
     // The content when it is of that kind, else null. The pointer lives as long as the value.
     const bool* boolean() const { return std::get_if<bool>(&content_); }
     const double* number() const { return std::get_if<double>(&content_); }

@@ -25,7 +25,8 @@
 #include "platform/gtk/panels/SharePanel.h"
 #include "platform/gtk/renderer/RendererSafeguard.h"
 #include "platform/gtk/sparkle/GtkUpdaterController.h"
-#include "platform/gtk/ui/PlainView.h"
+#include "platform/gtk/ui/NativeWidget.h"
+#include "platform/gtk/ui/NativeWindow.h"
 #include "platform/gtk/ui/TextField.h"
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
 #include "platform/gtk/usernotifications/GtkUserNotificationCenter.h"
@@ -42,6 +43,7 @@
 #include <future>
 #include <gio/gio.h>
 #include <glibmm/init.h>
+#include <gtkmm/box.h>
 
 namespace gtk {
 
@@ -59,6 +61,23 @@ StandardPaths standardPaths()
 {
     return StandardPaths::forProgram(programName);
 }
+
+// A native view with nothing in it, through which clicks fall.
+class PlainView final : public platform::NSView, public NativeView {
+public:
+    PlainView() { area_.set_can_target(false); }
+    ~PlainView() override
+    {
+        if (area_.get_parent())
+            area_.unparent();
+    }
+
+    platform::NSWindow* window() const override { return platformWindow(area_); }
+    Gtk::Widget& nativeWidget() override { return area_; }
+
+private:
+    Gtk::Box area_;
+};
 
 } // namespace
 
@@ -83,7 +102,19 @@ GtkPlatform::GtkPlatform(Options options)
     g_set_prgname(options_.identifier.c_str());
     // Texts for people follow the user's language; numbers in scripts and files must not.
     Glib::set_init_to_users_preferred_locale(false);
-    application_ = std::make_unique<Application>(*this, options_.identifier, options_.address);
+    application_ = std::make_unique<Application>(
+        Application::Services{
+            .mainQueue = *mainQueue_,
+            .rendererSafeguard = *rendererSafeguard_,
+            .prepare = [this] { return prepare(); },
+            .webEngine = [this]() -> WebEngine& { return webEngine(); },
+            .followAppearance = [this] { followAppearance(); },
+            .receiveNotificationClick =
+                [this](const auto& userInfo) { notificationCenter().receiveClick(userInfo); },
+            .showPermissions = [this] { showPermissions(); },
+            .saveSettings = [this] { saveSettings(); },
+        },
+        options_.identifier, options_.address);
 }
 
 GtkPlatform::~GtkPlatform()
@@ -221,7 +252,7 @@ std::shared_ptr<platform::SPUStandardUpdaterController> GtkPlatform::makeUpdater
     const auto bundleText = [this](const char* key) {
         return bundle_->stringForInfoDictionaryKey(key).value_or("");
     };
-    std::error_code ignored; // a program that cannot be found belongs to nobody
+    std::error_code ignored; // a program that cannot be found has no owner
     auto updater = std::make_shared<GtkUpdaterController>(
         GtkUpdaterController::Options{
             .feed = options_.updateFeed,
@@ -340,7 +371,7 @@ GtkUserNotificationCenter& GtkPlatform::notificationCenter()
         return *notificationCenter_;
     if (isSandboxed()) {
         notificationCenter_ = std::make_unique<GtkUserNotificationCenter>(*mainQueue_, nullptr,
-            std::make_unique<PortalNotifications>(Program::notificationAction));
+            std::make_unique<PortalNotifications>(Application::notificationAction));
         return *notificationCenter_;
     }
     auto permission = std::make_unique<Permission>(*mainQueue_, permissions(),

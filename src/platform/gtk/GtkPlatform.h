@@ -35,7 +35,7 @@ public:
         std::string identifier; // of the application, in reverse domain order
         std::optional<std::string> address; // to be opened
         std::string geocoder; // address of the service that finds places
-        std::string updateFeed = {}; // https address of the list of versions; empty: there is none
+        std::string updateFeed = {}; // https address of the list of versions; empty without a list
         std::string updateKey = {}; // with which packages are signed: Ed25519, in Base64
     };
 
@@ -97,27 +97,16 @@ public:
     // What all web views share; made on first use.
     WebEngine& webEngine();
 
-    RendererSafeguard& rendererSafeguard() { return *rendererSafeguard_; }
-
-    GtkUserNotificationCenter& notificationCenter();
-
-    // Lets the user change what they have allowed, in a window over the one in use.
-    void showPermissions();
-
-    // Sets the web engine going while the window has yet to be made. Returns why the program cannot
-    // run; absent when it can.
+private:
+    // What the application asks for while it runs.
     std::optional<std::string> prepare();
-
-    // Looks as the desktop is told to, from now on. Once there is a display, before the first
-    // window is made.
     void followAppearance();
-
-    // Returns when the settings are on the disk, or could not be put there.
+    void showPermissions();
     void saveSettings();
 
-private:
     GtkUserDefaults& permissions();
     LocationServices& locationServices();
+    GtkUserNotificationCenter& notificationCenter();
 
     const Options options_;
 

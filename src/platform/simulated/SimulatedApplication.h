@@ -37,7 +37,7 @@ public:
 
     bool hasTerminated() const { return hasTerminated_; }
 
-    // The window opened at `index`; fails the test when there is none.
+    // The window opened at `index`; fails the test when there is no such window.
     SimulatedWindow& window(std::size_t index = 0);
 
     // One more window of the scene, or a bare one such as a panel.

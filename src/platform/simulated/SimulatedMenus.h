@@ -16,7 +16,7 @@ public:
 
     const std::vector<ui::Menu>& menus() const { return menus_; }
 
-    // The item with this title; fails the test when there is none.
+    // The item with this title; fails the test when there is no such item.
     const ui::MenuItem& item(const std::string& title) const;
 
     // The user chooses an item. One that is disabled does nothing, like on any desktop.

@@ -17,6 +17,7 @@ SimulatedWindow::SimulatedWindow(SimulatedPlatform& platform, Options options)
     , options_(std::move(options))
     , root_(renderer_)
 {
+    setCollectionBehavior(fullScreenNone);
     root_.window_ = this;
     contentView_.setHost(&root_);
     if (options_.offscreenView)

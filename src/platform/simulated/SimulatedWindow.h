@@ -50,12 +50,6 @@ public:
     platform::NSSize minSize() const override { return minSize_; }
     void setMinSize(platform::NSSize size) override { minSize_ = size; }
     bool isFullScreen() const override { return isFullScreen_; }
-    std::uint32_t collectionBehavior() const override { return collectionBehavior_; }
-    void setCollectionBehavior(std::uint32_t behavior) override { collectionBehavior_ = behavior; }
-    TabbingMode tabbingMode() const override { return tabbingMode_; }
-    void setTabbingMode(TabbingMode mode) override { tabbingMode_ = mode; }
-    bool isRestorable() const override { return isRestorable_; }
-    void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
     bool canBecomeMainWindow() const override { return options_.canBecomeMainWindow; }
     platform::NSView* contentView() const override;
     void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
@@ -80,10 +74,7 @@ private:
     std::optional<ui::Mount> mount_; // goes before what it shows itself in
     platform::NSRect frame_{{0, 0}, {800, 600}};
     platform::NSSize minSize_;
-    std::uint32_t collectionBehavior_ = fullScreenNone;
-    TabbingMode tabbingMode_ = TabbingMode::automatic;
     bool isFullScreen_ = false;
-    bool isRestorable_ = true;
     bool isVisible_ = true;
     platform::NSWindowDelegate* delegate_ = nullptr;
 };

@@ -14,14 +14,15 @@ struct StandardMenu {
     std::vector<std::pair<CommandGroupPlacement, Section>> groups;
 };
 
-MenuItem standard(const char* title, StandardCommand command, KeyEquivalent shortcut)
+MenuItem standard(
+    const char* id, const char* title, StandardCommand command, KeyEquivalent shortcut)
 {
-    return {.title = title, .shortcuts = {shortcut}, .standard = command};
+    return {.id = id, .title = title, .shortcuts = {shortcut}, .standard = command};
 }
 
-MenuItem editing(const char* title, StandardCommand command, KeyEquivalent shortcut)
+MenuItem editing(const char* id, const char* title, StandardCommand command, KeyEquivalent shortcut)
 {
-    auto item = standard(title, command, shortcut);
+    auto item = standard(id, title, command, shortcut);
     item.leavesKeysToViews = true;
     return item;
 }
@@ -33,41 +34,48 @@ std::vector<StandardMenu> standardMenus()
             {
                 {appInfo, {}},
                 {appSettings,
-                    {{.title = "Permissions\u2026", .standard = StandardCommand::showPermissions}}},
-                {appTermination, {standard("Quit", StandardCommand::quit, command("q"))}},
+                    {{.id = "permissions",
+                        .title = "Permissions\u2026",
+                        .standard = StandardCommand::showPermissions}}},
+                {appTermination, {standard("quit", "Quit", StandardCommand::quit, command("q"))}},
             }},
         {"File", {{newItem, {}}, {printItem, {}}}},
         {"Edit",
             {
                 {undoRedo,
                     {
-                        editing("Undo", StandardCommand::undo, command("z")),
-                        editing("Redo", StandardCommand::redo, shiftCommand("z")),
+                        editing("undo", "Undo", StandardCommand::undo, command("z")),
+                        editing("redo", "Redo", StandardCommand::redo, shiftCommand("z")),
                     }},
                 {pasteboard,
                     {
-                        editing("Cut", StandardCommand::cut, command("x")),
-                        editing("Copy", StandardCommand::copy, command("c")),
-                        editing("Paste", StandardCommand::paste, command("v")),
-                        editing("Select All", StandardCommand::selectAll, command("a")),
+                        editing("cut", "Cut", StandardCommand::cut, command("x")),
+                        editing("copy", "Copy", StandardCommand::copy, command("c")),
+                        editing("paste", "Paste", StandardCommand::paste, command("v")),
+                        editing(
+                            "select-all", "Select All", StandardCommand::selectAll, command("a")),
                     }},
                 {textEditing, {}},
             }},
         {"View",
             {
                 {toolbar, {}},
-                {sidebar, {standard("Full Screen", StandardCommand::toggleFullScreen, {Key::f11})}},
+                {sidebar,
+                    {standard("full-screen", "Full Screen", StandardCommand::toggleFullScreen,
+                        {Key::f11})}},
             }},
         {"Window",
             {
-                {windowSize, {standard("Minimize", StandardCommand::minimize, command("m"))}},
+                {windowSize,
+                    {standard("minimize", "Minimize", StandardCommand::minimize, command("m"))}},
                 {windowList, {}},
             }},
         {"Help",
             {
                 {help, {}},
                 {keyboardShortcuts,
-                    {standard("Keyboard Shortcuts", StandardCommand::showShortcuts, command("?"))}},
+                    {standard("keyboard-shortcuts", "Keyboard Shortcuts",
+                        StandardCommand::showShortcuts, command("?"))}},
             }},
     };
 }

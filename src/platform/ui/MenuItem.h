@@ -26,6 +26,10 @@ enum class StandardCommand {
 
 // One line of a menu.
 struct MenuItem {
+    // What the item is known by: lower-case words with hyphens between them, once in an
+    // application. Never shown, and the same whatever the title is.
+    std::string id;
+
     std::string title;
     std::vector<KeyEquivalent> shortcuts = {}; // the first is shown beside the title
     bool isEnabled = true; // its keys do nothing either while it is not

@@ -49,7 +49,17 @@ Mount::~Mount()
 
 void Mount::openURL(const platform::URL& url)
 {
-    root_->openURL(url);
+    std::vector<std::shared_ptr<Slot>> places{root_};
+    while (!places.empty()) {
+        const auto place = std::move(places.back());
+        places.pop_back();
+        if (place->node_->kind == Kind::group) {
+            if (const auto action = static_cast<const GroupNode&>(*place->node_).onOpenURL)
+                action(url);
+        }
+        const auto children = place->children_; // kept, since a later action may take them away
+        places.insert(places.end(), children.rbegin(), children.rend());
+    }
 }
 
 void Mount::flush()

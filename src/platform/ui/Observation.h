@@ -40,9 +40,6 @@ public:
     Subject(const Subject&) = delete;
     Subject& operator=(const Subject&) = delete;
 
-    // How many observe it now.
-    std::size_t observerCount() const { return observers_.size(); }
-
 protected:
     Subject() = default;
     ~Subject();

@@ -14,8 +14,14 @@ enum class WindowToolbarStyle {
     unified, // title and toolbar in one bar
 };
 
-// The windows of an application, one group of which the platform opens one at launch, and its
-// menus.
+// A menu item that the desktop also offers beside the application's icon, whether it runs or not.
+// Chosen there it acts on a window of the scene, which is brought forward.
+struct DockAction {
+    std::string id; // by which the desktop knows the action
+    std::string menuItem; // the item's id
+};
+
+// The application's window group, of which one window opens at launch, and its menus.
 struct Scene {
     std::string identifier;
     std::string title;
@@ -26,10 +32,7 @@ struct Scene {
     // changes. May be absent.
     std::function<std::vector<CommandGroup>()> commands = {};
 
-    // Titles of those menu items that the desktop also offers beside the application's icon,
-    // whether it runs or not. Chosen there they act on a window of this scene, which is brought
-    // forward.
-    std::vector<std::string> dockMenu = {};
+    std::vector<DockAction> dockMenu = {}; // in their order
 };
 
 } // namespace ui

@@ -307,17 +307,6 @@ void Slot::redrawIfChanged()
         owner->arrange();
 }
 
-void Slot::openURL(const platform::URL& url)
-{
-    if (node_->kind == Kind::group) {
-        if (const auto action = static_cast<const GroupNode&>(*node_).onOpenURL)
-            action(url);
-    }
-    const auto children = children_; // an action may change the tree
-    for (const auto& child : children)
-        child->openURL(url);
-}
-
 void Slot::retire()
 {
     stopObserving();

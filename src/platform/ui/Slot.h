@@ -36,8 +36,6 @@ public:
     // Evaluates the component's body again, if a field that it has read was written.
     void redrawIfChanged();
 
-    void openURL(const platform::URL& url);
-
     // Cuts the slot and all below it off from the models: it is shown on its way out and never
     // updated again.
     void retire();

@@ -25,7 +25,7 @@ std::string keysOf(const ui::MenuItem& item, std::set<std::string>& taken)
     return keys;
 }
 
-std::string document(const std::vector<ui::Menu>& menus)
+std::string document(const std::vector<ui::Menu>& menus, std::set<std::string>& ids)
 {
     std::string text =
         "# Menus and keyboard shortcuts\n\nThe keys work wherever the keyboard is in "
@@ -36,6 +36,7 @@ std::string document(const std::vector<ui::Menu>& menus)
         text += "\n## " + menu.title + "\n\n| Command | Keys |\n|---|---|\n";
         for (const auto& section : menu.sections) {
             for (const auto& item : section) {
+                EXPECT_TRUE(ids.insert(item.id).second) << item.id << " is there twice";
                 if (item.isListed || !item.shortcuts.empty())
                     text += "| " + item.title + " | " + keysOf(item, taken) + " |\n";
             }
@@ -51,7 +52,10 @@ TEST(ShortcutsDocument, isUpToDate)
     const velmaro::VelmaroOnlineApp app;
     const simulated::SimulatedPlatform platform;
     const auto scene = app.body();
-    const auto text = document(ui::menuBar(scene.title, scene.commands()));
+    std::set<std::string> ids;
+    const auto text = document(ui::menuBar(scene.title, scene.commands()), ids);
+    for (const auto& action : scene.dockMenu)
+        EXPECT_TRUE(ids.contains(action.menuItem)) << action.id;
 
     if (std::getenv("VELMARO_WRITE_DOCS"))
         std::ofstream(path) << text;

@@ -8,14 +8,6 @@
 
 namespace velmaro {
 
-TEST(StationKind, isKnownByItsNameOnly)
-{
-    for (const auto kind : {StationKind::gas, StationKind::evstations, StationKind::traffic})
-        EXPECT_EQ(stationKind(rawValue(kind)), kind);
-    for (const auto* name : {"", "Gas", "gas ", "charging"})
-        EXPECT_EQ(stationKind(name), std::nullopt) << name;
-}
-
 TEST(LocationHandOff, runsOncePerPickAndOnlyInAWebView)
 {
     simulated::SimulatedPlatform platform;

@@ -48,7 +48,6 @@ TEST(Observation, fieldAndObserverMayGoInEitherOrder)
     auto early = std::make_unique<Observation>([&] { (*field)(); }, [] { FAIL(); });
     const auto late = std::make_unique<Observation>([&] { (*field)(); }, [] {});
     early.reset();
-    EXPECT_EQ(field->observerCount(), 1u);
     *field = 2;
     field.reset();
 }

@@ -208,7 +208,6 @@ TEST_F(Reconciler, aWindowMayGoWithARedrawOnItsWay)
     mount.reset();
     settle();
     EXPECT_EQ(*evaluations, 1);
-    EXPECT_EQ(text->observerCount(), 0u);
     EXPECT_TRUE(root->children().empty());
 }
 

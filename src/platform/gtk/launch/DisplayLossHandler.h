@@ -4,11 +4,10 @@
 
 namespace gtk {
 
-// An X server that ends takes its programs with it, without a word: on desktops that start straight
-// from it, this is how a session ends. As long as this lives, `lastWords` is called then, once,
-// before the program goes; in the middle of whatever it was doing, so it must not touch anything on
-// the display. A window that was killed says nothing: its server is still there. On Wayland nothing
-// of this happens.
+// Xlib exits the process when the server goes away: on desktops that start straight from an X
+// server, this is how a session ends. As long as this lives, `lastWords` is called then, once,
+// before the process exits. It may be called in the middle of anything, so it must not touch the
+// display. It is not called when the server has only killed a window, nor ever on Wayland.
 //
 // One at a time, made when the toolkit has started.
 class DisplayLossHandler {

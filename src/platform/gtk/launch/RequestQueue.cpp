@@ -19,10 +19,7 @@ void RequestQueue::update()
     if (isNextQueued_ || waiting_.empty() || !isReady_())
         return;
     isNextQueued_ = true;
-    queue_.async([this, life = std::weak_ptr(life_)] {
-        if (!life.expired())
-            performNext();
-    });
+    queue_.async(lifetime_.guard([this] { performNext(); }));
 }
 
 void RequestQueue::performNext()

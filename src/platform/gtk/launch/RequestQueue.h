@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
+#include "platform/gtk/foundation/Lifetime.h"
 
 #include <deque>
 #include <functional>
-#include <memory>
 
 namespace gtk {
 
@@ -28,7 +28,7 @@ private:
     std::function<bool()> isReady_;
     std::deque<std::function<void()>> waiting_;
     bool isNextQueued_ = false;
-    std::shared_ptr<void> life_ = std::make_shared<char>();
+    Lifetime lifetime_;
 };
 
 } // namespace gtk

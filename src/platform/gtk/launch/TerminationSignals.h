@@ -7,7 +7,7 @@
 namespace gtk {
 
 // Turns the signals that ask a program to end (SIGTERM, SIGINT and SIGHUP) into calls on the main
-// thread, as long as it lives.
+// thread, as long as this lives.
 class TerminationSignals {
 public:
     explicit TerminationSignals(std::function<void()> handler);

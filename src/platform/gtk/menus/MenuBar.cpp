@@ -9,20 +9,7 @@ namespace gtk {
 
 namespace {
 
-// "New Tab" is "new-tab".
-std::string actionName(const std::string& title)
-{
-    std::string name;
-    for (const char character : title) {
-        if (std::isalnum(static_cast<unsigned char>(character)))
-            name += static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
-        else if (!name.empty() && name.back() != '-')
-            name += '-';
-    }
-    return name;
-}
-
-// All that a change of makes the menus be built anew.
+// What, when it changes, requires rebuilding the menus.
 std::string outline(const std::vector<ui::Menu>& menus)
 {
     std::string text;
@@ -31,7 +18,7 @@ std::string outline(const std::vector<ui::Menu>& menus)
         for (const auto& section : menu.sections) {
             text += '-';
             for (const auto& item : section)
-                text += (item.isListed ? '+' : '-') + item.title + '\n';
+                text += (item.isListed ? '+' : '-') + item.id + '\t' + item.title + '\n';
         }
     }
     return text;
@@ -39,7 +26,7 @@ std::string outline(const std::vector<ui::Menu>& menus)
 
 Glib::RefPtr<Gio::MenuItem> menuItem(const ui::MenuItem& item)
 {
-    auto result = Gio::MenuItem::create(item.title, "app." + actionName(item.title));
+    auto result = Gio::MenuItem::create(item.title, "app." + item.id);
     if (!item.shortcuts.empty()) {
         const auto keys = shownAccelerator(item.shortcuts.front());
         result->set_attribute_value("accel", Glib::Variant<Glib::ustring>::create(keys));
@@ -105,23 +92,22 @@ void MenuBar::show(std::vector<ui::Menu> menus)
         fill();
 }
 
-void MenuBar::choose(const std::string& title)
+void MenuBar::choose(const std::string& id)
 {
-    if (entries_.contains(actionName(title)))
-        activate(actionName(title));
+    if (entries_.contains(id))
+        activate(id);
 }
 
 void MenuBar::update(const ui::MenuItem& item)
 {
-    const auto name = actionName(item.title);
-    auto& entry = entries_[name];
+    auto& entry = entries_[item.id];
     if (!entry.action) {
-        entry.action = item.isOn ? Gio::SimpleAction::create_bool(name, *item.isOn)
-                                 : Gio::SimpleAction::create(name);
+        entry.action = item.isOn ? Gio::SimpleAction::create_bool(item.id, *item.isOn)
+                                 : Gio::SimpleAction::create(item.id);
         entry.action->signal_activate().connect(
-            [this, name](const Glib::VariantBase&) { activate(name); });
+            [this, id = item.id](const Glib::VariantBase&) { activate(id); });
         g_action_map_add_action(G_ACTION_MAP(application_), G_ACTION(entry.action->gobj()));
-        setShortcuts(name, item);
+        setShortcuts(item);
     }
     if (entry.action->get_enabled() != item.isEnabled)
         entry.action->set_enabled(item.isEnabled);
@@ -130,7 +116,7 @@ void MenuBar::update(const ui::MenuItem& item)
     entry.item = item;
 }
 
-void MenuBar::setShortcuts(const std::string& name, const ui::MenuItem& item)
+void MenuBar::setShortcuts(const ui::MenuItem& item)
 {
     if (item.leavesKeysToViews)
         return;
@@ -139,7 +125,7 @@ void MenuBar::setShortcuts(const std::string& name, const ui::MenuItem& item)
     for (const auto& key : keys)
         names.push_back(key.c_str());
     names.push_back(nullptr);
-    gtk_application_set_accels_for_action(application_, ("app." + name).c_str(), names.data());
+    gtk_application_set_accels_for_action(application_, ("app." + item.id).c_str(), names.data());
 }
 
 void MenuBar::fill()
@@ -150,9 +136,9 @@ void MenuBar::fill()
         model_->append_submenu(titles[index], submenu(menus_[index]));
 }
 
-void MenuBar::activate(const std::string& name)
+void MenuBar::activate(const std::string& id)
 {
-    const auto item = entries_[name].item; // which its action may change
+    const auto item = entries_[id].item; // which its action may change
     if (item.standard)
         perform_(*item.standard);
     else if (item.action)

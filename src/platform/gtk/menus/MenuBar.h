@@ -20,12 +20,12 @@ public:
     // `application` must outlive this.
     MenuBar(GtkApplication* application, Perform perform);
 
-    // Takes the place of what was shown before. The first call must come before the first window.
+    // Shows these in place of the menus before. The first call must come before the first window.
     void show(std::vector<ui::Menu> menus);
 
-    // Does what the item with this title says, as if it had been chosen. Nothing where there is
-    // none.
-    void choose(const std::string& title);
+    // Does what the item with this id says, as if it had been chosen; nothing where there is no
+    // such item.
+    void choose(const std::string& id);
 
     const std::vector<ui::Menu>& menus() const { return menus_; }
 
@@ -36,15 +36,15 @@ private:
     };
 
     void update(const ui::MenuItem& item);
-    void setShortcuts(const std::string& name, const ui::MenuItem& item);
+    void setShortcuts(const ui::MenuItem& item);
     void fill();
-    void activate(const std::string& name);
+    void activate(const std::string& id);
 
     GtkApplication* const application_;
     const Perform perform_;
     const Glib::RefPtr<Gio::Menu> model_ = Gio::Menu::create();
     std::vector<ui::Menu> menus_;
-    std::map<std::string, Entry> entries_; // by the name of their action
+    std::map<std::string, Entry> entries_; // by id, which is also the name of the action
     std::string outline_; // of what the model holds
 };
 

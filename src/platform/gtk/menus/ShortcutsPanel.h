@@ -6,8 +6,8 @@
 
 namespace gtk {
 
-// Opens a window over `parent` that tells the keys of all menu items. It belongs to itself and goes
-// when it is closed.
+// Opens a window over `parent` that lists the keys of all menu items. It owns itself and goes when
+// it is closed.
 void showShortcuts(const std::vector<ui::Menu>& menus, GtkWindow* parent);
 
 } // namespace gtk

@@ -1,6 +1,6 @@
 #include "platform/gtk/panels/AlertPresenter.h"
 
-#include "platform/gtk/ui/AccessibleName.h"
+#include "platform/gtk/ui/WidgetStyle.h"
 
 #include <algorithm>
 #include <glibmm/main.h>

@@ -2,7 +2,7 @@
 
 #include "platform/gtk/desktop/OutgoingMail.h"
 #include "platform/gtk/panels/Panel.h"
-#include "platform/gtk/ui/AccessibleName.h"
+#include "platform/gtk/ui/WidgetStyle.h"
 #include "platform/Platform.h"
 
 #include <gdkmm/applaunchcontext.h>

@@ -1,6 +1,6 @@
 #include "platform/gtk/printing/PrintOperation.h"
 
-#include "platform/gtk/windows/MainWindow.h"
+#include "platform/gtk/ui/NativeWindow.h"
 
 #include <algorithm>
 #include <glibmm/main.h>
@@ -56,8 +56,8 @@ void PrintOperation::runModalFor(
     const std::shared_ptr<platform::NSWindow>& window, Completion completion)
 {
     completion_ = std::move(completion);
-    const auto mainWindow = std::dynamic_pointer_cast<MainWindow>(window);
-    showPanel(mainWindow ? GTK_WINDOW(mainWindow->native().gobj()) : nullptr);
+    auto* parent = window ? nativeWindow(*window) : nullptr;
+    showPanel(parent ? parent->gobj() : nullptr);
 }
 
 void PrintOperation::runOperation(Completion completion)

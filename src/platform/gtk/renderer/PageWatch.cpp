@@ -13,10 +13,7 @@ PageWatch::PageWatch(platform::DispatchQueue& queue, Handlers handlers)
 
 void PageWatch::checkLater()
 {
-    queue_.asyncAfter(1, [this, life = std::weak_ptr(life_)] {
-        if (!life.expired())
-            check();
-    });
+    queue_.asyncAfter(1, lifetime_.guard([this] { check(); }));
 }
 
 void PageWatch::check()

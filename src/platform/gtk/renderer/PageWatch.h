@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
+#include "platform/gtk/foundation/Lifetime.h"
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 
 namespace gtk {
 
@@ -12,8 +12,8 @@ namespace gtk {
 // everything else does. It looks once a second, from the first second of the program until there is
 // such a picture or it has given up.
 //
-// Time counts only while pictures of the window keep coming: a window that nobody can see gets
-// none, and one that is slow gets fewer, in which the page may yet appear.
+// Time counts only while pictures of the window keep coming: a window that is out of sight is not
+// painted, and a slow one is painted less often, so the page may yet appear in it.
 class PageWatch {
 public:
     struct Sight {
@@ -51,7 +51,7 @@ private:
     std::int64_t windowFrames_ = 0;
     int secondsWithoutWindow_ = 0;
     int secondsWithoutPage_ = 0;
-    std::shared_ptr<void> life_ = std::make_shared<char>();
+    Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -60,8 +60,8 @@ void apply(RendererChoice choice)
         return;
     setenv(toolkitVariable, "cairo", keep);
     // Toolkit and engine start OpenGL even where they draw nothing with it. The engine ends the
-    // program when the driver fails. Where there is none in the first place, neither need try,
-    // which takes a tenth of a start; the engine's variable also keeps it from complaining.
+    // program when the driver fails. Where there is no graphics processor, neither need try, which
+    // takes a tenth of a start; the engine's variable also keeps it from complaining.
     if (choice == RendererChoice::noGraphicsProcessor) {
         setenv("GDK_DEBUG", "gl-disable", keep);
         setenv(engineVariable, "1", keep);

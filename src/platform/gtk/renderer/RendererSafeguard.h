@@ -6,9 +6,12 @@
 #include "platform/gtk/renderer/RendererChoice.h"
 #include "platform/gtk/renderer/StartMarker.h"
 
+namespace platform {
+class NSWindow;
+}
+
 namespace gtk {
 
-class MainWindow;
 class WebEngine;
 
 // Sees to it that a broken graphics driver does not keep the user from their pages: chooses what
@@ -33,7 +36,7 @@ public:
     void begin();
 
     // The program has a window, which `window` gives as long as it is there, for pages of `engine`.
-    void watch(std::function<MainWindow*()> window, WebEngine& engine);
+    void watch(std::function<platform::NSWindow*()> window, WebEngine& engine);
 
     // The program ends in good order. Returns when the answer is on the disk.
     void end();

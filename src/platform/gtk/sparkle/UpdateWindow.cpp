@@ -1,9 +1,7 @@
 #include "platform/gtk/sparkle/UpdateWindow.h"
 
-#include "platform/gtk/ui/AccessibleName.h"
-#include "platform/gtk/ui/FontAttributes.h"
-#include "platform/gtk/ui/Theme.h"
-#include "platform/gtk/windows/ApplicationIcon.h"
+#include "platform/gtk/ui/Pictures.h"
+#include "platform/gtk/ui/WidgetStyle.h"
 
 #include <glibmm/main.h>
 #include <gtkmm/checkbutton.h>

@@ -1,7 +1,6 @@
 #include "platform/gtk/ui/ButtonWidget.h"
 
-#include "platform/gtk/ui/AccessibleName.h"
-#include "platform/gtk/ui/Reachability.h"
+#include "platform/gtk/ui/WidgetStyle.h"
 #include "platform/ui/ViewNodes.h"
 
 #include <gtkmm/binlayout.h>

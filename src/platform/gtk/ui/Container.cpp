@@ -1,6 +1,5 @@
 #include "platform/gtk/ui/Container.h"
 
-#include "platform/gtk/ui/ExitTransition.h"
 #include "platform/gtk/ui/TransitionAnimation.h"
 
 #include <algorithm>

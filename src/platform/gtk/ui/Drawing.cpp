@@ -1,9 +1,7 @@
 #include "platform/gtk/ui/Drawing.h"
 
-#include "platform/gtk/ui/OutlineShadow.h"
-#include "platform/gtk/ui/SymbolImage.h"
+#include "platform/gtk/ui/Pictures.h"
 #include "platform/gtk/ui/ThemeColor.h"
-#include "platform/gtk/windows/ApplicationIcon.h"
 #include "platform/ui/ViewNodes.h"
 
 #include <algorithm>
@@ -15,6 +13,43 @@
 namespace gtk {
 
 namespace {
+
+// Gives what is drawn on `snapshot` while this lives a shadow of its own outline.
+class OutlineShadow {
+public:
+    OutlineShadow(Gtk::Snapshot& snapshot, const Gtk::Widget& widget, const ui::Shadow& shadow);
+    ~OutlineShadow();
+
+    OutlineShadow(const OutlineShadow&) = delete;
+    OutlineShadow& operator=(const OutlineShadow&) = delete;
+
+private:
+    Gtk::Snapshot& snapshot_;
+    bool isVisible_ = false;
+};
+
+OutlineShadow::OutlineShadow(
+    Gtk::Snapshot& snapshot, const Gtk::Widget& widget, const ui::Shadow& shadow)
+    : snapshot_(snapshot)
+{
+    const auto color = themeColor(widget, shadow.color);
+    isVisible_ = color.get_alpha() > 0;
+    if (!isVisible_)
+        return;
+    const GskShadow native = {
+        .color = *color.gobj(),
+        .dx = 0,
+        .dy = static_cast<float>(shadow.y),
+        .radius = static_cast<float>(shadow.radius),
+    };
+    gtk_snapshot_push_shadow(snapshot.gobj(), &native, 1);
+}
+
+OutlineShadow::~OutlineShadow()
+{
+    if (isVisible_)
+        gtk_snapshot_pop(snapshot_.gobj());
+}
 
 // A symbol is about as high as a capital letter and its overshoot.
 constexpr double symbolPerFontSize = 1.25;

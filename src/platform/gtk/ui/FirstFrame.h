@@ -1,10 +1,18 @@
 #pragma once
 
+#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/gtk/foundation/SignalHandlers.h"
+
 #include <functional>
 #include <gtkmm/widget.h>
+#include <optional>
 #include <vector>
 
 namespace gtk {
+
+// Runs `task` when nothing more urgent is to be done: the web engine has answered its processes
+// then, which it does not while a window is made or drawn.
+void whenEngineHasAnswered(std::function<void()> task);
 
 // Knows when the window around a widget has shown its first frame, and keeps what waits for that.
 class FirstFrame {
@@ -26,12 +34,11 @@ private:
     void runTasks();
 
     Gtk::Widget& widget_;
-    sigc::connection realized_;
-    gulong painted_ = 0; // handler of the frame clock
-    GdkFrameClock* clock_ = nullptr;
-    sigc::connection idle_;
+    sigc::connection mapped_;
+    std::optional<SignalHandlers> frames_; // from the mapping to the first frame
     bool hasPainted_ = false;
     std::vector<std::function<void()>> tasks_;
+    Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -1,7 +1,6 @@
 #include "platform/gtk/ui/HostWidget.h"
 
 #include "platform/gtk/ui/FirstFrame.h"
-#include "platform/gtk/ui/NativeView.h"
 
 #include <gtkmm/binlayout.h>
 
@@ -25,16 +24,12 @@ HostWidget::Area::Area()
 
 HostWidget::HostWidget(ui::HostedView& hosted, FirstFrame& firstFrame)
     : hosted_(hosted)
-    , isAlive_(std::make_shared<bool>(true))
 {
     if (!hosted_.waitsForFirstFrame()) {
         make();
         return;
     }
-    firstFrame.whenPainted([this, isAlive = std::weak_ptr(isAlive_)] {
-        if (isAlive.lock())
-            make();
-    });
+    firstFrame.whenPainted(lifetime_.guard([this] { make(); }));
 }
 
 HostWidget::~HostWidget()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/gtk/foundation/Lifetime.h"
 #include "platform/gtk/ui/NativeWidget.h"
 #include "platform/ui/HostedView.h"
 
@@ -31,7 +32,7 @@ private:
     Area area_;
     std::shared_ptr<platform::NSView> view_;
     bool isShown_ = true;
-    std::shared_ptr<bool> isAlive_; // told to a task that waits for the first frame
+    Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -1,6 +1,6 @@
 #include "platform/gtk/ui/Leaves.h"
 
-#include "platform/gtk/ui/FontAttributes.h"
+#include "platform/gtk/ui/WidgetStyle.h"
 #include "platform/ui/ViewNodes.h"
 
 #include <cmath>

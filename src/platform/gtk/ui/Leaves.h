@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/ui/LeafWidget.h"
+#include "platform/gtk/ui/NativeWidget.h"
 #include "platform/ui/Options.h"
 
 #include <gtkmm/label.h>

@@ -1,6 +1,6 @@
 #include "platform/gtk/ui/ScrollAreaWidget.h"
 
-#include "platform/gtk/ui/LayersLayout.h"
+#include "platform/gtk/ui/Layouts.h"
 #include "platform/ui/ViewNodes.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 #include "platform/gtk/ui/SheetWidget.h"
 
-#include "platform/gtk/ui/LayersLayout.h"
-#include "platform/gtk/ui/Reachability.h"
+#include "platform/gtk/ui/Layouts.h"
 #include "platform/ui/ViewNodes.h"
 
 #include <gtkmm/eventcontrollerkey.h>

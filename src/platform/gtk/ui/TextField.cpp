@@ -1,9 +1,7 @@
 #include "platform/gtk/ui/TextField.h"
 
-#include "platform/gtk/ui/AccessibleName.h"
-#include "platform/gtk/ui/FontAttributes.h"
-#include "platform/gtk/ui/Reachability.h"
-#include "platform/gtk/windows/MainWindow.h"
+#include "platform/gtk/ui/NativeWindow.h"
+#include "platform/gtk/ui/WidgetStyle.h"
 
 #include <gtkmm/eventcontrollerkey.h>
 
@@ -36,7 +34,7 @@ TextField::~TextField()
 
 platform::NSWindow* TextField::window() const
 {
-    return MainWindow::holding(text_);
+    return platformWindow(text_);
 }
 
 void TextField::setStringValue(const std::string& text)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/appkit/NSTextField.h"
-#include "platform/gtk/ui/NativeView.h"
+#include "platform/gtk/ui/NativeWidget.h"
 
 #include <gtkmm/text.h>
 

@@ -1,7 +1,6 @@
 #include "platform/gtk/ui/TextFieldWidget.h"
 
-#include "platform/gtk/ui/AccessibleName.h"
-#include "platform/gtk/ui/FontAttributes.h"
+#include "platform/gtk/ui/WidgetStyle.h"
 #include "platform/ui/ViewNodes.h"
 
 namespace gtk {

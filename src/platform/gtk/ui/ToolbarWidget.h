@@ -6,13 +6,13 @@
 
 namespace gtk {
 
-// Two places in the window's bar, which are filled by whoever describes the toolbar.
+// Two places in the window's bar, which the described toolbar fills.
 struct Toolbar {
     Gtk::Box leading{Gtk::Orientation::HORIZONTAL};
     Gtk::Box trailing{Gtk::Orientation::HORIZONTAL};
 };
 
-// Stands in the content for what it puts into the window's bar. Itself it is nothing to be seen.
+// Stands in the content for what it puts into the window's bar. The widget itself is invisible.
 class ToolbarWidget final : public NativeWidget {
 public:
     explicit ToolbarWidget(Toolbar& toolbar)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <glibmm/main.h>
 #include <gtkmm/settings.h>
 
 namespace gtk {
@@ -95,6 +96,31 @@ Offset transitionOffset(const Gtk::Widget& child, int width, int height)
         return {distance(width), 0};
     }
     return {};
+}
+
+ExitTransition::ExitTransition(Gtk::Widget& widget, std::shared_ptr<void> owner)
+    : widget_(widget)
+    , owner_(std::move(owner))
+{
+    widget_.set_can_target(false);
+}
+
+ExitTransition::~ExitTransition()
+{
+    widget_.unparent();
+}
+
+void ExitTransition::begin(
+    const ui::Transition& transition, std::function<void(const ExitTransition&)> completion)
+{
+    animateTransition(widget_, transition, 1, 0,
+        [weakSelf = weak_from_this(), completion = std::move(completion)] {
+            // The widget cannot go inside its own tick.
+            Glib::signal_idle().connect_once([weakSelf, completion] {
+                if (const auto self = weakSelf.lock())
+                    completion(*self);
+            });
+        });
 }
 
 } // namespace gtk

@@ -1,9 +1,10 @@
 #include "platform/gtk/ui/WidgetFactory.h"
 
 #include "platform/gtk/ui/ButtonWidget.h"
-#include "platform/gtk/ui/Containers.h"
 #include "platform/gtk/ui/Drawing.h"
+#include "platform/gtk/ui/GroupWidget.h"
 #include "platform/gtk/ui/HostWidget.h"
+#include "platform/gtk/ui/LayoutWidgets.h"
 #include "platform/gtk/ui/Leaves.h"
 #include "platform/gtk/ui/PopoverWidget.h"
 #include "platform/gtk/ui/ScrollAreaWidget.h"

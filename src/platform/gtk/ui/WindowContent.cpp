@@ -1,7 +1,7 @@
 #include "platform/gtk/ui/WindowContent.h"
 
-#include "platform/gtk/ui/Containers.h"
-#include "platform/gtk/ui/Theme.h"
+#include "platform/gtk/ui/GroupWidget.h"
+#include "platform/gtk/ui/WidgetStyle.h"
 
 namespace gtk {
 
@@ -19,11 +19,6 @@ WindowContent::~WindowContent() = default;
 Gtk::Widget& WindowContent::widget()
 {
     return root_->native();
-}
-
-void WindowContent::openURL(const platform::URL& url)
-{
-    mount_.openURL(url);
 }
 
 } // namespace gtk

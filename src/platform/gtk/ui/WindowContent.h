@@ -7,10 +7,6 @@
 
 #include <memory>
 
-namespace Gtk {
-class Widget;
-}
-
 namespace gtk {
 
 class GroupWidget;
@@ -28,14 +24,7 @@ public:
     // To be packed into the window's bar.
     Toolbar& toolbar() { return toolbar_; }
 
-    // What the views publish for the menus.
-    std::shared_ptr<const ui::Published<ui::FocusedValues>> focusedValues() const
-    {
-        return mount_.focusedValues();
-    }
-
-    // Hands `url` to the views that open addresses.
-    void openURL(const platform::URL& url);
+    ui::Mount& mount() { return mount_; }
 
 private:
     std::unique_ptr<GroupWidget> root_;

@@ -1,10 +1,9 @@
 #include "platform/gtk/webkit/GtkWebView.h"
 
-#include "platform/gtk/ui/Reachability.h"
+#include "platform/gtk/ui/NativeWindow.h"
 #include "platform/gtk/ui/ThemeColor.h"
 #include "platform/gtk/webkit/VisiblePage.h"
 #include "platform/gtk/webkit/WebEngine.h"
-#include "platform/gtk/windows/MainWindow.h"
 
 #include <gtkmm/settings.h>
 
@@ -113,7 +112,7 @@ void GtkWebView::tellTitle()
 
 platform::NSWindow* GtkWebView::window() const
 {
-    return MainWindow::holding(area_);
+    return platformWindow(area_);
 }
 
 void GtkWebView::setShown(bool isShown)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/ui/NativeView.h"
+#include "platform/gtk/ui/NativeWidget.h"
 #include "platform/gtk/webkit/EngineView.h"
 #include "platform/gtk/webkit/FileDrop.h"
 #include "platform/gtk/webkit/PageRecovery.h"

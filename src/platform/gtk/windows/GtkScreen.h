@@ -13,7 +13,7 @@ public:
     // has one. Null without a monitor, and before the toolkit has started.
     static GtkScreen* first();
 
-    // The one that holds the largest part of `surface`; null when it is on none.
+    // The one that holds the largest part of `surface`; null when that is on no screen.
     static GtkScreen* of(GdkSurface* surface);
 
     platform::NSRect visibleFrame() const override;
@@ -31,5 +31,12 @@ private:
 
     GdkMonitor* monitor_; // owns this
 };
+
+// The desktop counts from its upper left corner downwards, `NSRect` from the lower left corner of
+// the first screen upwards. `first` is where that screen lies on the desktop.
+platform::NSRect fromDesktop(const Gdk::Rectangle& area, const Gdk::Rectangle& first);
+
+// To whole points, rounded up and to the left.
+Gdk::Rectangle toDesktop(const platform::NSRect& area, const Gdk::Rectangle& first);
 
 } // namespace gtk

@@ -3,11 +3,10 @@
 #include "platform/appkit/NSWindowDelegate.h"
 #include "platform/appkit/NSWindowDescription.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/gtk/windows/ApplicationIcon.h"
-#include "platform/gtk/windows/CloseRequests.h"
+#include "platform/gtk/ui/NativeWindow.h"
+#include "platform/gtk/ui/Pictures.h"
 #include "platform/gtk/windows/GtkScreen.h"
 #include "platform/gtk/windows/PanelFrame.h"
-#include "platform/gtk/windows/ScreenCoordinates.h"
 #include "platform/gtk/windows/X11Window.h"
 
 #include <cmath>
@@ -18,15 +17,13 @@ namespace gtk {
 
 namespace {
 
-constexpr auto windowKey = "velmaro-window";
-
 int whole(double points)
 {
     return static_cast<int>(std::lround(points));
 }
 
-// For task lists, also where the program is not installed and the desktop knows no icon of its
-// name.
+// Task lists show this icon also where the program is not installed and the desktop knows no icon
+// of its name.
 void showIcon(Gdk::Surface& surface)
 {
     const auto icon = std::dynamic_pointer_cast<Gdk::Texture>(applicationIcon());
@@ -57,6 +54,41 @@ private:
     MainWindow& window_;
 };
 
+// Tells of the window manager's requests to close the window of `surface`, all of them: the toolkit
+// drops those that come while something modal, such as the print panel, is in front of the window.
+class MainWindow::CloseRequests {
+public:
+    // The toolkit's handler comes before any other and ends the signal, so only a hook sees them.
+    CloseRequests(GdkSurface* surface, std::function<void()> requested)
+        : surface_(surface)
+        , requested_(std::move(requested))
+        , hook_(g_signal_add_emission_hook(eventSignal(), 0, receive, this, nullptr))
+    {
+    }
+
+    ~CloseRequests() { g_signal_remove_emission_hook(eventSignal(), hook_); }
+
+    CloseRequests(const CloseRequests&) = delete;
+    CloseRequests& operator=(const CloseRequests&) = delete;
+
+private:
+    static guint eventSignal() { return g_signal_lookup("event", GDK_TYPE_SURFACE); }
+
+    static gboolean receive(GSignalInvocationHint*, guint, const GValue* arguments, gpointer data)
+    {
+        const auto* self = static_cast<CloseRequests*>(data);
+        auto* event = static_cast<GdkEvent*>(g_value_get_pointer(arguments + 1));
+        if (g_value_peek_pointer(arguments) == self->surface_
+            && gdk_event_get_event_type(event) == GDK_DELETE)
+            self->requested_();
+        return TRUE; // goes on
+    }
+
+    GdkSurface* surface_; // only compared
+    std::function<void()> requested_;
+    gulong hook_;
+};
+
 MainWindow::MainWindow(const ui::Scene& scene)
     : MainWindow(scene.content())
 {
@@ -85,7 +117,7 @@ MainWindow::MainWindow(ui::View content)
     : content_(std::move(content))
     , contentView_(std::make_shared<ContentView>(*this))
 {
-    g_object_set_data(G_OBJECT(window_->gobj()), windowKey, this);
+    setPlatformWindow(*window_, this);
     window_->signal_realize().connect(sigc::mem_fun(*this, &MainWindow::watchSurface));
     window_->signal_close_request().connect(
         [this] {
@@ -97,15 +129,9 @@ MainWindow::MainWindow(ui::View content)
 
 MainWindow::~MainWindow()
 {
-    g_object_set_data(G_OBJECT(window_->gobj()), windowKey, nullptr);
+    setPlatformWindow(*window_, nullptr);
     panelFrame_.reset();
     window_->unset_child();
-}
-
-MainWindow* MainWindow::holding(const Gtk::Widget& widget)
-{
-    auto* root = gtk_widget_get_root(const_cast<GtkWidget*>(widget.gobj()));
-    return root ? static_cast<MainWindow*>(g_object_get_data(G_OBJECT(root), windowKey)) : nullptr;
 }
 
 bool MainWindow::isVisible() const
@@ -190,8 +216,8 @@ void MainWindow::watchSurface()
 }
 
 // A window that has come to another screen counts as resized, since it is measured against that one
-// from then on. Whoever listens may resize the window once more, so not while the toolkit lays it
-// out.
+// from then on. Observers may resize the window once more, so they are told when the toolkit has
+// laid it out.
 void MainWindow::checkExtent()
 {
     if (isCheckQueued_)

@@ -15,7 +15,6 @@ struct NSWindowDescription;
 
 namespace gtk {
 
-class CloseRequests;
 class PanelFrame;
 
 // A window of the application: of its scene, or one beside those. It is made hidden.
@@ -25,22 +24,13 @@ public:
     explicit MainWindow(const platform::NSWindowDescription& description);
     ~MainWindow() override;
 
-    // The one that `widget` is in; null while it is in none.
-    static MainWindow* holding(const Gtk::Widget& widget);
-
     // The user or the program closes the window, which is still whole then.
     sigc::signal<void()>& signalClosed() { return signalClosed_; }
 
     Gtk::ApplicationWindow& native() { return *window_; }
 
-    // Hands `url` to the views that open addresses.
-    void openURL(const platform::URL& url) { content_.openURL(url); }
-
-    // What its views publish for the menus.
-    std::shared_ptr<const ui::Published<ui::FocusedValues>> focusedValues() const
-    {
-        return content_.focusedValues();
-    }
+    // Its views.
+    ui::Mount& mount() { return content_.mount(); }
 
     bool isKeyWindow() const { return window_->is_active(); }
 
@@ -52,13 +42,6 @@ public:
     void setMinSize(platform::NSSize size) override;
     bool isFullScreen() const override { return window_->is_fullscreen(); }
 
-    std::uint32_t collectionBehavior() const override { return collectionBehavior_; }
-    void setCollectionBehavior(std::uint32_t behavior) override { collectionBehavior_ = behavior; }
-    TabbingMode tabbingMode() const override { return tabbingMode_; }
-    void setTabbingMode(TabbingMode mode) override { tabbingMode_ = mode; }
-    bool isRestorable() const override { return isRestorable_; }
-    void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
-
     bool canBecomeMainWindow() const override { return !isClosed_; }
     platform::NSView* contentView() const override { return contentView_.get(); }
     void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
@@ -66,13 +49,14 @@ public:
     void close() override;
 
 private:
+    class CloseRequests;
     class ContentView;
 
     // How large the window is, and what it is measured against.
     struct Extent {
         int width = 0;
         int height = 0;
-        Gdk::Rectangle screen; // empty when it is on none
+        Gdk::Rectangle screen; // empty when the window is on no screen
 
         bool operator==(const Extent&) const = default;
     };
@@ -94,9 +78,6 @@ private:
     platform::NSWindowDelegate* delegate_ = nullptr;
     platform::NSRect frame_; // as last asked for
     platform::NSSize minSize_;
-    std::uint32_t collectionBehavior_ = 0;
-    TabbingMode tabbingMode_ = TabbingMode::automatic;
-    bool isRestorable_ = true;
     bool isClosed_ = false;
     Extent extent_; // as last told
     bool isCheckQueued_ = false;

@@ -1,16 +1,22 @@
 #pragma once
 
-#include "platform/appkit/NSWindow.h"
+#include "platform/appkit/NSWindowDelegate.h"
 #include "platform/gtk/webkit/OffscreenWebView.h"
+
+#include <utility>
 
 namespace gtk {
 
-// A window that holds a view which is only printed. The engine prints views that are in no window
-// of the toolkit, so there is none behind this one: nothing can come onto a screen by mistake, on a
-// desktop that does not let programs place their windows either.
+// A window that holds a view which is only printed. The engine also prints views that are in no
+// window of the toolkit, so this one has no such window: nothing can come onto a screen by mistake.
 class OffscreenWindow final : public platform::NSWindow {
 public:
-    OffscreenWindow(const platform::NSRect& frame, std::shared_ptr<OffscreenWebView> contentView);
+    OffscreenWindow(const platform::NSRect& frame, std::shared_ptr<OffscreenWebView> contentView)
+        : frame_(frame)
+        , contentView_(std::move(contentView))
+    {
+        contentView_->setWindow(this);
+    }
     ~OffscreenWindow() override { close(); }
 
     platform::NSScreen* screen() const override { return nullptr; }
@@ -21,25 +27,23 @@ public:
     void setMinSize(platform::NSSize size) override { minSize_ = size; }
     bool isFullScreen() const override { return false; }
 
-    std::uint32_t collectionBehavior() const override { return collectionBehavior_; }
-    void setCollectionBehavior(std::uint32_t behavior) override { collectionBehavior_ = behavior; }
-    TabbingMode tabbingMode() const override { return tabbingMode_; }
-    void setTabbingMode(TabbingMode mode) override { tabbingMode_ = mode; }
-    bool isRestorable() const override { return isRestorable_; }
-    void setRestorable(bool isRestorable) override { isRestorable_ = isRestorable; }
-
     bool canBecomeMainWindow() const override { return false; }
     platform::NSView* contentView() const override { return contentView_.get(); }
     void setDelegate(platform::NSWindowDelegate* delegate) override { delegate_ = delegate; }
     void makeKeyAndOrderFront() override { }
-    void close() override;
+    void close() override
+    {
+        const auto view = std::exchange(contentView_, nullptr);
+        if (!view)
+            return;
+        if (delegate_)
+            delegate_->windowWillClose(*this);
+        view->setWindow(nullptr);
+    }
 
 private:
     platform::NSRect frame_;
     platform::NSSize minSize_;
-    std::uint32_t collectionBehavior_ = 0;
-    TabbingMode tabbingMode_ = TabbingMode::automatic;
-    bool isRestorable_ = true;
     platform::NSWindowDelegate* delegate_ = nullptr;
     std::shared_ptr<OffscreenWebView> contentView_; // null once the window is closed
 };

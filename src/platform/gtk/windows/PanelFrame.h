@@ -33,7 +33,7 @@ private:
     Gtk::Window& window_;
     Gtk::HeaderBar bar_;
     Gtk::Label noTitle_;
-    Gtk::Box noBar_; // the toolkit draws a title bar of its own where it is given none
+    Gtk::Box noBar_; // keeps the toolkit from drawing a title bar of its own
     Gtk::WindowHandle handle_; // what it holds drags the window
     Gtk::Overlay layers_;
 };

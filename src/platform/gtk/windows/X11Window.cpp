@@ -1,6 +1,9 @@
 #include "platform/gtk/windows/X11Window.h"
 
+#include "platform/gtk/foundation/SignalHandlers.h"
+
 #include <gdk/x11/gdkx.h>
+#include <memory>
 #include <X11/Xatom.h>
 #include <X11/Xutil.h>
 
@@ -93,6 +96,7 @@ void claimPosition(const Handle& handle, int x, int y)
 struct Watcher {
     Window window;
     std::function<void()> handler;
+    SignalHandlers signals;
 };
 
 gboolean handleEvent(GdkX11Display*, gpointer event, gpointer data)
@@ -165,12 +169,12 @@ void onConfigured(Gtk::Window& window, std::function<void()> handler)
     const auto handle = handleOf(window);
     if (!handle)
         return;
-    auto* display = window.get_display()->gobj();
-    auto* watcher = new Watcher{handle->window, std::move(handler)};
-    const auto connection = g_signal_connect_data(
-        display, "xevent", G_CALLBACK(handleEvent), watcher,
-        [](gpointer data, GClosure*) { delete static_cast<Watcher*>(data); }, GConnectFlags());
-    window.signal_unrealize().connect([=] { g_signal_handler_disconnect(display, connection); });
+    auto watcher = std::make_shared<Watcher>();
+    watcher->window = handle->window;
+    watcher->handler = std::move(handler);
+    watcher->signals.connect(
+        window.get_display()->gobj(), "xevent", G_CALLBACK(handleEvent), watcher.get());
+    window.signal_unrealize().connect([watcher]() mutable { watcher.reset(); });
 }
 
 } // namespace gtk::X11Window

@@ -1,19 +1,19 @@
-#include "platform/gtk/ui/SymbolImage.h"
+#include "platform/gtk/ui/Pictures.h"
+
+#include "platform/gtk/foundation/ObjectPointer.h"
 
 #include <cairomm/context.h>
+#include <gdkmm/texture.h>
 #include <giomm/resource.h>
 #include <librsvg/rsvg.h>
 #include <map>
-#include <memory>
 #include <utility>
 
 namespace gtk {
 
 namespace {
 
-struct UnrefHandle {
-    void operator()(RsvgHandle* handle) const { g_object_unref(handle); }
-};
+constexpr auto iconPath = "/example/velmaro/Online/application-icon.png";
 
 Cairo::RefPtr<Cairo::ImageSurface> draw(const std::string& name, int pixels)
 {
@@ -23,8 +23,7 @@ Cairo::RefPtr<Cairo::ImageSurface> draw(const std::string& name, int pixels)
     const auto data = Gio::Resource::lookup_data_global(path);
     gsize size = 0;
     const auto* bytes = static_cast<const guint8*>(data->get_data(size));
-    const std::unique_ptr<RsvgHandle, UnrefHandle> handle(
-        rsvg_handle_new_from_data(bytes, size, nullptr));
+    const ObjectPointer<RsvgHandle> handle(rsvg_handle_new_from_data(bytes, size, nullptr));
     if (!handle)
         return {};
 
@@ -36,6 +35,14 @@ Cairo::RefPtr<Cairo::ImageSurface> draw(const std::string& name, int pixels)
 }
 
 } // namespace
+
+Glib::RefPtr<Gdk::Paintable> applicationIcon()
+{
+    static const auto icon = Gio::Resource::get_file_exists_global_nothrow(iconPath)
+        ? Gdk::Texture::create_from_resource(iconPath)
+        : Glib::RefPtr<Gdk::Texture>();
+    return icon;
+}
 
 Cairo::RefPtr<Cairo::ImageSurface> symbolMask(const std::string& name, int pixels)
 {

@@ -1,43 +1,13 @@
 #pragma once
 
 #include "platform/gtk/ui/Container.h"
-#include "platform/gtk/ui/FrameLayout.h"
-#include "platform/gtk/ui/Interaction.h"
-#include "platform/gtk/ui/LayersLayout.h"
-#include "platform/gtk/ui/PaddingLayout.h"
-#include "platform/ui/Accessibility.h"
+#include "platform/gtk/ui/Layouts.h"
 
 #include <gtkmm/boxlayout.h>
-#include <optional>
-#include <string>
 
-// The containers, one for each kind of node that has children.
+// The containers that do nothing but arrange their children, one for each kind of node.
 
 namespace gtk {
-
-class GroupWidget final : public Container {
-public:
-    GroupWidget();
-    void apply(const ui::Node& node) override;
-
-private:
-    // What is told to the toolkit only when it changes.
-    struct Look {
-        double opacity = 1;
-        bool allowsHitTesting = true;
-        std::string help;
-        ui::Accessibility accessibility;
-
-        bool operator==(const Look&) const = default;
-    };
-
-    void apply(const Look& look);
-    void applyAccessibility(const Look& look);
-
-    Interaction interaction_;
-    std::optional<Look> look_; // absent until there is one
-    bool isScrolledToVisible_ = false;
-};
 
 class LayersWidget final : public Container {
 public:
