@@ -24,7 +24,6 @@
 #include "platform/gtk/renderer/RendererSafeguard.h"
 #include "platform/gtk/sparkle/GtkUpdaterController.h"
 #include "platform/gtk/ui/PlainView.h"
-#include "platform/gtk/ui/TextField.h"
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
 #include "platform/gtk/usernotifications/GtkUserNotificationCenter.h"
 #include "platform/gtk/usernotifications/PortalNotifications.h"
@@ -163,11 +162,6 @@ platform::NSScreen* GtkPlatform::mainScreen()
 std::shared_ptr<platform::NSView> GtkPlatform::makeView()
 {
     return std::make_shared<PlainView>();
-}
-
-std::shared_ptr<platform::NSTextField> GtkPlatform::makeTextField()
-{
-    return std::make_shared<TextField>();
 }
 
 std::shared_ptr<platform::WKWebView> GtkPlatform::makeWebView(
