@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string_view>
 
 namespace velmaro {
@@ -17,9 +16,6 @@ struct StationKindAppearance {
 
 // The kind's name, which is also the route of its page.
 std::string_view rawValue(StationKind kind);
-
-// Absent when no kind has that name.
-std::optional<StationKind> stationKind(std::string_view rawValue);
 
 const StationKindAppearance& appearance(StationKind kind);
 
