@@ -24,7 +24,7 @@ enum class StandardCommand {
     showShortcuts, // a window with the keys of all items
 };
 
-// One line of a menu.
+// One line of a menu. It is a plain value.
 struct MenuItem {
     std::string title;
     std::vector<KeyEquivalent> shortcuts = {}; // the first is shown beside the title

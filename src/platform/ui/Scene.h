@@ -15,7 +15,7 @@ enum class WindowToolbarStyle {
 };
 
 // The windows of an application, one group of which the platform opens one at launch, and its
-// menus.
+// menus. The caller of `NSApplication::run` owns it.
 struct Scene {
     std::string identifier;
     std::string title;
