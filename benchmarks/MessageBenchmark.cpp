@@ -3,6 +3,7 @@
 // through JSON text. Messages are posted by one script; the clock runs until the last has been
 // handled.
 
+#include "app/PageMessages.h"
 #include "harness/DemoServiceProcess.h"
 #include "platform/foundation/JSONSerialization.h"
 #include "platform/gtk/GtkPlatform.h"
@@ -195,7 +196,8 @@ public:
 
 private:
     std::shared_ptr<velmaro::WebModel> model_ = std::make_shared<velmaro::WebModel>("drives");
-    std::shared_ptr<velmaro::Coordinator> coordinator_ = velmaro::WebView{model_}.makeCoordinator();
+    std::shared_ptr<velmaro::Coordinator> coordinator_ =
+        velmaro::WebView{model_, velmaro::pageMessageRules()}.makeCoordinator();
     std::shared_ptr<gtk::GtkWebView> view_;
     Gtk::Window window_;
 };

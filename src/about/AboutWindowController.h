@@ -13,13 +13,13 @@ public:
     // The one of this run.
     static AboutWindowController& shared();
 
-    // Brings the window to the front, with a new one when there is none.
+    // Brings the window to the front, and makes a new one when there is no window.
     void show();
 
     void windowWillClose(platform::NSWindow&) override { window_.reset(); }
 
 private:
-    std::weak_ptr<platform::NSWindow> window_; // none before the first `show` and after its closing
+    std::weak_ptr<platform::NSWindow> window_; // expired while no window is open
 };
 
 } // namespace velmaro

@@ -9,10 +9,6 @@
 #include "web/OnboardingKeys.h"
 #include "web/WebModel.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 namespace velmaro {
 
 using platform::UserDefaults;
@@ -27,7 +23,7 @@ std::optional<std::string> stringMember(const Value& body, const char* name)
     return text ? std::optional(*text) : std::nullopt;
 }
 
-// Early, so that the first notification finds the question answered.
+// The user is asked early, so that the first notification finds the question answered.
 void askForNotifications()
 {
     platform::UNUserNotificationCenter::currentNotificationCenter().getNotificationSettings(
@@ -36,7 +32,7 @@ void askForNotifications()
         });
 }
 
-// An object is a signed-in user, whatever it holds; anything else means that nobody is.
+// An object is a signed-in user, whatever it holds; anything else means that no user is.
 PageAction reportUser(const Value& body)
 {
     std::optional<UserIdentity> identity;
@@ -116,37 +112,20 @@ PageAction openTab(const Value&)
     };
 }
 
-struct MessageRule {
-    std::string_view name;
-    PageAction (*action)(const Value& body);
-};
-
-constexpr std::array messageRules{
-    MessageRule{"authBridge", reportUser},
-    MessageRule{"reportBridge", saveReport},
-    MessageRule{"printBridge", printReport},
-    MessageRule{"routeBridge", reportRoute},
-    MessageRule{"onboardingBridge", finishOnboarding},
-    MessageRule{"notifyBridge", notify},
-    MessageRule{"logoutBridge", logOut},
-    MessageRule{"tabBridge", openTab},
-};
-
 } // namespace
 
-std::vector<std::string> pageMessageNames()
+PageMessageRules pageMessageRules()
 {
-    std::vector<std::string> names;
-    names.reserve(std::size(messageRules));
-    for (const auto& rule : messageRules)
-        names.emplace_back(rule.name);
-    return names;
-}
-
-PageAction actionForPageMessage(const platform::WKScriptMessage& message)
-{
-    const auto rule = std::ranges::find(messageRules, message.name, &MessageRule::name);
-    return rule == messageRules.end() ? PageAction() : rule->action(message.body);
+    return {
+        {"authBridge", reportUser},
+        {"reportBridge", saveReport},
+        {"printBridge", printReport},
+        {"routeBridge", reportRoute},
+        {"onboardingBridge", finishOnboarding},
+        {"notifyBridge", notify},
+        {"logoutBridge", logOut},
+        {"tabBridge", openTab},
+    };
 }
 
 } // namespace velmaro

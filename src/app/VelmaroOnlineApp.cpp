@@ -2,6 +2,7 @@
 
 #include "app/AppCommands.h"
 #include "app/BrowsingCommands.h"
+#include "app/PageMessages.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/ui/Views.h"
 #include "tabs/AppRoot.h"
@@ -22,7 +23,7 @@ ui::Scene VelmaroOnlineApp::body() const
         .identifier = "main",
         .title = "Velmaro Online",
         .toolbarStyle = ui::WindowToolbarStyle::unified,
-        .content = [] { return ui::View(AppRoot{}); },
+        .content = [] { return ui::View(AppRoot{.pageMessages = pageMessageRules()}); },
         .commands = [this] { return commands(); },
         .dockMenu =
             {

@@ -167,12 +167,12 @@ void LocationPickerModel::locationManagerDidFailWithError(CLLocationManager&, co
 
 void LocationPickerModel::finishCurrentLocation(const Result& result)
 {
-    const auto self = shared_from_this(); // whoever is told may drop the picker
+    const auto self = shared_from_this(); // the callee may drop the picker
     const auto* failure = std::get_if<Error>(&result);
 
     isResolving = false;
     statusMessage = failure ? std::optional(statusText(*failure)) : std::nullopt;
-    // A copy, since whoever is told may ask again; that request's callback is dropped with this
+    // This is a copy, since the callee may ask again; that request's callback is dropped with this
     // one.
     if (const auto completion = currentLocationContinuation_)
         completion(result);

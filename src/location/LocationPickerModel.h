@@ -23,7 +23,7 @@ class LocationPickerModel final : public platform::CLLocationManagerDelegate,
 public:
     enum class LocationError {
         denied, // the user's location may not be used
-        notFound, // no place for a suggestion, and nobody said why
+        notFound, // no place found, no error reported.
     };
 
     using Error = std::variant<LocationError, platform::NSError>;
@@ -53,8 +53,8 @@ public:
     // Reads `query` and writes it through `setQuery`, for a text field. The model must outlive it.
     ui::Binding<std::string> queryBinding();
 
-    // Finds the user's position, asking for permission first when nobody has. Of requests that
-    // overlap, only the last one's `completion` is called.
+    // Finds the user's position, asking for permission first where that has not been done. Of
+    // requests that overlap, only the last one's `completion` is called.
     void requestCurrentLocation(Completion completion);
 
     // Finds where `suggestion` is. Every request's `completion` is called, even when the model has

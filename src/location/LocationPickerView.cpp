@@ -179,7 +179,7 @@ View LocationPickerView::body() const
 {
     const auto picker = model();
     const bool isFocused = queryFocused();
-    const auto submit = [picker, onPick = onPick] {
+    const auto submit = [picker, onPick = onPick](ui::EventModifiers) {
         if (!picker->suggestions().empty())
             picker->resolve(picker->suggestions().front(), finishPick(onPick));
     };

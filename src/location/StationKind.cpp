@@ -5,7 +5,6 @@ namespace velmaro {
 namespace {
 
 struct Row {
-    StationKind kind;
     std::string_view rawValue;
     StationKindAppearance appearance;
 };
@@ -13,7 +12,6 @@ struct Row {
 // In the order of the enumerators.
 constexpr Row rows[] = {
     {
-        .kind = StationKind::gas,
         .rawValue = "gas",
         .appearance =
             {
@@ -24,7 +22,6 @@ constexpr Row rows[] = {
             },
     },
     {
-        .kind = StationKind::evstations,
         .rawValue = "evstations",
         .appearance =
             {
@@ -35,7 +32,6 @@ constexpr Row rows[] = {
             },
     },
     {
-        .kind = StationKind::traffic,
         .rawValue = "traffic",
         .appearance =
             {

@@ -19,7 +19,7 @@ public:
 
     // Tells `completion` whether notifications may be posted, going by the center's current
     // settings. A user who has not decided is asked, once a run; the answer may take its time.
-    // Until then, and after it for whoever asked meanwhile, they may not.
+    // Calls made until then are answered with no.
     void ensureAuthorized(const platform::UNNotificationSettings& settings,
         std::function<void(bool mayPost)> completion);
 

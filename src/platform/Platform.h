@@ -20,7 +20,6 @@ class MKLocalSearch;
 class MKLocalSearchCompleter;
 class NSApplication;
 class NSScreen;
-class NSTextField;
 class NSView;
 class NSWindow;
 class NSWorkspace;
@@ -67,9 +66,6 @@ public:
 
     // A plain view with nothing in it.
     virtual std::shared_ptr<NSView> makeView() = 0;
-
-    // An empty field that the user can type into.
-    virtual std::shared_ptr<NSTextField> makeTextField() = 0;
 
     // A web view that is configured and empty. It must be placed in a window to be seen.
     virtual std::shared_ptr<WKWebView> makeWebView(const WKWebViewConfiguration&) = 0;

@@ -1,19 +1,14 @@
 #include "reports/PrintDelegate.h"
 
 #include "platform/appkit/NSApplication.h"
-#include "platform/foundation/DispatchQueue.h"
 #include "platform/Platform.h"
 #include "platform/webkit/WKWebView.h"
-#include "reports/ReportAlerts.h"
-#include "reports/ReportDownloader.h"
-#include "reports/SettleDelay.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace velmaro {
 
-using platform::DispatchQueue;
 using platform::NSApplication;
 using platform::NSPrintInfo;
 using platform::NSPrintOperation;
@@ -39,35 +34,12 @@ NSPrintInfo reportPrintInfo()
 
 PrintDelegate::PrintDelegate(
     const platform::UUID& id, std::string title, std::shared_ptr<NSWindow> hostWindow)
-    : id(id)
-    , title(std::move(title))
+    : ReportJob(id, std::move(title), "Print failed to load: ")
     , hostWindow(std::move(hostWindow))
 {
 }
 
-void PrintDelegate::didFinishNavigation(WKWebView& webView)
-{
-    DispatchQueue::main().asyncAfter(
-        settleDelay, [self = shared_from_this(), weakView = webView.weak_from_this()] {
-            if (const auto view = weakView.lock())
-                self->print(static_cast<WKWebView&>(*view));
-        });
-}
-
-void PrintDelegate::didFailNavigation(WKWebView&, const platform::NSError& error)
-{
-    DispatchQueue::main().async([self = shared_from_this(), error] {
-        showReportErrorAlert("Print failed to load: " + error.localizedDescription);
-        self->end();
-    });
-}
-
-void PrintDelegate::didFailProvisionalNavigation(WKWebView& webView, const platform::NSError& error)
-{
-    didFailNavigation(webView, error);
-}
-
-void PrintDelegate::print(WKWebView& webView)
+void PrintDelegate::carryOut(WKWebView& webView)
 {
     if (!webView.window())
         hostWindow = platform::Platform::current().makeOffscreenWindow(
@@ -75,9 +47,8 @@ void PrintDelegate::print(WKWebView& webView)
 
     const auto operation = webView.printOperation(reportPrintInfo());
     operation->jobTitle = title;
-    const auto completion = [self = shared_from_this()](NSPrintOperation& ended, bool success) {
-        self->printDidRun(ended, success);
-    };
+    const auto completion = [this, self = shared_from_this()](NSPrintOperation& ended,
+                                bool success) { printDidRun(ended, success); };
     if (const auto window = sheetWindow())
         operation->runModalFor(window, completion);
     else
@@ -107,11 +78,6 @@ void PrintDelegate::closeHostWindow()
 {
     if (const auto window = std::exchange(hostWindow, nullptr))
         window->close();
-}
-
-void PrintDelegate::end() const
-{
-    ReportDownloader::shared().pending.erase(id);
 }
 
 } // namespace velmaro

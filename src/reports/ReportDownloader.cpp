@@ -27,22 +27,19 @@ ReportDownloader& ReportDownloader::shared()
 void ReportDownloader::savePDF(
     const std::string& title, const std::optional<std::string>& filename, const std::string& html)
 {
-    const UUID id;
-    start(id, std::make_shared<LoadDelegate>(id, title, filename), html);
+    start(std::make_shared<LoadDelegate>(UUID(), title, filename), html);
 }
 
 void ReportDownloader::printReport(const std::string& title, const std::string& html)
 {
-    const UUID id;
-    start(id, std::make_shared<PrintDelegate>(id, title), html);
+    start(std::make_shared<PrintDelegate>(UUID(), title), html);
 }
 
-void ReportDownloader::start(const UUID& id,
-    std::shared_ptr<platform::WKNavigationDelegate> delegate, const std::string& html)
+void ReportDownloader::start(const std::shared_ptr<ReportJob>& job, const std::string& html)
 {
     const auto webView = Platform::current().makeWebView(pageFrame, {});
-    webView->navigationDelegate = delegate;
-    pending.emplace(id, Session{webView, std::move(delegate)});
+    webView->navigationDelegate = job;
+    pending.emplace(job->id, Session{webView, job});
     webView->loadHTMLString(html, URL::fromString(Service::current().serviceOrigin() + "/"));
 }
 

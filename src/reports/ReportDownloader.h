@@ -1,7 +1,8 @@
 #pragma once
 
 #include "platform/foundation/UUID.h"
-#include "reports/Session.h"
+#include "platform/webkit/WKWebView.h"
+#include "reports/ReportJob.h"
 
 #include <map>
 #include <optional>
@@ -10,8 +11,8 @@
 namespace velmaro {
 
 // Prints the reports that pages hand over as documents, or saves them as PDF in the user's folder
-// for downloads. Each report is a job with a web view of its own that nobody sees. Any number can
-// run at once, and none can be cancelled: a document that never finishes loading stays until the
+// for downloads. Each report is a job with an invisible web view of its own. Any number can run at
+// once, and no job can be cancelled: a document that never finishes loading stays until the
 // application ends.
 //
 // Main thread only. Callers are not told how a job ends; the user is.
@@ -27,12 +28,17 @@ public:
     // `title` names the job in the printer's queue.
     void printReport(const std::string& title, const std::string& html);
 
+    // What one job needs to stay alive.
+    struct Session {
+        std::shared_ptr<platform::WKWebView> webView;
+        std::shared_ptr<platform::WKNavigationDelegate> delegate; // the web view's
+    };
+
     // The jobs that have not ended. A job's web view and delegate live as long as it is in here.
     std::map<platform::UUID, Session> pending;
 
 private:
-    void start(const platform::UUID& id, std::shared_ptr<platform::WKNavigationDelegate> delegate,
-        const std::string& html);
+    void start(const std::shared_ptr<ReportJob>& job, const std::string& html);
 };
 
 } // namespace velmaro

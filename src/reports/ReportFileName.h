@@ -13,8 +13,8 @@ namespace velmaro {
 std::string cleanReportName(const std::string& name);
 
 // Where a report of this name is to be saved at this time: in the user's folder for downloads, or
-// the temporary one where there is none. A name that is taken gets the time added; whatever bears
-// that one is to be replaced.
+// the temporary one where the desktop has no such folder. A name that is taken gets the time added;
+// a file that bears even that name is to be replaced.
 platform::URL reportFileURL(const std::string& name, std::chrono::system_clock::time_point now);
 
 } // namespace velmaro

@@ -22,20 +22,22 @@ using Tab = std::shared_ptr<WebModel>;
 
 // Every open tab keeps its page; only the active one is seen and clicked. A tab that has no page
 // yet and needs none has no layer.
-View layers(const TabbedAppModel& app, const Tab& active)
+View layers(const TabbedAppModel& app, const Tab& active, const PageMessageRules& pageMessages)
 {
     const auto tabId = [](const Tab& tab) { return tab->id.string(); };
     const auto layer = [&](const Tab& tab) {
         const bool isActive = tab == active;
         if (!isActive && !tab->isLoadedAhead() && tab->webView.expired())
             return View();
-        return View(TabContent{.model = tab}).opacity(isActive ? 1 : 0).allowsHitTesting(isActive);
+        return View(TabContent{.model = tab, .pageMessages = pageMessages})
+            .opacity(isActive ? 1 : 0)
+            .allowsHitTesting(isActive);
     };
     return ZStack{{}, ui::ForEach(app.tabs(), tabId, layer)};
 }
 
-// The location picker, for the tab that was in front when it was opened: a picked place is that
-// one's, or nobody's when it has been closed meanwhile.
+// The location picker, for the tab that was in front when it was opened. A picked place goes to
+// that tab, and is dropped when the tab has been closed meanwhile.
 struct StationPicker {
     StationKind kind;
     ui::State<std::weak_ptr<WebModel>> opener;
@@ -67,7 +69,7 @@ View ActiveTabShell::body() const
     };
     const auto& target = pickerTarget();
 
-    return VStack{{.spacing = 0}, TabBar{app}, layers(*app, active)}
+    return VStack{{.spacing = 0}, TabBar{app}, layers(*app, active, pageMessages)}
         .background(WindowSizer{})
         .focusedSceneValue<WebModelFocusedKey>(active)
         .focusedSceneValue<TabbedAppModelFocusedKey>(app)

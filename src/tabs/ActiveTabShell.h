@@ -4,6 +4,7 @@
 #include "platform/ui/State.h"
 #include "platform/ui/View.h"
 #include "tabs/TabbedAppModel.h"
+#include "web/PageMessageRules.h"
 
 #include <memory>
 #include <optional>
@@ -16,6 +17,7 @@ namespace velmaro {
 struct ActiveTabShell {
     std::shared_ptr<TabbedAppModel> app;
     std::shared_ptr<WebModel> active;
+    PageMessageRules pageMessages; // what the tabs' pages can ask for
     ui::State<std::optional<StationKind>> pickerTarget = std::optional<StationKind>();
 
     auto state() { return std::tie(pickerTarget); }

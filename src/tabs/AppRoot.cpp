@@ -13,8 +13,9 @@ using ui::View;
 View AppRoot::body() const
 {
     const auto active = app()->activeTab();
-    const View content = active ? View(ActiveTabShell{.app = app(), .active = active})
-                                : Fill(Color::windowBackground).background(WindowSizer{});
+    const View content = active
+        ? View(ActiveTabShell{.app = app(), .active = active, .pageMessages = pageMessages})
+        : Fill(Color::windowBackground).background(WindowSizer{});
 
     return content.onOpenURL([weakApp = std::weak_ptr(app())](const platform::URL& url) {
         const auto app = weakApp.lock();

@@ -3,6 +3,7 @@
 #include "platform/ui/State.h"
 #include "platform/ui/View.h"
 #include "tabs/TabbedAppModel.h"
+#include "web/PageMessageRules.h"
 
 #include <tuple>
 
@@ -11,7 +12,8 @@ namespace velmaro {
 // The content of the main window. It owns the tab model and passes opened addresses to the active
 // tab.
 struct AppRoot {
-    ui::StateObject<TabbedAppModel> app;
+    PageMessageRules pageMessages; // what the tabs' pages can ask for
+    ui::StateObject<TabbedAppModel> app = {};
 
     auto state() { return std::tie(app); }
     ui::View body() const;

@@ -57,7 +57,7 @@ void TabbedAppModel::forgetEverything()
         platform::WKWebsiteDataStore::defaultDataStore, [weakSelf = weak_from_this(), clearing] {
             platform::DispatchQueue::main().async([weakSelf, clearing] {
                 const auto self = weakSelf.lock();
-                if (!self || clearing != self->clearings_) // asked for once more meanwhile
+                if (!self || clearing != self->clearings_) // the user has asked once more meanwhile
                     return;
                 platform::URLCache::shared().removeAllCachedResponses();
                 self->startAfresh();

@@ -8,7 +8,7 @@ namespace velmaro {
 // Keeps the routes of the open tabs in the settings store across launches.
 namespace RouteRestorer {
 
-// Where the routes are stored, left to right, and the index of the active tab.
+// The settings for the routes, which are stored left to right, and for the index of the active tab.
 inline constexpr auto key = "vl.open.routes";
 inline constexpr auto activeIndexKey = "vl.open.routes.active";
 

@@ -56,7 +56,7 @@ struct TabBarPlace {
         };
     }
 
-    // Of the tab now, which is no part of the description: a tab that moves is described as before.
+    // Looked up when needed, not stored, so that a moved tab equals its old description.
     int index() const
     {
         return static_cast<int>(std::ranges::find(app->tabs(), tab) - app->tabs().begin());

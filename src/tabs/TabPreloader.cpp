@@ -18,7 +18,7 @@ bool isLive(const std::shared_ptr<WebModel>& tab)
     return tab->isLoadedAhead() || !tab->webView.expired();
 }
 
-// Null when all are live.
+// It is null when all tabs are live.
 std::shared_ptr<WebModel> nearestUnloadedTab(const TabbedAppModel& app)
 {
     const auto& tabs = app.tabs();

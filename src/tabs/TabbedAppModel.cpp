@@ -16,7 +16,7 @@ using platform::UserDefaults;
 
 namespace {
 
-constexpr std::size_t mostClosedTabs = 25; // that can come back
+constexpr std::size_t mostClosedTabs = 25; // they can be reopened
 
 struct SharedModel {
     std::weak_ptr<TabbedAppModel> model;
@@ -159,7 +159,7 @@ void TabbedAppModel::keepOnlyActiveTab()
     const auto active = activeTab();
     if (!active)
         return;
-    closedTabs_ = ClosedTabs(); // of somebody who has signed out
+    closedTabs_ = ClosedTabs(); // they were those of a user who has signed out
     tabs = Tabs{active};
     activeIndex = 0;
 }

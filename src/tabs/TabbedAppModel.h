@@ -27,7 +27,7 @@ public:
     // Left to right; never empty.
     ui::Published<Tabs> tabs;
 
-    // Index of the tab that is shown; any value outside the list means none.
+    // Index of the tab that is shown; any value outside the list means that no tab is.
     ui::Published<int> activeIndex = 0;
 
     // Null when no tab is active.

@@ -19,7 +19,8 @@ struct NavigationToolbar {
     ui::View body() const;
 };
 
-// The trailing end: what is around a place. For signed-in users only.
+// The trailing end of the bar: buttons for what is around a place. It is empty until a user has
+// signed in.
 struct StationToolbar {
     std::shared_ptr<WebModel> active;
     ui::Binding<std::optional<StationKind>> pickerTarget;

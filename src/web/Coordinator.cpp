@@ -1,6 +1,5 @@
 #include "web/Coordinator.h"
 
-#include "app/PageMessages.h"
 #include "platform/appkit/NSOpenPanel.h"
 #include "platform/appkit/NSWorkspace.h"
 #include "platform/foundation/DispatchQueue.h"
@@ -44,7 +43,7 @@ void Coordinator::observe(const std::shared_ptr<WKWebView>& webView)
 void Coordinator::userContentControllerDidReceiveScriptMessage(
     const platform::WKScriptMessage& message)
 {
-    auto action = actionForPageMessage(message);
+    auto action = actionForPageMessage(pageMessages, message);
     if (!action)
         return;
     DispatchQueue::main().async([weakSelf = weak_from_this(), action = std::move(action)] {

@@ -6,6 +6,7 @@
 #include "platform/webkit/WKUIDelegate.h"
 #include "platform/webkit/WKWebView.h"
 #include "web/DroppableWebView.h"
+#include "web/PageMessageRules.h"
 #include "web/WebModel.h"
 
 #include <map>
@@ -24,12 +25,14 @@ class Coordinator final : public platform::WKScriptMessageHandler,
                           public DroppableWebViewDelegate,
                           public std::enable_shared_from_this<Coordinator> {
 public:
-    explicit Coordinator(std::shared_ptr<WebModel> model)
+    Coordinator(std::shared_ptr<WebModel> model, PageMessageRules pageMessages)
         : model(std::move(model))
+        , pageMessages(std::move(pageMessages))
     {
     }
 
     const std::shared_ptr<WebModel> model;
+    const PageMessageRules pageMessages;
     std::vector<platform::WKWebView::Observation> observations;
 
     // Mirrors the navigation state of `webView` from now on, in place of whatever was observed

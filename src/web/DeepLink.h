@@ -10,7 +10,7 @@ namespace velmaro {
 // Where an address with the application's own scheme leads.
 struct DeepLink {
     std::string route;
-    std::string function; // page function to call there; empty when none
+    std::string function; // page function to call there; may be empty
     std::optional<std::string> argument;
 
     bool operator==(const DeepLink&) const = default;

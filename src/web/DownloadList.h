@@ -22,8 +22,8 @@ struct DownloadItem {
     platform::UUID id = {};
 };
 
-// The downloads of this run of the program, those of all tabs, until the user clears them away.
-// Main thread only.
+// The downloads of all tabs in this run of the program, until the user clears them away. Main
+// thread only.
 class DownloadList {
 public:
     static DownloadList& shared();

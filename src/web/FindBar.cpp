@@ -19,17 +19,6 @@ namespace {
 
 constexpr double fadeDuration = 0.18; // seconds
 
-View field(const std::shared_ptr<WebModel>& model)
-{
-    return View(AutoFocusedFindField{
-                    .text = model->findQuery.binding(),
-                    .onCommit = [model] { model->find(false); },
-                    .onCommitBackwards = [model] { model->find(true); },
-                    .onCancel = [model] { model->closeFind(); },
-                })
-        .frame({.width = 220});
-}
-
 View notFound(const WebModel& model)
 {
     if (model.findLastResult() != false || model.findQuery().empty())
@@ -57,7 +46,7 @@ View FindBar::body() const
     return HStack{
         {.spacing = 6},
         Symbol("magnifyingglass", glass),
-        field(model),
+        View(AutoFocusedFindField{model}).frame({.width = 220}),
         notFound(*model),
         step("chevron.up", "Previous match (⇧⌘G)", find(true)),
         step("chevron.down", "Next match (⌘G)", find(false)),

@@ -11,7 +11,7 @@ public:
     static constexpr auto key = "vl.page.zoom";
     static constexpr int actualSize = 100; // percent
 
-    // What is stored, within what can be read at all.
+    // The stored zoom, clamped to the allowed range.
     int percent() const;
 
     // The next step from here; the same at the end of the steps.

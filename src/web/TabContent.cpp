@@ -63,7 +63,10 @@ struct FindBarPlace {
 
 View TabContent::body() const
 {
-    return ZStack{{}, WebView{.model = model, .zoomPercent = PageZoom().percent()}, Splash{model}}
+    const WebView page{
+        .model = model, .pageMessages = pageMessages, .zoomPercent = PageZoom().percent()};
+
+    return ZStack{{}, page, Splash{model}}
         .overlay(ProgressLine{model}, Alignment::top)
         .overlay(FindBarPlace{model}, Alignment::topTrailing);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ui/View.h"
+#include "web/PageMessageRules.h"
 #include "web/WebModel.h"
 
 #include <memory>
@@ -11,6 +12,7 @@ namespace velmaro {
 // while it loads.
 struct TabContent {
     std::shared_ptr<WebModel> model;
+    PageMessageRules pageMessages = {}; // what its page can ask for
 
     bool operator==(const TabContent&) const = default;
     ui::View body() const;

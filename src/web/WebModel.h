@@ -36,8 +36,8 @@ public:
     ui::Published<double> estimatedProgress = 0.0; // 0.0 to 1.0
     ui::Published<std::string> pageTitle; // empty when the page has none
 
-    // The signed-in user as last reported by the page; absent when nobody is. Changed through
-    // `setUser`.
+    // The signed-in user as last reported by the page; absent when no user is signed in. Changed
+    // through `setUser`.
     ui::Published<std::optional<UserIdentity>> user;
 
     // The route that the page last reported.
@@ -51,7 +51,7 @@ public:
 
     const std::optional<std::string> initialRoute;
 
-    // Whether the page is to be loaded although nobody has looked at the tab yet.
+    // Whether the page is to be loaded although the tab has not been looked at yet.
     ui::Published<bool> isLoadedAhead = false;
 
     // Set by the web view's host.

@@ -1,6 +1,5 @@
 #include "web/WebView.h"
 
-#include "app/PageMessages.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/Platform.h"
@@ -31,8 +30,8 @@ WKUserContentController userContentController(Coordinator& coordinator)
         {UserScripts::platformMarker, WKUserScript::InjectionTime::atDocumentStart, true},
         {UserScripts::signInWatcher, WKUserScript::InjectionTime::atDocumentEnd, true},
     };
-    for (const auto& name : pageMessageNames())
-        controller.scriptMessageHandlers.push_back({name, coordinator.weak_from_this()});
+    for (const auto& rule : coordinator.pageMessages)
+        controller.scriptMessageHandlers.push_back({rule.name, coordinator.weak_from_this()});
     return controller;
 }
 
@@ -55,7 +54,7 @@ URL serviceURL(const std::string& text)
 
 std::shared_ptr<Coordinator> WebView::makeCoordinator() const
 {
-    return std::make_shared<Coordinator>(model);
+    return std::make_shared<Coordinator>(model, pageMessages);
 }
 
 std::shared_ptr<WKWebView> WebView::makeNSView(Coordinator& coordinator) const

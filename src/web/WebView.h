@@ -17,6 +17,7 @@ struct WebView {
     static constexpr bool waitsForFirstFrame = true;
 
     std::shared_ptr<WebModel> model;
+    PageMessageRules pageMessages = {}; // what its page can ask for
     int zoomPercent = 100;
 
     std::shared_ptr<Coordinator> makeCoordinator() const;

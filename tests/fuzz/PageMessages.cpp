@@ -67,7 +67,7 @@ public:
         const auto before = counts();
         const auto route = tab_->currentRoute();
         const auto user = tab_->user();
-        const auto action = velmaro::actionForPageMessage(message);
+        const auto action = velmaro::actionForPageMessage(velmaro::pageMessageRules(), message);
         require(static_cast<bool>(action) == asksForSomething(message),
             "messages with what their name requires are acted on, no others");
         if (!action)

@@ -3,6 +3,7 @@
 namespace platform {
 
 // All lengths are points. The origin of a screen is its lower left corner and y grows upwards.
+// These are plain values for any thread.
 
 struct NSPoint {
     double x = 0;

@@ -6,7 +6,8 @@
 
 namespace platform {
 
-// A message that the user has to answer before anything else in the application.
+// A message that the user has to answer before anything else in the application. It is a plain
+// value: `runModal` keeps a copy.
 struct NSAlert {
     enum class Style { warning, informational, critical };
 
@@ -16,7 +17,7 @@ struct NSAlert {
     static constexpr int thirdButton = 2;
 
     std::string messageText;
-    std::string informativeText; // empty: none
+    std::string informativeText; // may be empty
     Style alertStyle = Style::warning;
 
     // Titles in order. The first is the default, which Return presses; one titled "Cancel", or else

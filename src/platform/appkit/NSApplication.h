@@ -14,7 +14,9 @@ namespace platform {
 class NSApplicationDelegate;
 struct NSWindowDescription;
 
-// The running program: its windows, its life, and the addresses it is asked to open.
+// The running program: its windows, its life, and the addresses it is asked to open. The platform
+// owns the one there is. Main thread only. What the desktop does not let a program do is silently
+// left undone.
 class NSApplication {
 public:
     // Posted once, when the program is about to end in an orderly way: last window closed, quit,

@@ -4,7 +4,8 @@ namespace platform {
 
 class NSApplication;
 
-// What the application decides about its own life. Called on the main thread.
+// What the application decides about its own life. The application does not own it and calls it on
+// the main thread while `NSApplication::run` lasts.
 class NSApplicationDelegate {
 public:
     virtual ~NSApplicationDelegate() = default;

@@ -11,7 +11,8 @@ struct NSDraggingInfo {
     std::vector<URL> fileURLs; // in the order of the source; empty when there are no files
 };
 
-// Takes drags over a view before the view itself does. Called on the main thread.
+// Takes drags over a view before the view itself does. The view that it is set on shares its
+// ownership and calls it on the main thread.
 class NSDraggingDestination {
 public:
     virtual ~NSDraggingDestination() = default;

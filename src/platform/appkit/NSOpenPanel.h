@@ -8,12 +8,12 @@
 
 namespace platform {
 
-// A window in which the user chooses files.
+// A window in which the user chooses files. It is a plain value: `begin` keeps a copy.
 struct NSOpenPanel {
     using Completion = std::function<void(const std::optional<std::vector<URL>>& files)>;
 
     bool canChooseFiles = true;
-    bool canChooseDirectories = false; // instead of files, where both are not to be had
+    bool canChooseDirectories = false; // wins over files where the desktop cannot offer both
     bool allowsMultipleSelection = false;
 
     // Shows the panel as a window of its own; the rest of the application stays usable, and the

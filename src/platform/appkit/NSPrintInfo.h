@@ -2,7 +2,7 @@
 
 namespace platform {
 
-// How pages are put on paper.
+// How pages are put on paper. It is a plain value. Main thread only.
 struct NSPrintInfo {
     enum class JobDisposition { spool, preview, save, cancel };
 

@@ -12,7 +12,7 @@ class NSWindow;
 
 // One print of what a view shows. The user chooses printer and paper in the platform's print panel,
 // and sees the progress where the desktop has a panel for that. The view keeps the operation until
-// it has ended; when the view goes away first, the panel goes too and nobody is told.
+// it has ended; when the view goes away first, the panel goes too and no completion is called.
 //
 // Main thread only.
 class NSPrintOperation {

@@ -4,7 +4,8 @@
 
 namespace platform {
 
-// One monitor. It lives until it is unplugged, so it is asked for anew each time and never kept.
+// One monitor. The platform owns it until it is unplugged, so it is asked for anew each time and
+// never kept. Main thread only.
 class NSScreen {
 public:
     // The screen with the key window, else the first; null when there is none.

@@ -10,7 +10,7 @@ namespace platform {
 class NSView;
 
 // A list of what can be done with files beyond this application: open them in another program, send
-// them, copy them.
+// them, copy them. It is a plain value, which `show` copies. Main thread only.
 struct NSSharingServicePicker {
     std::vector<URL> items; // addresses of files
 

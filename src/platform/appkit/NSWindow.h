@@ -14,10 +14,10 @@ struct NSWindowDescription;
 
 // A top-level window. The application object owns it; everybody else holds it weakly, since it goes
 // away when it is closed. What a desktop does not let a program decide (on Wayland: the position)
-// is silently left as the desktop has it.
+// is silently left as the desktop has it. Main thread only.
 class NSWindow : public std::enable_shared_from_this<NSWindow> {
 public:
-    // Posted after every change of size, by whomever; the sender is the window.
+    // Posted after every change of size, whatever caused it; the sender is the window.
     static constexpr auto didResizeNotification = "NSWindowDidResizeNotification";
 
     enum class TabbingMode { automatic, preferred, disallowed };
@@ -65,8 +65,8 @@ public:
     // The view that fills the window; null before there is one.
     virtual NSView* contentView() const = 0;
 
-    // Tells `delegate` from now on what becomes of the window; null takes it away. It must outlive
-    // the window, or take itself away first.
+    // The delegate hears what becomes of the window, and may be null. It must outlive the window,
+    // or take itself away first.
     virtual void setDelegate(NSWindowDelegate* delegate) = 0;
 
     // Moves the window to the middle of its screen.

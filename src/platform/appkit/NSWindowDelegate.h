@@ -4,12 +4,12 @@ namespace platform {
 
 class NSWindow;
 
-// What a window tells about its life. Main thread only.
+// What a window tells about its life. The window does not own it and calls it on the main thread.
 class NSWindowDelegate {
 public:
     virtual ~NSWindowDelegate() = default;
 
-    // The window, by whomever it is closed, is about to go away.
+    // The window is about to go away, whatever closes it.
     virtual void windowWillClose(NSWindow&) { }
 };
 

@@ -8,7 +8,8 @@
 
 namespace platform {
 
-// What a window beside those of the application's scene is made of.
+// What a window beside those of the application's scene is made of. It is a plain value, which
+// `NSWindow::make` copies.
 struct NSWindowDescription {
     // Bits of `styleMask`.
     static constexpr std::uint32_t titled = 0x1;

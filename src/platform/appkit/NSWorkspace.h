@@ -6,7 +6,8 @@
 
 namespace platform {
 
-// The rest of the desktop: its programs and its file manager. Main thread only.
+// The rest of the desktop: its programs and its file manager. The platform owns it. Main thread
+// only; no call waits for what it starts.
 class NSWorkspace {
 public:
     static NSWorkspace& shared();

@@ -2,7 +2,8 @@
 
 namespace platform {
 
-// A place on the globe (WGS 84), in degrees: north and east are positive.
+// A place on the globe (WGS 84), in degrees: north and east are positive. It is a plain value for
+// any thread.
 struct CLLocationCoordinate2D {
     double latitude = 0;
     double longitude = 0;

@@ -9,8 +9,8 @@ namespace platform {
 
 class CLLocationManager;
 
-// Hears from a location manager. Called on the main thread, never from inside a call of the
-// manager's. It may drop the manager.
+// Hears from a location manager, which does not own it. Called on the main thread, never from
+// inside a call of the manager's. It may drop the manager.
 class CLLocationManagerDelegate {
 public:
     // The user has decided, or has changed their mind; also called when nothing has changed.

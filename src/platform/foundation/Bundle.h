@@ -5,7 +5,8 @@
 
 namespace platform {
 
-// What the installed application says of itself.
+// What the installed application says of itself. The platform owns it. Main thread only; what is
+// missing is an absence and never an error.
 class Bundle {
 public:
     static Bundle& main();

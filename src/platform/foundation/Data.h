@@ -5,7 +5,7 @@
 
 namespace platform {
 
-// A sequence of bytes that means nothing in itself.
+// A sequence of bytes that means nothing in itself. It is a plain value for any thread.
 using Data = std::vector<std::byte>;
 
 } // namespace platform

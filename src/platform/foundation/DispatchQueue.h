@@ -6,6 +6,8 @@ namespace platform {
 
 // A queue of tasks that run one at a time, in the order in which they were queued. The only queue
 // the application uses is the main one, whose tasks run on the main thread between other events.
+// The platform owns it. Nothing here fails: a task that is queued runs, unless the program ends
+// first.
 class DispatchQueue {
 public:
     using Task = std::function<void()>;
@@ -15,7 +17,7 @@ public:
     virtual ~DispatchQueue() = default;
 
     // Runs `task` on the main thread after the current event has been handled. May be called from
-    // any thread. Tasks that are still waiting when the program ends are dropped.
+    // any thread.
     virtual void async(Task task) = 0;
 
     // Runs `task` no earlier than `seconds` from now. Main thread only.

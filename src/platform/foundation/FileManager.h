@@ -9,8 +9,9 @@
 
 namespace platform {
 
-// The user's files. Files and folders are told by "file" addresses. Main thread only; nothing here
-// throws, and no operation can be held up by a pipe or a device.
+// The user's files. The platform owns the one manager there is. Files and folders are told by
+// "file" addresses. Main thread only; nothing here throws, and no operation can be held up by a
+// pipe or a device.
 class FileManager {
 public:
     static FileManager& defaultManager();
@@ -18,7 +19,7 @@ public:
     virtual ~FileManager() = default;
 
     // The user's folder for downloads. With `create` it is made where it is missing; absent when
-    // the desktop names none or it cannot be made.
+    // the desktop names no such folder or it cannot be made.
     virtual std::optional<URL> downloadsDirectory(bool create) = 0;
 
     virtual URL homeDirectory() = 0;

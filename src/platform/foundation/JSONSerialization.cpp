@@ -13,8 +13,8 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr int maximumDepth =
-    500; // lists and objects inside each other; values are walked on the stack
+// Of lists and objects inside each other, since values are walked on the stack.
+constexpr int maximumDepth = 500;
 
 Value valueFrom(Json& json)
 {

@@ -8,7 +8,8 @@
 
 namespace platform {
 
-// JSON texts to values and back.
+// JSON texts to values and back. For any thread; a text that is refused is an absence and never an
+// exception.
 namespace JSONSerialization {
 
 // Absent when `text` is not one whole JSON value in UTF-8, or is nested more than 500 deep.

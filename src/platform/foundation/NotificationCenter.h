@@ -7,13 +7,14 @@
 
 namespace platform {
 
-// A message that an object sends to whoever listens for its name.
+// A message that an object sends to all that listen for its name.
 struct Notification {
     std::string name;
     const void* sender = nullptr; // identity only; never dereferenced by the centre
 };
 
-// Passes notifications from senders to observers, on the main thread, in the order of registration.
+// Passes notifications from senders to observers in the order of registration. The platform owns
+// the default centre, and observers own their registrations. Main thread only; nothing here fails.
 class NotificationCenter {
 public:
     using Handler = std::function<void(const Notification&)>;

@@ -5,7 +5,8 @@
 
 namespace platform {
 
-// What `text` means, in which two hexadecimal digits must follow every percent sign.
+// What `text` means, in which two hexadecimal digits must follow every percent sign. Like all of
+// these, it is for any thread.
 std::string percentDecoded(std::string_view text);
 
 // A path or a name as it stands in an address, whatever bytes it consists of.

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// What the machine has left for this program. Main thread only.
+// What the machine has left for this program. The platform owns it. Main thread only.
 class ProcessInfo {
 public:
     static ProcessInfo& processInfo();

@@ -8,7 +8,8 @@
 namespace platform {
 
 // The address of a resource. A URL is always valid: a text that breaks the syntax of RFC 3986, such
-// as one with a blank, a lone percent sign or a letter outside ASCII, makes none.
+// as one with a blank, a lone percent sign or a letter outside ASCII, makes none. It is a plain
+// value that never changes, for any thread.
 class URL {
 public:
     static std::optional<URL> fromString(std::string_view text);

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-// A universally unique identifier.
+// A universally unique identifier. It is a plain value for any thread, and making one cannot fail.
 class UUID {
 public:
     // A fresh random one (version 4).

@@ -12,7 +12,7 @@ namespace platform {
 // The per-user settings store: typed values under string keys, kept across launches. Reading a key
 // that holds nothing, or a value of another type, is an absence and never an error. A write is
 // visible to reads at once and reaches the disk whole or not at all; one that cannot be stored is
-// logged, and what was stored before stays. Main thread only.
+// logged, and what was stored before stays. The platform owns the standard store. Main thread only.
 class UserDefaults {
 public:
     // Posted after every change of the standard store.

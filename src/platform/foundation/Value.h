@@ -9,7 +9,7 @@
 namespace platform {
 
 // A value as JSON and page scripts have them: null, a Boolean, a number, a UTF-8 text, a list or an
-// object.
+// object. Any thread may use it, and copies share nothing.
 class Value {
 public:
     using Array = std::vector<Value>;

@@ -27,7 +27,6 @@
 #include "platform/gtk/sparkle/GtkUpdaterController.h"
 #include "platform/gtk/ui/NativeWidget.h"
 #include "platform/gtk/ui/NativeWindow.h"
-#include "platform/gtk/ui/TextField.h"
 #include "platform/gtk/usernotifications/DesktopNotifications.h"
 #include "platform/gtk/usernotifications/GtkUserNotificationCenter.h"
 #include "platform/gtk/usernotifications/PortalNotifications.h"
@@ -191,11 +190,6 @@ platform::NSScreen* GtkPlatform::mainScreen()
 std::shared_ptr<platform::NSView> GtkPlatform::makeView()
 {
     return std::make_shared<PlainView>();
-}
-
-std::shared_ptr<platform::NSTextField> GtkPlatform::makeTextField()
-{
-    return std::make_shared<TextField>();
 }
 
 std::shared_ptr<platform::WKWebView> GtkPlatform::makeWebView(

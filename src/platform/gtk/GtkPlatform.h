@@ -69,7 +69,6 @@ public:
     platform::UNUserNotificationCenter& userNotificationCenter() override;
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
-    std::shared_ptr<platform::NSTextField> makeTextField() override;
     std::shared_ptr<platform::WKWebView> makeWebView(
         const platform::WKWebViewConfiguration& configuration) override;
     std::shared_ptr<platform::WKWebView> makeWebView(const platform::NSRect& frame,

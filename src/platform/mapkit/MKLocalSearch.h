@@ -10,7 +10,8 @@
 
 namespace platform {
 
-// Finds places once. A search that was started runs to its end, also when nobody holds it any more.
+// Finds places once. The platform makes it for its caller; a search that was started runs to its
+// end, also when the caller has let go of it.
 class MKLocalSearch {
 public:
     using Request = MKLocalSearchRequest;

@@ -8,8 +8,8 @@ namespace platform {
 
 class MKLocalSearchCompleterDelegate;
 
-// Suggests addresses and places while the user types. Main thread only; nothing waits for the
-// network.
+// Suggests addresses and places while the user types. The platform makes one for each owner. Main
+// thread only; nothing waits for the network.
 class MKLocalSearchCompleter {
 public:
     // Bits of `resultTypes`.

@@ -6,8 +6,8 @@ namespace platform {
 
 class MKLocalSearchCompleter;
 
-// Hears from a search completer. Called on the main thread, never from inside a call of the
-// completer's. It may drop the completer.
+// Hears from a search completer, which does not own it. Called on the main thread, never from
+// inside a call of the completer's. It may drop the completer.
 class MKLocalSearchCompleterDelegate {
 public:
     // The results belong to the query fragment as it is now.

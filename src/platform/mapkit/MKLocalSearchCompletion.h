@@ -7,7 +7,7 @@
 namespace platform {
 
 // A suggestion for what the user is typing. Made by a completer; searches take it back to find the
-// place that it stands for.
+// place that it stands for. It never changes, and lives as long as it is held.
 class MKLocalSearchCompletion {
 public:
     MKLocalSearchCompletion(std::string title, std::string subtitle)

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// What a search is to find: the place that a suggestion stands for.
+// What a search is to find: the place that a suggestion stands for. It is a plain value.
 struct MKLocalSearchRequest {
     std::shared_ptr<const MKLocalSearchCompletion> completion;
 };

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// Where a place is.
+// Where a place is. It is a plain value.
 struct MKPlacemark {
     CLLocationCoordinate2D coordinate;
 };

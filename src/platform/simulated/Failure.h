@@ -5,8 +5,8 @@
 
 namespace simulated {
 
-// Called when the stand-in is used in a way that nobody prepared or that the real platform would
-// not bear. Without a handler it writes the message to stderr and aborts.
+// Called when the stand-in is used in a way that the test has not prepared or that the real
+// platform would not bear. Without a handler it writes the message to stderr and aborts.
 using FailureHandler = std::function<void(const std::string& message)>;
 
 void setFailureHandler(FailureHandler handler);

@@ -5,13 +5,12 @@
 
 namespace simulated {
 
-// Decides which operations of the world fail. Every one that can fail asks, each time that it is
-// done: those of the simulated services, and those whose outcome the test stands for.
+// Decides which simulated operations fail; each fallible one asks on every call.
 class Faults {
 public:
     using Plan = std::function<bool(int operation)>; // counted from 1
 
-    // From now on. Without a plan nothing fails.
+    // Holds from now on. Without a plan nothing fails.
     void follow(Plan plan) { plan_ = std::move(plan); }
 
     // Whether the operation that asks fails.
@@ -21,7 +20,7 @@ public:
         return plan_ && plan_(operations_);
     }
 
-    // How many have asked.
+    // How many operations have asked.
     int operations() const { return operations_; }
 
 private:

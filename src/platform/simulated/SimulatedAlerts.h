@@ -14,16 +14,16 @@ public:
     void run(const platform::NSAlert& alert, std::function<void(int button)> completion);
 
     // The user presses the button with that title in the oldest alert that waits; fails the test
-    // when none does or when it has no such button.
+    // when no alert waits or when it has no such button.
     void simulateAnswer(const std::string& button);
 
-    // How many wait for an answer.
+    // How many alerts wait for an answer.
     std::size_t waitingCount() const { return waiting_.size(); }
 
     // The one on the screen; fails the test when there is none.
     const platform::NSAlert& front() const;
 
-    // All that were ever asked for, in order.
+    // All alerts that were ever asked for, in order.
     std::vector<platform::NSAlert> shown;
 
 private:

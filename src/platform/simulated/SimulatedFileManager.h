@@ -7,7 +7,7 @@
 
 namespace simulated {
 
-// Files in memory. There is a folder for downloads from the start, and none needs to be made.
+// Files in memory. The folder for downloads is there from the start.
 class SimulatedFileManager final : public platform::FileManager {
 public:
     explicit SimulatedFileManager(Faults& faults)

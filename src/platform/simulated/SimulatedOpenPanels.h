@@ -12,12 +12,12 @@ class SimulatedOpenPanels {
 public:
     void begin(const platform::NSOpenPanel& panel, platform::NSOpenPanel::Completion completion);
 
-    // The user chooses these files in the oldest panel, or closes it; fails the test when none is
-    // open.
+    // The user chooses these files in the oldest panel, or closes it; fails the test when no panel
+    // is open.
     void simulateChoice(const std::vector<platform::URL>& files) { answer(files); }
     void simulateCancel() { answer(std::nullopt); }
 
-    // All that were ever asked for, in order.
+    // All panels that were ever asked for, in order.
     std::vector<platform::NSOpenPanel> shown;
 
 private:

@@ -54,13 +54,6 @@ std::shared_ptr<platform::NSView> SimulatedPlatform::makeView()
     return std::make_shared<SimulatedView>();
 }
 
-std::shared_ptr<platform::NSTextField> SimulatedPlatform::makeTextField()
-{
-    auto field = std::make_shared<SimulatedTextField>();
-    textFields_.push_back(field);
-    return field;
-}
-
 std::shared_ptr<platform::WKWebView> SimulatedPlatform::makeWebView(
     const platform::WKWebViewConfiguration& configuration)
 {

@@ -14,7 +14,6 @@
 #include "platform/simulated/SimulatedProcessInfo.h"
 #include "platform/simulated/SimulatedQueue.h"
 #include "platform/simulated/SimulatedScreen.h"
-#include "platform/simulated/SimulatedTextField.h"
 #include "platform/simulated/SimulatedUpdaterController.h"
 #include "platform/simulated/SimulatedURLCache.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
@@ -50,7 +49,6 @@ public:
     Faults& faults() { return faults_; }
     platform::NSScreen* mainScreen() override;
     std::shared_ptr<platform::NSView> makeView() override;
-    std::shared_ptr<platform::NSTextField> makeTextField() override;
     std::shared_ptr<platform::WKWebView> makeWebView(
         const platform::WKWebViewConfiguration& configuration) override;
     std::shared_ptr<platform::WKWebView> makeWebView(const platform::NSRect& frame,
@@ -92,16 +90,14 @@ public:
     SimulatedScreen& addScreen(const platform::NSRect& visibleFrame);
     void removeScreens() { screens_.clear(); }
 
-    // The screen that shares the largest area with `frame`; null when none does.
+    // The screen that shares the largest area with `frame`; null when no screen shares any.
     SimulatedScreen* screenWith(const platform::NSRect& frame);
 
     // The web views made so far, in order, also those that have gone since.
     const std::vector<std::weak_ptr<SimulatedWebView>>& webViews() const { return webViews_; }
 
-    // The text fields made so far, likewise.
-    const std::vector<std::weak_ptr<SimulatedTextField>>& textFields() const { return textFields_; }
-
-    // Those made so far, in order; managers and completers also when they have gone since.
+    // The managers, completers and searches made so far, in order. Managers and completers are
+    // listed also when they have gone since.
     const std::vector<std::weak_ptr<SimulatedLocationManager>>& locationManagers() const
     {
         return locationManagers_;
@@ -125,11 +121,11 @@ public:
     struct Share {
         std::vector<platform::URL> items;
         platform::NSRect rectangle;
-        const platform::NSWindow* window; // identity only; null for a view in none
+        const platform::NSWindow* window; // identity only; null for a view in no window
         platform::NSRectEdge edge;
     };
 
-    // The updaters made so far, likewise.
+    // The updaters made so far, in order, also those that have gone since.
     const std::vector<std::weak_ptr<SimulatedUpdaterController>>& updaterControllers() const
     {
         return updaterControllers_;
@@ -154,7 +150,6 @@ private:
     std::vector<std::unique_ptr<SimulatedScreen>> screens_;
     std::vector<std::weak_ptr<SimulatedWebView>> webViews_;
     std::vector<std::weak_ptr<SimulatedWindow>> offscreenWindows_;
-    std::vector<std::weak_ptr<SimulatedTextField>> textFields_;
     std::vector<std::weak_ptr<SimulatedLocationManager>> locationManagers_;
     std::vector<std::weak_ptr<SimulatedLocalSearchCompleter>> searchCompleters_;
     std::vector<std::shared_ptr<SimulatedLocalSearch>> localSearches_;

@@ -35,7 +35,7 @@ public:
     void drop();
 
 private:
-    using Time = std::pair<double, std::uint64_t>; // when, and the how-manieth task
+    using Time = std::pair<double, std::uint64_t>; // when, and the number of the task
 
     void runUntil(double end);
     Task takeDue(double end);

@@ -4,7 +4,7 @@
 
 namespace simulated {
 
-// A store of answers that holds none and counts how often it was emptied.
+// A store that never holds an answer and counts how often it was emptied.
 class SimulatedURLCache final : public platform::URLCache {
 public:
     void removeAllCachedResponses() override { ++removals; }

@@ -21,7 +21,7 @@ public:
         platform::WKFindConfiguration configuration;
     };
 
-    // Absent: never set.
+    // A setting is absent until it is set.
     struct Settings {
         std::optional<std::string> customUserAgent;
         std::optional<double> pageZoom;
@@ -83,10 +83,11 @@ public:
     void simulateLoading(bool isLoading, double progress);
     void simulateTitle(const std::string& title);
 
-    // The page posts `body` to the handler registered under `name`; fails the test when nobody is.
+    // The page posts `body` to the handler registered under `name`; fails the test when there is no
+    // such handler.
     void simulateMessage(const std::string& name, platform::Value body);
 
-    // The oldest search that waits for an answer gets one; fails the test when none does.
+    // The oldest search that waits for an answer gets one; fails the test when no search waits.
     void simulateFindResult(bool matchFound);
 
     // How a load ends. The navigation delegate is told at once.
@@ -95,7 +96,7 @@ public:
     void simulateFailProvisionalNavigation(const std::string& error);
 
     // The oldest document that waits to be made is there, or could not be made; fails the test when
-    // none waits.
+    // no document waits.
     void simulatePDF(const std::variant<platform::Data, platform::NSError>& result);
 
     // How many observations are running.

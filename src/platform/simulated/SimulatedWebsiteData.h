@@ -13,11 +13,12 @@ class SimulatedWebsiteData {
 public:
     void remove(platform::WKWebsiteDataStore store, std::function<void()> completion);
 
-    // The oldest removal that is under way comes to its end; fails the test when none is.
+    // The oldest removal that is under way comes to its end; fails the test when there is no
+    // removal under way.
     void simulateRemoved();
     bool isWaiting() const { return !waiting_.empty(); }
 
-    // All that were ever asked for, in order.
+    // All removals that were ever asked for, in order.
     std::vector<platform::WKWebsiteDataStore> removals;
 
 private:

@@ -144,8 +144,7 @@ void SimulatedWidget::letGo(const SimulatedWidget& child)
     if (entry == childList_.end())
         return;
     entry->widget->parent_ = nullptr;
-    const auto owner =
-        std::move(entry->owner); // the child may go with it, after it has left the list
+    const auto owner = std::move(entry->owner); // the child may go with it, after the next line
     childList_.erase(entry);
 }
 

@@ -47,7 +47,7 @@ public:
 
     const SimulatedWidget* parent() const { return parent_; }
 
-    // The window that the tree stands in; null while this is in none.
+    // The window that the tree stands in; null while this is in no window.
     platform::NSWindow* window() const;
 
     // The tree from here on: a line a widget, two blanks a level, those on their way out marked
@@ -78,8 +78,7 @@ private:
 
     SimulatedRenderer& renderer_;
     std::optional<ui::Kind> kind_; // of what was shown first
-    const ui::Node* node_ =
-        nullptr; // kept alive by the place that this widget belongs to, until the next
+    const ui::Node* node_ = nullptr; // kept alive, until the next, by the place of this widget
     SimulatedWidget* parent_ = nullptr;
     platform::NSWindow* window_ = nullptr; // of a root
     std::vector<Child> childList_;

@@ -19,8 +19,7 @@ class SimulatedWindow final : public platform::NSWindow {
 public:
     struct Options {
         std::string title = {};
-        bool isOfScene =
-            false; // else one beside the scene's, which does not keep the program alive
+        bool isOfScene = false; // else it does not keep the program alive
         bool canBecomeMainWindow = true;
         bool hasContentView = true;
         std::shared_ptr<SimulatedWebView> offscreenView = {}; // for a window that no screen shows

@@ -7,8 +7,8 @@ namespace platform {
 class SPUUpdater;
 
 // An updater with the framework's own windows, which need nothing of the application. While it
-// lives it may ask the user whether it may look for newer versions by itself, and do so. Main
-// thread only.
+// lives it may ask the user whether it may look for newer versions by itself, and do so. It belongs
+// to its caller, and its work ends with it. Main thread only.
 class SPUStandardUpdaterController {
 public:
     // Whether it begins its work there and then. There are no delegates.

@@ -2,7 +2,7 @@
 
 namespace platform {
 
-// Finds newer versions of the application. Main thread only.
+// Finds newer versions of the application. Its controller owns it. Main thread only.
 class SPUUpdater {
 public:
     virtual ~SPUUpdater() = default;

@@ -8,7 +8,8 @@
 
 namespace platform {
 
-// A feed of versions: RSS whose items have the "sparkle" namespace's elements and attributes.
+// A feed of versions: RSS whose items have the "sparkle" namespace's elements and attributes. It is
+// a plain value for any thread.
 struct SUAppcast {
     std::vector<SUAppcastItem> items; // for this system, in the feed's order
 

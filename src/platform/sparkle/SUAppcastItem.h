@@ -5,7 +5,8 @@
 
 namespace platform {
 
-// One version on offer, as a feed tells of it. Nothing of it has been verified.
+// One version on offer, as a feed tells of it. Nothing of it has been verified. It is a plain
+// value.
 struct SUAppcastItem {
     std::string versionString; // as versions are compared: the build
     std::string displayVersionString; // as people know it

@@ -97,7 +97,8 @@ std::string plainText(std::string_view html)
     const auto lastClose = html.rfind('>');
     const char* const endOfTags = lastClose == html.npos ? html.data() : html.data() + lastClose;
     while (!html.empty()) {
-        // Not looked for where there is none: a megabyte of "<" would take minutes.
+        // Behind the last ">" there is no tag, and looking for one at each "<" of a megabyte would
+        // take minutes.
         const bool isTag = html.front() == '<' && html.data() < endOfTags;
         const auto close = isTag ? html.find('>') : html.npos;
         if (close != html.npos) {

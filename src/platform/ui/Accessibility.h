@@ -4,7 +4,7 @@
 
 namespace ui {
 
-// What a view is to those who cannot see it.
+// What a view is to those who cannot see it. It is a plain value.
 struct Accessibility {
     enum class Role { automatic, tabList, tab, toolbar, dialog };
 

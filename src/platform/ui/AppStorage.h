@@ -5,23 +5,56 @@
 #include "platform/Platform.h"
 #include "platform/ui/Published.h"
 
+#include <map>
+#include <optional>
 #include <string>
 #include <type_traits>
 
 namespace ui {
 
-// Tells bodies that settings were changed, by whomever.
-struct SettingsChanges {
+// Lets bodies observe changes of settings: of just those that they have read. Main thread only.
+template <class T> class SettingsChanges {
+public:
     static SettingsChanges& current()
     {
         return platform::Platform::current().shared<SettingsChanges>();
     }
 
-    Published<int> count = 0;
-    const platform::NotificationCenter::Observer observer =
+    // What is stored under `key` now; absent when nothing is. A body that asks is evaluated again
+    // when that changes.
+    std::optional<T> stored(const std::string& key)
+    {
+        auto setting = read(key);
+        values_.try_emplace(key, setting).first->second();
+        return setting;
+    }
+
+private:
+    static std::optional<T> read(const std::string& key)
+    {
+        const auto& settings = platform::UserDefaults::standard();
+        if (!settings.contains(key))
+            return std::nullopt;
+        if constexpr (std::is_same_v<T, bool>)
+            return settings.boolean(key);
+        else
+            return static_cast<T>(settings.integer(key));
+    }
+
+    // The notification does not say which setting was changed.
+    void settingsDidChange()
+    {
+        for (auto& [key, value] : values_) {
+            if (auto setting = read(key); setting != value())
+                value = setting;
+        }
+    }
+
+    std::map<std::string, Published<std::optional<T>>> values_;
+    const platform::NotificationCenter::Observer observer_ =
         platform::NotificationCenter::defaultCenter().addObserver(
             platform::UserDefaults::didChangeNotification, nullptr,
-            [this](const auto&) { count = count() + 1; });
+            [this](const auto&) { settingsDidChange(); });
 };
 
 // A setting that bodies can read, and are evaluated again when it changes.
@@ -38,14 +71,7 @@ public:
     // The default when nothing is stored.
     T operator()() const
     {
-        SettingsChanges::current().count();
-        const auto& settings = platform::UserDefaults::standard();
-        if (!settings.contains(key_))
-            return defaultValue_;
-        if constexpr (std::is_same_v<T, bool>)
-            return settings.boolean(key_);
-        else
-            return static_cast<T>(settings.integer(key_));
+        return SettingsChanges<T>::current().stored(key_).value_or(defaultValue_);
     }
 
     // Stores the value at once.

@@ -4,7 +4,7 @@
 
 namespace ui {
 
-// A two-way connection to a value that somebody else holds.
+// A two-way connection to a value that is kept elsewhere and must outlive it. Main thread only.
 template <class T> struct Binding {
     std::function<T()> get;
     std::function<void(T)> set;

@@ -3,7 +3,7 @@
 namespace ui {
 
 // A colour: either one of the desktop's own, which follow its light and dark look, or a fixed one
-// in sRGB.
+// in sRGB. It is a plain value.
 struct Color {
     enum class Role {
         fixed,

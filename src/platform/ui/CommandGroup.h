@@ -31,7 +31,7 @@ enum class CommandGroupPlacement {
     keyboardShortcuts,
 };
 
-// An application's own items in the menu bar.
+// An application's own items in the menu bar. It is a plain value.
 struct CommandGroup {
     enum class Relation { replacing, after };
     using Section = std::vector<MenuItem>; // lines separate it from others

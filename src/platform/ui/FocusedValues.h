@@ -10,7 +10,7 @@
 namespace ui {
 
 // What the views of a window publish for the menus: at most one object for each key. A key is a
-// type that names the type of its object `Value`.
+// type that names the type of its object `Value`. The objects are shared, not copied.
 class FocusedValues {
 public:
     template <class Key> void set(std::shared_ptr<typename Key::Value> value)
@@ -18,7 +18,7 @@ public:
         entries_.emplace_back(typeid(Key), std::move(value));
     }
 
-    // Null where nobody publishes one.
+    // Null where none is published.
     template <class Key> std::shared_ptr<typename Key::Value> get() const
     {
         for (const auto& [key, value] : entries_) {

@@ -2,7 +2,7 @@
 
 namespace ui {
 
-// The desktop's own font in a size and weight.
+// The desktop's own font in a size and weight. It is a plain value.
 struct Font {
     enum class Weight { regular, medium, semibold, bold };
 

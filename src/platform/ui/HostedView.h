@@ -4,7 +4,8 @@
 
 namespace ui {
 
-// A mounted place for a native view: made late, then kept as long as the place.
+// A mounted place for a native view: made late, then kept as long as the place. It owns the view
+// and its coordinator. Main thread only.
 class HostedView {
 public:
     explicit HostedView(std::shared_ptr<const HostedNode> node)

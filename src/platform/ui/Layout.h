@@ -5,7 +5,7 @@
 
 namespace ui {
 
-// Lengths are points.
+// Lengths are points. All of these are plain values.
 
 inline constexpr double infinity = std::numeric_limits<double>::infinity();
 

@@ -10,7 +10,7 @@ namespace ui {
 // One menu of the menu bar.
 struct Menu {
     std::string title;
-    std::vector<CommandGroup::Section> sections; // not one of them empty
+    std::vector<CommandGroup::Section> sections; // each has an item at least
 };
 
 // The menus of an application, left to right: those that the platform gives to all of them, the

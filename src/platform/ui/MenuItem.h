@@ -24,7 +24,7 @@ enum class StandardCommand {
     showShortcuts, // a window with the keys of all items
 };
 
-// One line of a menu.
+// One line of a menu. It is a plain value.
 struct MenuItem {
     // What the item is known by: lower-case words with hyphens between them, once in an
     // application. Never shown, and the same whatever the title is.

@@ -11,7 +11,7 @@ namespace ui {
 
 // The menus of a scene, kept in step with what its commands describe: however many fields are
 // written in one turn of the main loop, they are described once more, and only when one of those
-// has been read.
+// has been read. Main thread only.
 class MenuMount final : public Observer {
 public:
     using Show = std::function<void(std::vector<Menu>)>;

@@ -10,7 +10,7 @@ namespace ui {
 
 namespace {
 
-// Stands in the top slot for the container, which belongs to somebody else.
+// Stands in the top slot for the container, which the window owns.
 class ContainerWidget final : public Widget {
 public:
     explicit ContainerWidget(Widget& container)

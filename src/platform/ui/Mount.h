@@ -13,7 +13,7 @@ class Slot;
 
 // A view tree that is shown in a window. It keeps widgets and state in step with what the bodies
 // describe: however many fields are written in one turn of the main loop, the components that have
-// read them are redrawn once, and no others.
+// read them are redrawn once, and no others. The window owns it. Main thread only.
 class Mount {
 public:
     // Shows `content` as the only child of `container`. Renderer and container must outlive the

@@ -44,7 +44,8 @@ enum class Kind {
     toolbar,
 };
 
-// One record of a description. It is not changed any more once it is mounted.
+// One record of a description. All views that describe the same share it, and once it is mounted it
+// is not changed any more. Main thread only.
 struct Node {
     explicit Node(Kind kind, std::vector<View> children = {})
         : kind(kind)

@@ -7,8 +7,7 @@ namespace ui {
 
 class Subject;
 
-// Somebody who has read published fields and wants to know when one of them changes. Main thread
-// only.
+// An object that has read published fields and is told when one of them changes. Main thread only.
 class Observer {
 public:
     Observer() = default;
@@ -55,9 +54,8 @@ private:
     mutable std::vector<Observer*> observers_;
 };
 
-// An observer for those who are no view: calls `onChange` after each change of a field that `read`
-// has read, for as long as it lives. `onChange` may call `track` again to follow what is read by
-// then.
+// An observer outside views: calls `onChange` after each change of a field that `read` has read,
+// for as long as it lives. `onChange` may call `track` again to follow what is read by then.
 class Observation final : public Observer {
 public:
     Observation(const std::function<void()>& read, std::function<void()> onChange)

@@ -92,13 +92,21 @@ struct ButtonOptions {
     std::optional<KeyboardShortcut> shortcut = {};
 };
 
+// The modifier keys that are held down with another key.
+struct EventModifiers {
+    bool shift = false;
+};
+
 struct TextFieldOptions {
     std::string placeholder = {}; // also the accessible name
     Font font = {};
-    bool focusesWhenShown = false; // takes the keyboard when it appears
-    std::optional<Binding<bool>> isFocused =
-        {}; // follows the focus; setting it true moves the focus here
-    std::function<void()> onSubmit = {}; // Return
+    bool focusesWhenShown = false; // takes the keyboard when it appears, all its text selected
+
+    // Follows the focus; setting it true moves the focus here.
+    std::optional<Binding<bool>> isFocused = {};
+
+    std::function<void(EventModifiers)> onSubmit = {}; // Return, with whatever modifiers
+    std::function<void()> onCancel = {}; // Escape, which without this is left to the panel around
 };
 
 struct ScrollOptions {

@@ -9,7 +9,7 @@ namespace ui {
 
 // A field of a model that publishes its changes. Reading it inside the `body()` of a view
 // subscribes that view; writing always notifies, and the views that have read it are redrawn once
-// at the end of the turn.
+// at the end of the turn. Main thread only.
 template <class T> class Published : public Subject {
 public:
     Published() = default;

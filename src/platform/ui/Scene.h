@@ -21,7 +21,8 @@ struct DockAction {
     std::string menuItem; // the item's id
 };
 
-// The application's window group, of which one window opens at launch, and its menus.
+// The application's window group, of which one window opens at launch, and its menus. The caller of
+// `NSApplication::run` owns it.
 struct Scene {
     std::string identifier;
     std::string title;

@@ -21,7 +21,8 @@ struct Identity {
 };
 
 // One mounted place in the tree. A component owns one slot, which has no widget and at most one
-// child; every other slot owns a widget, whose children are the widgets found first below it.
+// child; every other slot owns a widget, whose children are the widgets found first below it. Its
+// parent owns it, and the mount owns the top one. Main thread only.
 class Slot final : public Observer, public std::enable_shared_from_this<Slot> {
 public:
     Slot(Mount& mount, Slot* parent, Identity identity);

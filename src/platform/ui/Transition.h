@@ -7,7 +7,7 @@
 namespace ui {
 
 // How a view comes and goes while its container stays. It is at once where the desktop asks for
-// less motion.
+// less motion. It is a plain value.
 struct Transition {
     bool fades = false;
     std::optional<Edge> movesFrom = {};

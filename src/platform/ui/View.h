@@ -46,8 +46,8 @@ concept NSViewRepresentable = requires(const T& host, typename T::Coordinator& c
 };
 
 // A description of what is to be seen: a small value, cheap to copy, made afresh at every redraw.
-// Modifiers return a new description around this one and so apply in the order written, inside
-// first.
+// Main thread only. Modifiers return a new description around this one and so apply in the order
+// written, inside first.
 class View {
 public:
     // Nothing to be seen.
@@ -58,7 +58,8 @@ public:
     {
     }
 
-    // These two are defined in `Node.h`, which whoever builds views includes through `Views.h`.
+    // These two are defined in `Node.h`, which all code that builds views includes through
+    // `Views.h`.
     template <Component T> View(T component);
     template <NSViewRepresentable T> View(T host);
 

@@ -8,7 +8,8 @@ namespace ui {
 struct Node;
 class HostedView;
 
-// A long-lived native counterpart of one node: the backend's part of a place in the tree.
+// A long-lived native counterpart of one node: the backend's part of a place in the tree, which
+// owns it. Main thread only; no operation fails.
 class Widget {
 public:
     virtual ~Widget() = default;

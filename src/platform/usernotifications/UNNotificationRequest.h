@@ -7,6 +7,7 @@
 namespace platform {
 
 // A notification to be shown at once. It takes the place of a shown one with the same identifier.
+// It is a plain value, which the center copies.
 struct UNNotificationRequest {
     std::string identifier;
     UNMutableNotificationContent content;

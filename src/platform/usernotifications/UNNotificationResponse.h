@@ -5,7 +5,7 @@
 
 namespace platform {
 
-// The user has clicked a notification, of this run or of an earlier one.
+// The user has clicked a notification, of this run or of an earlier one. It is a plain value.
 struct UNNotificationResponse {
     std::map<std::string, std::string> userInfo; // of the notification's content
 };

@@ -4,7 +4,8 @@
 
 namespace platform {
 
-// What the user has settled about notifications, at the moment of asking.
+// What the user has settled about notifications, at the moment of asking. It is a plain value,
+// which does not follow later decisions.
 struct UNNotificationSettings {
     UNAuthorizationStatus authorizationStatus = UNAuthorizationStatus::notDetermined;
 };

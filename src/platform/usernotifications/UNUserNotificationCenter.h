@@ -12,16 +12,16 @@ namespace platform {
 
 class UNUserNotificationCenterDelegate;
 
-// The desktop's notifications. Main thread only; every completion is called once, in a later task
-// of the main queue, unless the program ends first.
+// The desktop's notifications. The platform owns the center. Main thread only; every completion is
+// called once, in a later task of the main queue, unless the program ends first.
 class UNUserNotificationCenter {
 public:
     static UNUserNotificationCenter& currentNotificationCenter();
 
     virtual ~UNUserNotificationCenter() = default;
 
-    // Who decides how notifications show in front and takes their clicks; not owned. Clicks wait
-    // while there is none, and without one nothing shows in front.
+    // The delegate decides how notifications show in front and takes their clicks; it is not owned.
+    // Without a delegate clicks wait, and nothing shows in front.
     virtual void setDelegate(UNUserNotificationCenterDelegate* delegate) = 0;
 
     virtual void getNotificationSettings(

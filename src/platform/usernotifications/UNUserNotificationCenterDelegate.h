@@ -10,8 +10,8 @@ namespace platform {
 
 class UNUserNotificationCenter;
 
-// Hears from the notification center, on the main thread. Each completion handler must be called
-// once.
+// Hears from the notification center, which does not own it, on the main thread. Each completion
+// handler must be called once.
 class UNUserNotificationCenterDelegate {
 public:
     virtual ~UNUserNotificationCenterDelegate() = default;

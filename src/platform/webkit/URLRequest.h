@@ -4,12 +4,11 @@
 
 namespace platform {
 
-// What to load, and how.
+// What to load, and how. It is a plain value.
 struct URLRequest {
     enum class CachePolicy {
         useProtocolCachePolicy = 0,
-        reloadRevalidatingCacheData =
-            5, // use what is cached only after the server has confirmed it
+        reloadRevalidatingCacheData = 5, // the server confirms what is cached before it is used
     };
 
     URL url;

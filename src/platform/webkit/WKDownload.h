@@ -13,8 +13,8 @@ namespace platform {
 
 class WKDownloadDelegate;
 
-// A file on its way to the disk. It ends with the web view that it was started in, in the failure
-// path. Main thread only.
+// A file on its way to the disk. The web view that it was started in keeps it until it has ended;
+// when the view goes first, it ends in the failure path. Main thread only.
 class WKDownload {
 public:
     virtual ~WKDownload() = default;
@@ -22,7 +22,7 @@ public:
     // Asked for a destination when the answer has begun; without one the download is cancelled.
     std::weak_ptr<WKDownloadDelegate> delegate;
 
-    // How much has arrived, from 0 to 1; absent while nobody knows how much there will be.
+    // How much has arrived, from 0 to 1; absent while it is not known how much there will be.
     ui::Published<std::optional<double>> fractionCompleted;
 
     // Ends in the failure path. Nothing when it has ended already.
@@ -30,7 +30,7 @@ public:
 };
 
 // Decides where a download goes, and learns how it ended: by exactly one of the last two calls, on
-// the main thread.
+// the main thread. The download holds it weakly.
 class WKDownloadDelegate {
 public:
     virtual ~WKDownloadDelegate() = default;

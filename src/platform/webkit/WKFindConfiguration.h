@@ -2,7 +2,7 @@
 
 namespace platform {
 
-// How a page is searched.
+// How a page is searched. It is a plain value.
 struct WKFindConfiguration {
     bool backwards = false;
     bool caseSensitive = false;

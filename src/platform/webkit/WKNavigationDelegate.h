@@ -23,8 +23,8 @@ struct WKNavigationAction {
 
 enum class WKNavigationActionPolicy { cancel, allow, download };
 
-// What a web view asks and tells about its loads. Called on the main thread; what is not
-// implemented is left to the web view.
+// What a web view asks and tells about its loads. The web view holds it weakly and calls it on the
+// main thread; what is not implemented is left to the web view.
 class WKNavigationDelegate {
 public:
     virtual ~WKNavigationDelegate() = default;
@@ -37,7 +37,7 @@ public:
         decide(WKNavigationActionPolicy::allow);
     }
 
-    // A download nobody becomes the delegate of is cancelled.
+    // A download that gets no delegate is cancelled.
     virtual void navigationActionDidBecomeDownload(WKWebView&, const std::shared_ptr<WKDownload>&)
     {
     }

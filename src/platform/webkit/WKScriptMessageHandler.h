@@ -13,7 +13,8 @@ struct WKScriptMessage {
     Value body;
 };
 
-// Receives what pages post. Called on the main thread, in the order of posting.
+// Receives what pages post. The web view holds it weakly and calls it on the main thread, in the
+// order of posting.
 class WKScriptMessageHandler {
 public:
     virtual ~WKScriptMessageHandler() = default;

@@ -10,7 +10,7 @@
 namespace platform {
 
 // What the program puts into the pages of a web view: scripts, and names that pages may post
-// messages to.
+// messages to. It is a plain value, which the web view copies.
 struct WKUserContentController {
     struct MessageHandler {
         std::string name;

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// A script that runs in every page by itself.
+// A script that runs in every page by itself. It is a plain value.
 struct WKUserScript {
     enum class InjectionTime { atDocumentStart, atDocumentEnd };
 

@@ -24,7 +24,8 @@ class WKUIDelegate;
 // content process, which may die without harm: see `docs/web-view.md` for what the view does then,
 // and when a load fails.
 //
-// Main thread only. Nothing here waits for the content process.
+// The platform makes it for its owner: a tree of views, or a caller that shows it nowhere. Main
+// thread only. Nothing here waits for the content process.
 class WKWebView : public NSView {
 public:
     enum class Property { canGoBack, canGoForward, isLoading, estimatedProgress, title };

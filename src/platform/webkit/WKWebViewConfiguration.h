@@ -9,7 +9,7 @@ struct WKPreferences {
     bool javaScriptCanOpenWindowsAutomatically = false;
 };
 
-// How a web view is made; later changes have no effect on it.
+// How a web view is made; later changes have no effect on it. It is a plain value.
 struct WKWebViewConfiguration {
     WKWebsiteDataStore websiteDataStore = WKWebsiteDataStore::defaultDataStore;
     WKPreferences preferences;

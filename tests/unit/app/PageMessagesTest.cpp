@@ -21,7 +21,7 @@ struct PageMessages : testing::Test {
     // done.
     bool post(const std::string& name, Value body)
     {
-        const auto action = velmaro::actionForPageMessage({name, std::move(body)});
+        const auto action = velmaro::actionForPageMessage(rules, {name, std::move(body)});
         if (action)
             action(model);
         return static_cast<bool>(action);
@@ -29,6 +29,7 @@ struct PageMessages : testing::Test {
 
     simulated::SimulatedPlatform platform;
     WebModel model{"drives"};
+    const velmaro::PageMessageRules rules = velmaro::pageMessageRules();
 };
 
 } // namespace
@@ -86,7 +87,7 @@ TEST_F(PageMessages, askForNotificationsWhenSomebodySignsIn)
     later.userDefaults().setData(WebModel::userDefaultsKey, *UserIdentity{"Ada", ""}.encoded());
     WebModel tab{"drives"};
     for (const auto& body : {Value(ada), Value(Value::Object{{"firstname", "Eve"}})}) {
-        velmaro::actionForPageMessage({"authBridge", body})(tab);
+        velmaro::actionForPageMessage(rules, {"authBridge", body})(tab);
         later.mainQueue().runUntilIdle();
     }
     EXPECT_EQ(tab.user()->firstname, "Eve");

@@ -8,6 +8,13 @@
 
 namespace velmaro {
 
+TEST(StationKind, isNamedAsItsPage)
+{
+    EXPECT_EQ(rawValue(StationKind::gas), "gas");
+    EXPECT_EQ(rawValue(StationKind::evstations), "evstations");
+    EXPECT_EQ(rawValue(StationKind::traffic), "traffic");
+}
+
 TEST(LocationHandOff, runsOncePerPickAndOnlyInAWebView)
 {
     simulated::SimulatedPlatform platform;

@@ -172,15 +172,18 @@ void clearAll(Session& session)
         session.platform.websiteData().simulateRemoved();
 }
 
-// Types into the first text field of the window; false when there is none.
+// Types into the picker's text field; false when the picker is closed.
 bool type(Session& session, const char* text)
 {
     const auto& content = session.platform.application().window().content();
-    const auto fields = content.findAll<ui::TextFieldNode>();
-    if (fields.empty())
-        return false;
-    fields.front()->node<ui::TextFieldNode>()->text.set(text);
-    return true;
+    for (const auto* field : content.findAll<ui::TextFieldNode>()) {
+        const auto* node = field->node<ui::TextFieldNode>();
+        if (node->options.placeholder == "Search for an address or place") {
+            node->text.set(text);
+            return true;
+        }
+    }
+    return false;
 }
 
 void pickPlace(Session& session)

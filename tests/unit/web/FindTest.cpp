@@ -5,15 +5,15 @@
 #include <gtest/gtest.h>
 
 using namespace velmaro;
-using platform::NSTextCommand;
 
 namespace {
 
 struct FindTest : Stage, testing::Test {
-    FindTest()
+    FindTest() { settle(); }
+
+    const ui::TextFieldNode& field() const
     {
-        settle();
-        field = platform.textFields().back().lock();
+        return *window.content().findAll<ui::TextFieldNode>().at(0)->node<ui::TextFieldNode>();
     }
 
     bool showsNotFound() const { return window.content().showsText("Not found"); }
@@ -22,7 +22,6 @@ struct FindTest : Stage, testing::Test {
     std::shared_ptr<simulated::SimulatedWebView> page =
         std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
     simulated::SimulatedWindow& window = show(FindBar{model});
-    std::shared_ptr<simulated::SimulatedTextField> field;
 };
 
 } // namespace
@@ -30,12 +29,12 @@ struct FindTest : Stage, testing::Test {
 TEST_F(FindTest, takesTheKeyboardAndSearchesInBothDirections)
 {
     model->webView = page;
-    EXPECT_TRUE(field->isFirstResponder);
-    field->simulateTyping(" Ferry ");
+    EXPECT_TRUE(field().options.focusesWhenShown);
+    field().text.set(" Ferry ");
     EXPECT_TRUE(page->searches.empty()); // typing does not search
 
-    EXPECT_TRUE(field->simulateCommand(NSTextCommand::insertNewline));
-    EXPECT_TRUE(field->simulateCommand(NSTextCommand::insertNewline, {.shift = true}));
+    field().options.onSubmit({});
+    field().options.onSubmit({.shift = true});
     EXPECT_TRUE(press(window.content(), "Next match (⌘G)"));
     EXPECT_TRUE(press(window.content(), "Previous match (⇧⌘G)"));
     std::vector<bool> directions;
@@ -57,7 +56,7 @@ TEST_F(FindTest, saysNotFoundUntilTheNextAnswerOrAnEmptyQuery)
     settle();
     EXPECT_TRUE(showsNotFound());
 
-    field->simulateTyping("ferr");
+    field().text.set("ferr");
     settle();
     EXPECT_TRUE(showsNotFound()); // typing does not clear it
     model->findQuery = "";
@@ -74,7 +73,7 @@ TEST_F(FindTest, closingKeepsTheQueryAndClearsTheSelection)
     model->findBarVisible = true;
     model->findQuery = "ferry";
     model->findLastResult = false;
-    EXPECT_TRUE(field->simulateCommand(NSTextCommand::cancelOperation));
+    field().options.onCancel();
     EXPECT_FALSE(model->findBarVisible());
     EXPECT_EQ(model->findLastResult(), std::nullopt);
     EXPECT_EQ(model->findQuery(), "ferry");

@@ -78,4 +78,12 @@ TEST_F(TabContents, progressRedrawsNothingButItsLine)
     EXPECT_EQ(counts.made + counts.placed + counts.removed, 0);
     EXPECT_LE(counts.applied, 2); // the line and its frame
     EXPECT_EQ(progress(), 0.7);
+
+    window->renderer().counts = {};
+    model->setUser(velmaro::UserIdentity{"Ada", "Moor"}); // stored, as the zoom is
+    settle();
+    EXPECT_EQ(counts.applied, 0);
+    platform.userDefaults().setInteger("vl.page.zoom", 150);
+    settle();
+    EXPECT_GT(counts.applied, 0);
 }

@@ -1,5 +1,6 @@
 #include "web/WebView.h"
 
+#include "app/PageMessages.h"
 #include "ui/Stage.h"
 
 #include <gtest/gtest.h>
@@ -15,10 +16,12 @@ struct WebViews : Stage, testing::Test {
     // The web view of the model, shown in a window.
     simulated::SimulatedWebView& open()
     {
-        show(velmaro::WebView{model});
+        show(tab());
         settle();
         return *platform.webViews().back().lock();
     }
+
+    velmaro::WebView tab() const { return {model, velmaro::pageMessageRules()}; }
 
     std::shared_ptr<WebModel> model = std::make_shared<WebModel>("fuel");
 };
@@ -111,13 +114,10 @@ TEST_F(WebViews, tellNobodyOnceTheyHaveGone)
     const auto content = std::make_shared<ui::Published<bool>>(true);
     struct Screen {
         std::shared_ptr<ui::Published<bool>> showsWebView;
-        std::shared_ptr<WebModel> model;
-        ui::View body() const
-        {
-            return (*showsWebView)() ? ui::View(velmaro::WebView{model}) : ui::View();
-        }
+        velmaro::WebView webView;
+        ui::View body() const { return (*showsWebView)() ? ui::View(webView) : ui::View(); }
     };
-    show(Screen{content, model});
+    show(Screen{content, tab()});
     settle();
     const std::weak_ptr<simulated::SimulatedWebView> webView = platform.webViews()[0];
     const auto handler =

@@ -52,7 +52,7 @@ void HostWidget::make()
     view_ = hosted_.view();
     auto& native = nativeView(*view_);
     native.nativeWidget().insert_at_start(area_);
-    area_.set_vexpand(native.fillsHeight());
+    area_.set_vexpand();
     native.setShown(isShown_);
 }
 

@@ -46,9 +46,6 @@ public:
     // The widget to be placed in the window; lives as long as the view.
     virtual Gtk::Widget& nativeWidget() = 0;
 
-    // Whether the view takes all the height there is, or has one of its own.
-    virtual bool fillsHeight() const { return true; }
-
     // The view has become part of what can be seen and clicked, or no longer is: its tab was chosen
     // or left.
     virtual void setShown(bool) { }

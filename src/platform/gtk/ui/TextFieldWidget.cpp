@@ -3,6 +3,8 @@
 #include "platform/gtk/ui/WidgetStyle.h"
 #include "platform/ui/ViewNodes.h"
 
+#include <gtkmm/eventcontrollerkey.h>
+
 namespace gtk {
 
 TextFieldWidget::TextFieldWidget()
@@ -14,11 +16,10 @@ TextFieldWidget::TextFieldWidget()
         if (binding_.set && text != binding_.get())
             binding_.set(text);
     });
-    g_signal_connect_swapped(text_.gobj(), "activate", G_CALLBACK(+[](TextFieldWidget* self) {
-        if (const auto submit = self->options_.onSubmit)
-            submit();
-    }),
-        this);
+    const auto keys = Gtk::EventControllerKey::create(); // after those of an input method
+    keys->signal_key_pressed().connect(
+        [this](guint key, guint, Gdk::ModifierType state) { return pressKey(key, state); }, false);
+    text_.add_controller(keys);
     text_.property_has_focus().signal_changed().connect([this] {
         if (options_.isFocused)
             options_.isFocused->set(text_.has_focus());
@@ -57,11 +58,31 @@ void TextFieldWidget::apply(const ui::Node& node)
 
 bool TextFieldWidget::appear(const Glib::RefPtr<Gdk::FrameClock>&)
 {
-    if (options_.focusesWhenShown)
-        text_.grab_focus();
-    else
+    if (!options_.focusesWhenShown)
         followFocus();
+    else if (isReachable(text_))
+        text_.grab_focus();
     return false;
+}
+
+bool TextFieldWidget::pressKey(guint key, Gdk::ModifierType state)
+{
+    const auto options = options_; // an action may take this widget away
+    switch (key) {
+    case GDK_KEY_Return:
+    case GDK_KEY_KP_Enter:
+    case GDK_KEY_ISO_Enter:
+        if (options.onSubmit)
+            options.onSubmit(
+                {.shift = (state & Gdk::ModifierType::SHIFT_MASK) != Gdk::ModifierType()});
+        return options.onSubmit != nullptr;
+    case GDK_KEY_Escape:
+        if (options.onCancel)
+            options.onCancel();
+        return options.onCancel != nullptr;
+    default:
+        return false;
+    }
 }
 
 void TextFieldWidget::followFocus()

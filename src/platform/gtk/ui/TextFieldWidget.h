@@ -17,6 +17,7 @@ public:
 
 private:
     bool appear(const Glib::RefPtr<Gdk::FrameClock>& clock);
+    bool pressKey(guint key, Gdk::ModifierType state);
     void followFocus();
 
     Gtk::Text text_;

@@ -7,8 +7,8 @@
 
 namespace simulated {
 
-// A location service whose user and whose position are the test's. Nobody has been asked for
-// permission at first.
+// A location service whose user and whose position are the test's. At first the user has not been
+// asked for permission.
 class SimulatedLocationManager final : public platform::CLLocationManager {
 public:
     void setDelegate(platform::CLLocationManagerDelegate* delegate) override;
@@ -21,7 +21,8 @@ public:
     // The user decides; the delegate is told.
     void simulateAuthorization(platform::CLAuthorizationStatus status);
 
-    // The service answers, also when nobody has asked. Fails the test when nobody listens.
+    // The service answers, also without having been asked. Fails the test when there is no
+    // delegate.
     void simulateLocations(const std::vector<platform::CLLocation>& locations);
     void simulateFailure(const platform::NSError& error);
 

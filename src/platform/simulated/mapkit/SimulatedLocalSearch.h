@@ -14,7 +14,7 @@ public:
 
     void start(CompletionHandler completionHandler) override;
 
-    // Started and not answered yet.
+    // Whether the search was started and has not been answered yet.
     bool isRunning() const { return static_cast<bool>(handler_); }
 
     // The search ends. Fails the test unless it is running.

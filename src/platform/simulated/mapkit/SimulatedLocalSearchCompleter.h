@@ -21,7 +21,7 @@ public:
     void setQueryFragment(std::string fragment) override;
     const platform::MKLocalSearchCompletions& results() const override { return results_; }
 
-    // The service answers, also when nothing was typed. Fails the test when nobody listens.
+    // The service answers, also when nothing was typed. Fails the test when there is no delegate.
     void simulateResults(const std::vector<TitleAndSubtitle>& places);
     void simulateFailure(const platform::NSError& error);
 

@@ -29,10 +29,10 @@ public:
     void add(const platform::UNNotificationRequest& request,
         std::function<void(const std::optional<platform::NSError>&)> completion) override;
 
-    // The user answers the oldest question that waits; fails the test when none does.
+    // The user answers the oldest question that waits; fails the test when no question waits.
     void simulateAnswer(bool granted);
 
-    // The user clicks a notification; fails the test when nobody listens.
+    // The user clicks a notification; fails the test when there is no delegate.
     void simulateClick(const platform::UNNotificationRequest& notification);
 
     // How a notification would show in front.
