@@ -118,8 +118,8 @@ int main(int argumentCount, char** arguments)
     platform::WKWebViewConfiguration configuration;
     configuration.userContentController.scriptMessageHandlers = {{"done", calls}};
     const auto view = std::make_shared<gtk::GtkWebView>(platform.webEngine(), configuration);
-    const auto coordinator =
-        std::make_shared<velmaro::Coordinator>(std::make_shared<velmaro::WebModel>());
+    const auto coordinator = std::make_shared<velmaro::Coordinator>(
+        std::make_shared<velmaro::WebModel>(), velmaro::PageMessageRules());
     const auto droppable = std::make_shared<velmaro::DroppableWebView>(*view);
     droppable->dropRouter = coordinator;
 

@@ -32,7 +32,7 @@ public:
     }
 
     const std::shared_ptr<WebModel> model;
-    const PageMessageRules pageMessages;
+    const PageMessageRules pageMessages; // what the page can ask for
     std::vector<platform::WKWebView::Observation> observations;
 
     // Mirrors the navigation state of `webView` from now on, in place of whatever was observed

@@ -98,8 +98,8 @@ protected:
     std::filesystem::path folder;
     gtk::GtkPlatform platform{
         {.identifier = "example.velmaro.Test", .address = std::nullopt, .geocoder = ""}};
-    std::shared_ptr<velmaro::Coordinator> coordinator =
-        std::make_shared<velmaro::Coordinator>(std::make_shared<velmaro::WebModel>());
+    std::shared_ptr<velmaro::Coordinator> coordinator = std::make_shared<velmaro::Coordinator>(
+        std::make_shared<velmaro::WebModel>(), velmaro::PageMessageRules());
 };
 
 TEST_F(DownloadTest, savesWholeFilesUnderTheNamesOfTheServerMadeSafe)
