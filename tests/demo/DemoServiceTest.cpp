@@ -1,5 +1,4 @@
 #include "service/DemoService.h"
-#include "data/Gazetteer.h"
 #include "service/ImportedTable.h"
 
 #include <gtest/gtest.h>
@@ -12,49 +11,18 @@ using nlohmann::json;
 
 class DemoServiceTest : public testing::Test {
 protected:
-    Answer get(const std::string& path, const std::string& query = {},
+    Answer ask(const char* method, const std::string& path, const std::string& body = {},
         std::map<std::string, std::string> headers = {})
     {
         return service_.answer({
-            .method = "GET",
-            .host = "velmaro.localhost",
-            .port = 8443,
-            .path = path,
-            .query = query,
-            .headers = std::move(headers),
-        });
-    }
-
-    Answer post(const std::string& path, const json& body)
-    {
-        return service_.answer({
-            .method = "POST",
+            .method = method,
             .host = "velmaro.localhost",
             .port = 8443,
             .path = path,
             .query = {},
-            .body = body.dump(),
+            .headers = std::move(headers),
+            .body = body,
         });
-    }
-
-    static std::string header(const Answer& answer, std::string_view wanted)
-    {
-        for (const auto& [name, value] : answer.headers) {
-            if (name == wanted)
-                return value;
-        }
-        return {};
-    }
-
-    /// What the page of a freshly signed-in user holds as its current user.
-    json userInPageAfterSigningIn(const json& names)
-    {
-        const std::string cookie = header(post("/online/api/sign-in", names), "Set-Cookie");
-        const std::string page =
-            get("/online", {}, {{"cookie", "other=1; " + cookie.substr(0, cookie.find(';'))}}).body;
-        constexpr std::string_view start = "var currentUser = ";
-        const auto from = page.find(start) + start.size();
-        return json::parse(page.substr(from, page.find(";\n", from) - from));
     }
 
 private:
@@ -64,97 +32,37 @@ private:
 
 TEST_F(DemoServiceTest, anyNameThatSignsInComesBackInThePage)
 {
-    const json users[] = {
-        {{"firstname", "Robin"}, {"lastname", "Alder"}},
-        {{"firstname", "</script><!--"}, {"lastname", "'\"\\"}},
-        {{"firstname", "Zoë.;, =%41"}, {"lastname", "\u2028"}},
-        {{"firstname", ""}, {"lastname", "Only"}},
-    };
-    for (const auto& user : users)
-        EXPECT_EQ(userInPageAfterSigningIn(user), user);
-}
-
-TEST_F(DemoServiceTest, aKnownTagGetsNoBodyAndAnotherUserGetsAnotherTag)
-{
-    const Answer first = get("/online");
-    const std::string tag = header(first, "ETag");
-    ASSERT_EQ(first.status, 200u);
-
-    const Answer again = get("/online", {}, {{"if-none-match", tag}});
-    EXPECT_EQ(again.status, 304u);
-    EXPECT_TRUE(again.body.empty());
-
-    const Answer signedIn =
-        get("/online", {}, {{"if-none-match", tag}, {"cookie", "velmaro_session=Robin.Alder"}});
-    EXPECT_EQ(signedIn.status, 200u);
-    EXPECT_NE(header(signedIn, "ETag"), tag);
-
-    const Answer compressed =
-        get("/online", {}, {{"if-none-match", tag}, {"accept-encoding", "br, gzip"}});
-    EXPECT_EQ(compressed.status, 200u);
-    EXPECT_LT(compressed.body.size(), first.body.size() / 2);
+    const json user = {{"firstname", "</script><!-- Zo\u00eb.;, =%41"}, {"lastname", "'\"\\"}};
+    std::string cookie;
+    for (const auto& [name, value] : ask("POST", "/online/api/sign-in", user.dump()).headers) {
+        if (name == "Set-Cookie")
+            cookie = value.substr(0, value.find(';'));
+    }
+    const auto page = ask("GET", "/online", {}, {{"cookie", "other=1; " + cookie}}).body;
+    const auto start = page.find("var currentUser = ") + 18;
+    EXPECT_EQ(json::parse(page.substr(start, page.find(";\n", start) - start)), user);
 }
 
 TEST_F(DemoServiceTest, recordsThatDoNotFitAreRefusedAndChangeNothing)
 {
-    const json unfit[] = {
-        {{"vehicle", "Pebble"}},
-        {{"vehicle", "Pebble"}, {"litres", "many"}, {"total", 1}},
-        {{"vehicle", "Pebble"}, {"litres", -1}, {"total", 1}},
-        {{"vehicle", json::array()}, {"litres", 1}, {"total", 1}},
-        {{"vehicle", "Pebble"}, {"litres", 1}, {"total", 1}, {"date", "2026-13-01"}},
-    };
-    const json before = json::parse(get("/online/api/fuel").body);
-    for (const auto& record : unfit)
-        EXPECT_EQ(post("/online/api/fuel", record).status, 422u) << record;
-    EXPECT_EQ(json::parse(get("/online/api/fuel").body), before);
+    const auto before = ask("GET", "/online/api/fuel").body;
+    for (const json& record :
+        {json{{"vehicle", "Pebble"}}, json{{"vehicle", "Pebble"}, {"litres", -1}, {"total", 1}}})
+        EXPECT_EQ(ask("POST", "/online/api/fuel", record.dump()).status, 422u) << record;
+    EXPECT_EQ(ask("GET", "/online/api/fuel").body, before);
 
-    const Answer added =
-        post("/online/api/fuel", {{"vehicle", "Pebble"}, {"litres", "31.5"}, {"total", 54}});
-    EXPECT_EQ(added.status, 201u);
-    EXPECT_EQ(json::parse(added.body)["litres"], 31.5);
-}
-
-TEST_F(DemoServiceTest, theGeocoderFindsPlacesByTheBeginningsOfTheirWords)
-{
-    const auto firstName = [&](const std::string& query) -> std::string {
-        const json features = json::parse(get("/api", query).body)["features"];
-        if (features.empty())
-            return "";
-        const json& properties = features[0]["properties"];
-        return properties.contains("name") ? properties["name"].get<std::string>()
-                                           : properties["street"].get<std::string>() + " "
-                + properties["housenumber"].get<std::string>();
-    };
-    const std::pair<const char*, const char*> cases[] = {
-        {"q=Lighth+mus", "Lighthouse Museum"},
-        {"q=cafe+morrow", "Café Morrow"},
-        {"q=QUAYSIDE+12b", "Quayside 12b"},
-        {"q=joe%27s", "Joe's Diner"},
-        {"q=nothing+of+the+kind", ""},
-    };
-    for (const auto& [query, name] : cases)
-        EXPECT_EQ(firstName(query), name) << query;
-    for (const Place& place : placesOfValue("station")) {
-        const std::string here = "&lat=" + std::to_string(place.latitude())
-            + "&lon=" + std::to_string(place.longitude());
-        EXPECT_EQ(firstName("q=station&limit=1" + here), place.name);
-    }
-    for (const char* query : {"", "q=", "q=%20", "q=%FF"})
-        EXPECT_EQ(get("/api", query).status, 400u) << query;
+    const json record = {{"vehicle", "Pebble"}, {"litres", "31.5"}, {"total", 54}};
+    EXPECT_EQ(json::parse(ask("POST", "/online/api/fuel", record.dump()).body)["litres"], 31.5);
 }
 
 TEST(ImportedTableTest, cellsMayBeQuotedAndRowsMayBeShort)
 {
     const std::pair<const char*, json> cases[] = {
-        {"a,b\n1,2\r\n3,4", {{{"a", "1"}, {"b", "2"}}, {{"a", "3"}, {"b", "4"}}}},
         {"\xEF\xBB\xBF"
-         "a;b\n1,5;2\n",
+         "a;b\n1,5;2\r\n",
             {{{"a", "1,5"}, {"b", "2"}}}},
         {"a,b\n\"x,\"\"y\"\"\n\",\n", {{{"a", "x,\"y\"\n"}, {"b", ""}}}},
         {"a,b\n1\n\n1,2,3", {{{"a", "1"}}, {{"a", "1"}, {"b", "2"}}}},
-        {"a\n\"never closed", {{{"a", "never closed"}}}},
-        {"", json::array()},
     };
     for (const auto& [text, rows] : cases)
         EXPECT_EQ(json(importedTable(text, 10)), rows) << text;

@@ -18,25 +18,21 @@ using Json = nlohmann::json;
 
 namespace {
 
-// A folder that goes with the process. `TMPDIR` tells where; waiting for a disk takes most of the
-// time.
-class Folder {
-public:
-    Folder()
-    {
-        auto name = (std::filesystem::temp_directory_path() / "settings-XXXXXX").string();
-        require(::mkdtemp(name.data()), "there is room for settings");
-        path_ = name;
-    }
-    ~Folder() { std::filesystem::remove_all(path_); }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
+// `TMPDIR` tells where; waiting for a disk takes most of the time.
+std::string madeFolder()
+{
+    auto path = (std::filesystem::temp_directory_path() / "settings-XXXXXX").string();
+    require(::mkdtemp(path.data()), "there is room for settings");
+    return path;
+}
 
-    std::filesystem::path file() const { return path_ / "settings.json"; }
-    std::filesystem::path damagedFile() const { return path_ / "settings.json.damaged"; }
+// A folder that goes with the process.
+struct Folder {
+    ~Folder() { std::filesystem::remove_all(path); }
 
-private:
-    std::filesystem::path path_;
+    const std::string path = madeFolder();
+    const std::string file = path + "/settings.json";
+    const std::string damagedFile = path + "/settings.json.damaged";
 };
 
 std::string contentsOf(const std::filesystem::path& path)
@@ -80,32 +76,32 @@ std::optional<Json> membersOf(std::string_view text)
 void fuzz::tryInput(std::string_view input)
 {
     static const Folder folder;
-    std::filesystem::remove(folder.damagedFile());
-    std::ofstream(folder.file(), std::ios::binary) << input;
+    std::filesystem::remove(folder.damagedFile);
+    std::ofstream(folder.file, std::ios::binary) << input;
 
     simulated::SimulatedQueue queue;
     std::vector<std::string> log;
     const auto note = [&](const std::string& line) { log.push_back(line); };
     {
-        GtkUserDefaults settings(folder.file(), queue, note);
+        GtkUserDefaults settings(folder.file, queue, note);
         readEverything(settings);
         settings.setInteger(ownKey, ownValue);
         settings.flush();
     }
-    const bool isDamaged = std::filesystem::exists(folder.damagedFile());
-    const auto written = membersOf(contentsOf(folder.file()));
+    const bool isDamaged = std::filesystem::exists(folder.damagedFile);
+    const auto written = membersOf(contentsOf(folder.file));
     auto expected = membersOf(input);
     require(isDamaged || expected, "what is no object counts as damaged");
     require(!isDamaged || !expected || isNested(input), "an object counts as such");
     require(log.size() == (isDamaged ? 1u : 0u), "a damaged file is told about, once");
-    require(!isDamaged || contentsOf(folder.damagedFile()) == input,
-        "a damaged file is kept as it was");
+    require(
+        !isDamaged || contentsOf(folder.damagedFile) == input, "a damaged file is kept as it was");
     if (isDamaged)
         expected = Json::object();
     (*expected)[ownKey] = ownValue;
     require(written == expected, "all else is written back as it was");
 
-    GtkUserDefaults settings(folder.file(), queue, note);
+    GtkUserDefaults settings(folder.file, queue, note);
     require(settings.integer(ownKey) == ownValue, "a setting comes back");
     require(log.size() == (isDamaged ? 1u : 0u), "what was written can be read");
 }

@@ -8,33 +8,6 @@
 
 namespace velmaro {
 
-TEST(StationKind, isNamedAsItsPage)
-{
-    EXPECT_EQ(rawValue(StationKind::gas), "gas");
-    EXPECT_EQ(rawValue(StationKind::evstations), "evstations");
-    EXPECT_EQ(rawValue(StationKind::traffic), "traffic");
-}
-
-TEST(LocationHandOff, runsOncePerPickAndOnlyInAWebView)
-{
-    simulated::SimulatedPlatform platform;
-    WebModel model("dashboard");
-    const PickedLocation first{1, 2, "first"}, second{3, 4, "second"};
-    model.handOffLocation(StationKind::gas, first);
-
-    const auto webView =
-        std::make_shared<simulated::SimulatedWebView>(platform::WKWebViewConfiguration());
-    model.webView = webView;
-    model.handOffLocation(StationKind::gas, first);
-    model.handOffLocation(StationKind::traffic, second);
-    const std::vector<std::string> expected = {
-        LocationScripts::handOffLocation(StationKind::gas, first),
-        LocationScripts::handOffLocation(StationKind::traffic, second),
-    };
-    EXPECT_EQ(webView->scripts, expected);
-    EXPECT_EQ(model.currentRoute(), "dashboard");
-}
-
 TEST(LocationHandOff, takesEveryPickToTheTabThatThePickerWasOpenedFor)
 {
     RunningApp run;

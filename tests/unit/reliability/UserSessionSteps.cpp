@@ -63,16 +63,6 @@ void reportRoute(Session& session)
         Value::Object{{"page", routes[static_cast<std::size_t>(session.choose(routes.size()))]}});
 }
 
-void signIn(Session& session)
-{
-    session.post("authBridge", Value::Object{{"firstname", "Robin"}, {"lastname", "Alder"}});
-}
-
-void openLink(Session& session)
-{
-    session.platform.application().simulateOpenURL("velmaro://drive/42");
-}
-
 void download(Session& session)
 {
     const auto page = session.page();
@@ -126,11 +116,6 @@ void printReport(Session& session)
         view->prints.at(0)->simulateEnd(!session.fails());
 }
 
-void notify(Session& session)
-{
-    session.post("notifyBridge", Value::Object{{"title", "Oil"}, {"url", "velmaro://page/fuel"}});
-}
-
 void clickNotification(Session& session)
 {
     auto& center = session.platform.userNotificationCenter();
@@ -155,11 +140,6 @@ void find(Session& session)
         page->simulateFindResult(!session.fails());
 }
 
-void closeFind(Session& session)
-{
-    session.tabs()->activeTab()->closeFind();
-}
-
 void clearAll(Session& session)
 {
     chooseItem(session, "Clear All Cache…");
@@ -172,26 +152,19 @@ void clearAll(Session& session)
         session.platform.websiteData().simulateRemoved();
 }
 
-// Types into the picker's text field; false when the picker is closed.
-bool type(Session& session, const char* text)
-{
-    const auto& content = session.platform.application().window().content();
-    for (const auto* field : content.findAll<ui::TextFieldNode>()) {
-        const auto* node = field->node<ui::TextFieldNode>();
-        if (node->options.placeholder == "Search for an address or place") {
-            node->text.set(text);
-            return true;
-        }
-    }
-    return false;
-}
-
 void pickPlace(Session& session)
 {
     if (!session.press("Find gas stations"))
         return;
-    if (!type(session, "Ferry"))
+    const auto& content = session.platform.application().window().content();
+    const auto fields = content.findAll<ui::TextFieldNode>();
+    const auto field = std::ranges::find_if(fields, [](const auto* candidate) {
+        return candidate->template node<ui::TextFieldNode>()->options.placeholder
+            == "Search for an address or place";
+    });
+    if (field == fields.end())
         return; // it was open, and has been closed
+    (*field)->node<ui::TextFieldNode>()->text.set("Ferry");
     const auto completer = session.platform.searchCompleters().back().lock();
     if (session.fails())
         completer->simulateFailure({"The network has gone"});
@@ -238,11 +211,6 @@ void dropFile(Session& session)
         {.fileURLs = {platform::URL::fileURL("/files/drives.csv")}});
 }
 
-void showAbout(Session& session)
-{
-    chooseItem(session, "About Velmaro Online");
-}
-
 void leaveAbout(Session& session)
 {
     auto& application = session.platform.application();
@@ -270,24 +238,31 @@ const std::vector<UserSession::Step>& UserSession::steps()
         {"restore or not", [](Session& s) { chooseItem(s, "Restore Last Active Tab on Launch"); }},
         {"load the page", loadPage},
         {"report the route", reportRoute},
-        {"sign in", signIn},
+        {"sign in",
+            [](Session& s) {
+                s.post("authBridge", Value::Object{{"firstname", "Robin"}});
+            }},
         {"sign out", [](Session& s) { s.post("authBridge", Value()); }},
         {"log out", [](Session& s) { s.post("logoutBridge", Value()); }},
         {"open a tab from the page", [](Session& s) { s.post("tabBridge", Value()); }},
         {"finish the tour", [](Session& s) { s.post("onboardingBridge", Value()); }},
-        {"open a link", openLink},
+        {"open a link",
+            [](Session& s) { s.platform.application().simulateOpenURL("velmaro://drive/42"); }},
         {"download", download},
         {"save a report", saveReport},
         {"print a report", printReport},
-        {"notify", notify},
+        {"notify",
+            [](Session& s) {
+                s.post("notifyBridge", Value::Object{{"url", "velmaro://page/fuel"}});
+            }},
         {"click the notification", clickNotification},
         {"find", find},
-        {"close the find bar", closeFind},
+        {"close the find bar", [](Session& s) { s.tabs()->activeTab()->closeFind(); }},
         {"clear all", clearAll},
         {"pick a place", pickPlace},
         {"use the location", useCurrentLocation},
         {"drop a file", dropFile},
-        {"show About", showAbout},
+        {"show About", [](Session& s) { chooseItem(s, "About Velmaro Online"); }},
         {"leave About", leaveAbout},
         {"wait", [](Session& s) { s.platform.mainQueue().advance(0.1 * s.choose(20)); }},
     };

@@ -9,22 +9,11 @@ using velmaro::reportFileURL;
 
 TEST(ReportFileName, isTheReportsNameWithoutWhatFileSystemsRefuse)
 {
-    struct Case {
-        std::string name;
-        std::string clean;
-    };
-    const Case cases[] = {
-        {"Trip report", "Trip report"},
-        {"a/b:c", "a-b-c"},
-        {"a//b", "a--b"},
+    const std::pair<std::string, std::string> cases[] = {
         {R"(/\:*?"<>|)", "---------"},
         {"../../etc/passwd", "..-..-etc-passwd"},
-        {"Report.pdf", "Report.pdf"},
         {" \t\n a  b\r\n\u2029\u00a0", "a  b"},
-        {"a\nb", "a\nb"},
         {"Überblick – März", "Überblick – März"},
-        {"/ ", "-"},
-        {"", "Velmaro Report"},
         {" \t\v\f\u0085\u3000 ", "Velmaro Report"},
     };
     for (const auto& [name, clean] : cases)

@@ -33,49 +33,28 @@ std::string repeated(const std::string& text, int count)
 
 TEST(Appcast, readsItemsAsFeedsWriteThem)
 {
-    const SUAppcastItem expected{"41", "2.3", "New: a & b", "https://a/b.deb", 7, "S"};
-    SUAppcastItem withoutExtras = expected;
-    withoutExtras.displayVersionString = "41";
-    withoutExtras.itemDescription = "";
-    struct Case {
-        std::string text;
-        std::vector<SUAppcastItem> items;
-    };
-    const Case cases[] = {
-        {feed(""), {}},
-        {feed(item("<sparkle:version> 41\n</sparkle:version><sparkle:shortVersionString>2.3"
-                   "</sparkle:shortVersionString><description><![CDATA[<p>New:\n a &amp; b</p>]]>"
-                   "</description>"
-             + std::string(enclosure))),
-            {expected}},
-        {feed(item(R"(<enclosure sparkle:version="41" url="https://a/b.deb" length="7"
-                      sparkle:edSignature="S"/>)")),
-            {withoutExtras}},
-        {feed(item("<sparkle:version>41</sparkle:version>"
-                   R"(<enclosure url="https://a/b.deb" length="7" sparkle:edSignature="S"
-                      sparkle:os="linux"/>)")),
-            {withoutExtras}},
+    const SUAppcastItem whole{"41", "2.3", "New: a & b", "https://a/b.deb", 7, "S"};
+    const SUAppcastItem bare{"41", "41", "", "https://a/b.deb", 7, "S"};
+    const std::pair<std::string, std::vector<SUAppcastItem>> cases[] = {
+        {item("<sparkle:version> 41\n</sparkle:version><sparkle:shortVersionString>2.3"
+              "</sparkle:shortVersionString><description><![CDATA[<p>New:\n a &amp; b</p>]]>"
+              "</description>"
+             + std::string(enclosure)),
+            {whole}},
+        {item(R"(<enclosure sparkle:version="41" url="https://a/b.deb" length="7"
+                 sparkle:edSignature="S" sparkle:os="linux"/>)"),
+            {bare}},
 
         // Not for this system, or not usable.
-        {feed(item("<sparkle:version>41</sparkle:version>"
-                   R"(<enclosure url="https://a/b" length="7" sparkle:os="macos"/>)")),
-            {}},
-        {feed(item(enclosure)), {}},
-        {feed(item("<sparkle:version>41</sparkle:version>")), {}},
-        {feed(item("<sparkle:version>41</sparkle:version><enclosure length=\"7\"/>")), {}},
-        {feed(item("<sparkle:version>4</sparkle:version><enclosure url=\"https://a\"/>")), {}},
-        {feed(item("<sparkle:version>4</sparkle:version><enclosure url=\"x\" length=\"-7\"/>")),
-            {}},
-        {feed(item("<sparkle:version>4</sparkle:version><enclosure url=\"x\" length=\"7x\"/>")),
-            {}},
-        {feed(item("<sparkle:version>4</sparkle:version>"
-                   "<enclosure url=\"x\" length=\"99999999999999999999\"/>")),
-            {}},
+        {item(R"(<enclosure sparkle:version="41" url="x" length="7" sparkle:os="macos"/>)"), {}},
+        {item(enclosure), {}},
+        {item(R"(<enclosure sparkle:version="41" length="7"/>)"), {}},
+        {item(R"(<enclosure sparkle:version="41" url="x" length="7x"/>)"), {}},
     };
-    for (const auto& [text, items] : cases) {
-        const auto appcast = SUAppcast::parse(text);
-        ASSERT_TRUE(appcast) << text;
-        EXPECT_EQ(appcast->items, items) << text;
+    for (const auto& [content, items] : cases) {
+        const auto appcast = SUAppcast::parse(feed(content));
+        ASSERT_TRUE(appcast) << content;
+        EXPECT_EQ(appcast->items, items) << content;
     }
 }
 
@@ -83,16 +62,11 @@ TEST(Appcast, refusesWhatIsNoFeed)
 {
     const std::string refused[] = {
         "",
-        "not xml",
-        "<html><body/></html>",
         "<rss/>",
-        "<rss><channel>",
         "<rss><channel></rss></channel>",
         feed("\xff\xfe"),
-        std::string("<rss><channel>\0</channel></rss>", 31),
         R"(<!DOCTYPE rss [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;&a;">]>)"
             + feed(item("<sparkle:version>&b;</sparkle:version>" + std::string(enclosure))),
-        R"(<!DOCTYPE rss SYSTEM "file:///etc/passwd">)" + feed(""),
         repeated("<a>", 200'000),
     };
     for (const auto& text : refused)
@@ -113,19 +87,12 @@ TEST(Appcast, theNewestIsTheHighestVersionWhereverItStands)
 
 TEST(ReleaseNotes, areTheTextsOfTheirDocument)
 {
-    struct Case {
-        std::string html;
-        std::string text;
-    };
-    const Case cases[] = {
-        {"plain  words\n here", "plain words here"},
-        {"<h2>New</h2><ul><li>One</li>\n<li>T<b>w</b>o &lt;3</li></ul><p>End",
-            "New\n• One\n• Two <3\nEnd"},
-        {"a<br>b<BR/>c", "a\nb\nc"},
-        {"<style>p { color: red }</style><script>if (a < b) { }</script>seen", "seen"},
+    const std::pair<const char*, const char*> cases[] = {
+        {"<h2>New  words</h2><ul><li>One</li>\n<li>T<b>w</b>o &lt;3</li></ul><p>End",
+            "New words\n• One\n• Two <3\nEnd"},
+        {"<style>p { color: red }</style><script>if (a < b) { }</script>a<br>b", "a\nb"},
         {"<script>never ends", ""},
         {"1 < 2, &copy; &amp;lt;", "1 < 2, &copy; &lt;"},
-        {"<", "<"},
     };
     for (const auto& [html, text] : cases)
         EXPECT_EQ(platform::plainText(html), text) << html;

