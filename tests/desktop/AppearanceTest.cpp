@@ -1,8 +1,8 @@
 // The looks that the desktop asks for.
 
 #include "harness/AppProcess.h"
-#include "harness/Eventually.h"
-#include "harness/FakeSettingsPortal.h"
+#include "harness/FakeService.h"
+#include "harness/Process.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +13,27 @@ namespace {
 constexpr unsigned noPreference = 0;
 constexpr unsigned dark = 1;
 constexpr unsigned highContrast = 1;
+
+// The portal through which a desktop tells programs how they are to look.
+struct FakeSettingsPortal : FakeService {
+    explicit FakeSettingsPortal(unsigned colorScheme)
+        : FakeService(G_BUS_TYPE_SESSION, "org.freedesktop.portal.Desktop",
+            {
+                {"ReadAll",
+                    answering("({'org.freedesktop.appearance': {'color-scheme': <uint32 "
+                        + std::to_string(colorScheme) + ">, 'contrast': <uint32 0>}},)")},
+                {"CreateMonitor", answering("(objectpath '/monitor',)")}, // by the toolkit
+            })
+    {
+    }
+
+    // The user changes their mind.
+    void change(const char* key, unsigned value)
+    {
+        emit("/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings", "SettingChanged",
+            g_variant_new_parsed("('org.freedesktop.appearance', %s, <%u>)", key, value));
+    }
+};
 
 // How light the tab strip's ground is, 0 to 255; absent while there is no window to see.
 std::optional<int> stripLightness(const DesktopWindow& window)
@@ -41,7 +62,7 @@ bool comesToLookDark(const DesktopWindow& window, bool isDark)
 TEST(Appearance, followsTheDesktopWhileItRuns)
 {
     DemoServiceProcess service;
-    FakeSettingsPortal portal({{"color-scheme", dark}, {"contrast", noPreference}});
+    FakeSettingsPortal portal(dark);
     AppProcess app(service);
     const auto window = app.waitForWindow();
     ASSERT_TRUE(window);
@@ -58,7 +79,7 @@ TEST(Appearance, isKnownBeforeTheDesktopAnswersAtTheNextStart)
 {
     DemoServiceProcess service;
     {
-        FakeSettingsPortal portal({{"color-scheme", dark}});
+        FakeSettingsPortal portal(dark);
         AppProcess app(service);
         const auto window = app.waitForWindow();
         ASSERT_TRUE(window);

@@ -33,10 +33,9 @@ protected:
     // Closes the main window. Whether the application has saved so many tabs then.
     static bool closeWithTabs(std::size_t count)
     {
-        const auto window = Desktop::window("Velmaro Online");
-        if (!window)
+        if (!eventually([] { return Desktop::window("Velmaro Online").has_value(); }))
             return false;
-        window->close();
+        Desktop::window("Velmaro Online")->close();
         return eventually([&] {
             return Desktop::windows().empty()
                 && SavedSettings::read()["vl.open.routes"].size() == count;

@@ -1,8 +1,8 @@
 // Files that are dragged out of another program's window and dropped on a tab.
 
 #include "harness/AppProcess.h"
-#include "harness/FileDrag.h"
 #include "harness/SavedSettings.h"
+#include "harness/UserInput.h"
 #include "platform/gtk/GtkPlatform.h"
 #include "web/Coordinator.h"
 #include "webview/WebViewTest.h"
@@ -75,8 +75,8 @@ protected:
         std::optional<DesktopWindow> target;
         ASSERT_TRUE(until([&] { return (target = Desktop::window(windowTitle)).has_value(); }));
         const auto frame = target->frame();
-        auto drag = std::async(std::launch::async, dragFiles, files, frame.x + frame.width / 2,
-            frame.y + frame.height / 2);
+        auto drag = std::async(std::launch::async, UserInput::dragFiles, files,
+            Point{frame.x + frame.width / 2, frame.y + frame.height / 2});
         ASSERT_TRUE(until(
             [&] { return drag.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
         EXPECT_TRUE(drag.get());
@@ -109,11 +109,7 @@ TEST_F(FileDropTest, handsTextFilesToThePageUnchanged)
     EXPECT_EQ(drop({writeFile("first.png", "PNG"), writeFile("second.txt", "2"),
                   writeFile("third.csv", "3")}),
         "second.txt " + sha256("2"));
-}
-
-TEST_F(FileDropTest, leavesOtherFilesToThePage)
-{
-    EXPECT_EQ(drop({writeFile("picture.png", "PNG")}), "drop: text/uri-list");
+    EXPECT_EQ(drop({writeFile("picture.png", "PNG")}), "drop: text/uri-list"); // the page's own
 }
 
 TEST_F(FileDropTest, isNotHeldUpByWhatIsNoFile)
@@ -140,9 +136,9 @@ TEST(FileDrop, reachesTheImportPageOfTheService)
     const auto file = std::filesystem::path(g_get_home_dir()) / "fuel.csv";
     std::ofstream(file) << "date,litres\n2024-05-06,40\n";
 
-    ASSERT_TRUE(dragFiles({file}, frame.x + frame.width / 2, frame.y + frame.height / 2));
-    EXPECT_TRUE(
-        eventually([&] { return !service.requests("/online/api/import-received").empty(); }));
+    ASSERT_TRUE(
+        UserInput::dragFiles({file}, {frame.x + frame.width / 2, frame.y + frame.height / 2}));
+    EXPECT_TRUE(service.isAsked("/online/api/import-received"));
 }
 
 } // namespace desktop

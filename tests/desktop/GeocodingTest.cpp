@@ -1,14 +1,10 @@
 // Places for a typed text, from a geocoding service.
 
-#include "harness/DemoServiceProcess.h"
-#include "harness/FakeGeocoder.h"
 #include "harness/MainLoop.h"
-#include "platform/foundation/URL.h"
-#include "platform/gtk/foundation/GtkDispatchQueue.h"
 #include "platform/gtk/mapkit/GeocodedPlace.h"
-#include "platform/gtk/mapkit/GtkLocalSearch.h"
 #include "platform/gtk/mapkit/GtkLocalSearchCompleter.h"
 #include "platform/mapkit/MKLocalSearchCompleterDelegate.h"
+#include "webview/PageServer.h"
 
 #include <giomm/init.h>
 #include <gtest/gtest.h>
@@ -85,26 +81,45 @@ TEST(GeocodedPlace, putsWhatTheServiceKnowsIntoWords)
     }
 }
 
-TEST(GeocodedPlace, isNotReadFromAnythingElse)
-{
-    for (const std::string answer : {"", "null", "[]", "{}", "{\"features\":{}}", "<html>",
-             "{\"features\":[", "{\"features\":[]}}", "\xff\xfe"}) {
-        EXPECT_FALSE(GeocodedPlace::fromAnswer(answer)) << answer;
-    }
-    EXPECT_TRUE(GeocodedPlace::fromAnswer(R"({"features":[]})"));
-}
-
 class GeocodingTest : public testing::Test {
 protected:
-    GeocodingTest() { Gio::init(); }
-
-    static std::unique_ptr<gtk::GtkLocalSearchCompleter> makeCompleter(
-        const std::string& address, gtk::GtkURLCache& cache)
+    GeocodingTest()
     {
-        return std::make_unique<gtk::GtkLocalSearchCompleter>(
-            std::make_shared<gtk::GeocodingService>(
-                gtk::GeocodingService::Options{.address = address, .secondsToWait = 1}, cache),
-            pause);
+        Gio::init();
+        answer(answerNaming("Cafe"));
+    }
+
+    std::unique_ptr<gtk::GtkLocalSearchCompleter> makeCompleter(gtk::GtkURLCache& cache)
+    {
+        const gtk::GeocodingService::Options options{
+            .address = server.url(""),
+            .trust = std::make_shared<gtk::HostTrust>(
+                std::vector<std::string>{"localhost"}, VELMARO_CERTIFICATES "/server.pem"),
+            .secondsToWait = 1,
+        };
+        auto completer = std::make_unique<gtk::GtkLocalSearchCompleter>(
+            std::make_shared<gtk::GeocodingService>(options, cache), pause);
+        completer->setDelegate(&listener);
+        return completer;
+    }
+
+    void answer(const std::string& body, int status = 200, const char* cacheControl = "no-store")
+    {
+        server.pages["/api"] = {
+            .body = body, .headers = {{"Cache-Control", cacheControl}}, .status = status};
+    }
+
+    void answerLate(std::size_t request, const std::string& name)
+    {
+        answer(answerNaming(name));
+        server.answerLate(request);
+    }
+
+    void ask(const std::string& text)
+    {
+        const auto count = server.requests.size() + 1;
+        completer->setQueryFragment(text);
+        ASSERT_TRUE(until([&] { return server.requests.size() == count; }));
     }
 
     void waitForNews(std::size_t count = 1)
@@ -112,14 +127,11 @@ protected:
         EXPECT_TRUE(until([&] { return listener.told.size() >= count; }));
     }
 
-    FakeGeocoder geocoder;
+    PageServer server;
+    Listener listener;
     const std::filesystem::path folder = std::filesystem::path(std::getenv("HOME")) / "responses";
     gtk::GtkURLCache cache{folder};
-    std::unique_ptr<gtk::GtkLocalSearchCompleter> completer =
-        makeCompleter(geocoder.address(), cache);
-    Listener listener;
-
-    void SetUp() override { completer->setDelegate(&listener); }
+    std::unique_ptr<gtk::GtkLocalSearchCompleter> completer = makeCompleter(cache);
 };
 
 TEST_F(GeocodingTest, asksOnceWhenTheTypingPauses)
@@ -128,48 +140,33 @@ TEST_F(GeocodingTest, asksOnceWhenTheTypingPauses)
         completer->setQueryFragment(text);
         EXPECT_TRUE(listener.told.empty()) << "told inside the call";
     }
-    geocoder.answer(answerNaming("Cafe"));
     waitForNews();
-    EXPECT_EQ(geocoder.questions(), Texts{"caf\u00e9 & bar?#/%+"});
-    EXPECT_EQ(geocoder.limits(), Texts{"10"});
     EXPECT_EQ(listener.told, Texts{"Cafe;"});
-}
-
-TEST_F(GeocodingTest, aBlankTextHasNoSuggestionsAndNeedsNoNetwork)
-{
-    geocoder.answer(answerNaming("Cafe"));
-    completer->setQueryFragment("cafe");
-    waitForNews();
-    for (const auto* blank : {"", " ", " \t\u00a0"}) {
-        completer->setQueryFragment(blank);
-        EXPECT_EQ(completer->queryFragment(), blank);
-        const auto count = listener.told.size() + 1;
-        waitForNews(count);
-        EXPECT_EQ(listener.told.back(), "");
-    }
-    EXPECT_EQ(geocoder.questions().size(), 1u);
+    completer->setQueryFragment(" \t\u00a0"); // has no suggestions and needs no network
+    waitForNews(2);
+    EXPECT_EQ(listener.told.back(), "");
+    ASSERT_EQ(server.requests.size(), 1u);
+    EXPECT_EQ(server.requests[0].query, "limit=10;q=caf\u00e9 & bar?#/%+;");
 }
 
 TEST_F(GeocodingTest, aLateAnswerToAnEarlierTextIsDropped)
 {
-    geocoder.hold();
-    completer->setQueryFragment("first");
-    ASSERT_TRUE(until([&] { return geocoder.questions().size() == 1; }));
-    completer->setQueryFragment("second");
-    ASSERT_TRUE(until([&] { return geocoder.questions().size() == 2; }));
-    geocoder.answerHeld(1, answerNaming("Second"));
-    geocoder.answerHeld(0, answerNaming("First"));
+    server.pages["/api"].isSilent = true;
+    ask("first");
+    ask("second");
+    answerLate(1, "Second");
+    answerLate(0, "First");
     waitForNews();
-    completer->setQueryFragment("third");
-    ASSERT_TRUE(until([&] { return geocoder.questions().size() == 3; }));
-    geocoder.answerHeld(2, answerNaming("Third"));
+    server.pages["/api"].isSilent = true;
+    ask("third");
+    answerLate(2, "Third");
     waitForNews(2);
     EXPECT_EQ(listener.told, (Texts{"Second;", "Third;"}));
 
-    completer->setQueryFragment("fourth");
-    ASSERT_TRUE(until([&] { return geocoder.questions().size() == 4; }));
+    server.pages["/api"].isSilent = true;
+    ask("fourth");
     completer.reset();
-    geocoder.answerHeld(3, answerNaming("Fourth"));
+    answerLate(3, "Fourth");
     runWaitingEvents();
     EXPECT_EQ(listener.told.size(), 2u);
 }
@@ -178,147 +175,55 @@ TEST_F(GeocodingTest, everyFailureIsToldAndEmptiesTheResults)
 {
     struct Case {
         const char* name;
-        std::function<void(FakeGeocoder&)> prepare;
+        std::function<void()> prepare;
     };
+    const auto cafe = answerNaming("Cafe");
     const Case cases[] = {
-        {"error page", [](auto& it) { it.answer("<html>", 503); }},
-        {"places with an error", [](auto& it) { it.answer(answerNaming("Cafe"), 500); }},
-        {"not JSON", [](auto& it) { it.answer("<html>"); }},
-        {"cut off", [](auto& it) { it.answer(answerNaming("Cafe").substr(0, 60)); }},
-        {"nothing", [](auto& it) { it.answer(""); }},
-        {"too much",
-            [](auto& it) { it.answer(answerNaming("Cafe") + std::string(2'000'000, ' ')); }},
-        {"silence", [](auto& it) { it.hold(); }},
-        {"no service", [](auto& it) { it.stop(); }},
+        {"error page", [&] { answer("<html>", 503); }},
+        {"places with an error", [&] { answer(cafe, 500); }},
+        {"not JSON", [&] { answer("<html>"); }},
+        {"other JSON", [&] { answer(R"({"features":{}})"); }},
+        {"cut off", [&] { answer(cafe.substr(0, 60)); }},
+        {"too much", [&] { answer(cafe + std::string(2'000'000, ' ')); }},
+        {"silence", [&] { server.pages["/api"].isSilent = true; }},
+        {"no service", [&] { server.stop(); }},
     };
-    geocoder.answer(answerNaming("Cafe"));
     for (const auto& [name, prepare] : cases) {
         SCOPED_TRACE(name);
         listener.told.clear();
+        answer(cafe);
         completer->setQueryFragment("cafe");
         waitForNews();
-        prepare(geocoder);
+        prepare();
         completer->setQueryFragment("cafes");
         waitForNews(2);
         EXPECT_EQ(listener.told, (Texts{"Cafe;", "failure"}));
         EXPECT_TRUE(completer->results().empty());
-        geocoder.answer(answerNaming("Cafe"));
-    }
-}
-
-TEST_F(GeocodingTest, onlyWhatWasAskedForIsSuggested)
-{
-    geocoder.answer(
-        R"({"features":[{"geometry":{"coordinates":[2,1]},"properties":)"
-        R"({"name":"Quay","osm_key":"highway"}},{"geometry":{"coordinates":[2,1]},"properties":)"
-        R"({"name":"Cafe","osm_key":"amenity"}}]})");
-    struct Case {
-        std::uint32_t types;
-        std::string titles;
-    };
-    for (const auto& [types, titles] :
-        std::initializer_list<Case>{{1, "Quay;"}, {2, "Cafe;"}, {3, "Quay;Cafe;"}, {0, ""}}) {
-        completer->setResultTypes(types);
-        completer->setQueryFragment("a");
-        waitForNews(listener.told.size() + 1);
-        EXPECT_EQ(listener.told.back(), titles);
     }
 }
 
 TEST_F(GeocodingTest, answersAreKeptUntilTheCacheIsEmptied)
 {
-    const auto ask = [&](const auto& completer) {
-        completer->setDelegate(&listener);
-        completer->setQueryFragment("cafe");
+    const auto questionsAfter = [&](gtk::GtkURLCache& cache) {
+        const auto asking = makeCompleter(cache);
+        asking->setQueryFragment("cafe");
         waitForNews(listener.told.size() + 1);
         EXPECT_EQ(listener.told.back(), "Cafe;");
-        return geocoder.questions().size();
+        return server.requests.size();
     };
-    geocoder.answer(answerNaming("Cafe"), 200, "max-age=600");
-    {
-        gtk::GtkURLCache first(folder);
-        const auto completer = makeCompleter(geocoder.address(), first);
-        EXPECT_EQ(ask(completer), 1u);
-        EXPECT_EQ(ask(completer), 1u);
-    }
-    {
-        gtk::GtkURLCache nextLaunch(folder);
-        EXPECT_EQ(ask(makeCompleter(geocoder.address(), nextLaunch)), 1u);
+    answer(answerNaming("Cafe"), 200, "max-age=600");
+    for (int launch = 0; launch < 2; ++launch) {
+        gtk::GtkURLCache kept(folder);
+        EXPECT_EQ(questionsAfter(kept), 1u);
     }
     {
         gtk::GtkURLCache unused(folder); // emptied in a launch that never searched
         unused.removeAllCachedResponses();
     }
     gtk::GtkURLCache last(folder);
-    const auto completer = makeCompleter(geocoder.address(), last);
-    EXPECT_EQ(ask(completer), 2u);
-    EXPECT_EQ(ask(completer), 2u);
+    EXPECT_EQ(questionsAfter(last), 2u);
     last.removeAllCachedResponses();
-    EXPECT_EQ(ask(completer), 3u);
-}
-
-TEST_F(GeocodingTest, aSuggestionIsFoundWhereItWasShown)
-{
-    gtk::GtkDispatchQueue queue;
-    geocoder.answer(answerNaming("Cafe"));
-    completer->setQueryFragment("cafe");
-    waitForNews();
-    geocoder.stop();
-
-    std::optional<platform::MKLocalSearch::Response> found;
-    int answers = 0;
-    const auto search = [&](std::shared_ptr<const platform::MKLocalSearchCompletion> suggestion) {
-        answers = 0;
-        gtk::GtkLocalSearch({suggestion}, queue)
-            .start([&](const auto& response, const auto& error) {
-                ++answers;
-                found = response;
-                EXPECT_FALSE(error);
-            });
-        EXPECT_EQ(answers, 0) << "answered inside the call";
-        EXPECT_TRUE(until([&] { return answers > 0; }));
-    };
-    search(completer->results().front());
-    ASSERT_TRUE(found && found->mapItems.size() == 1);
-    EXPECT_EQ(found->mapItems.front().placemark.coordinate,
-        (platform::CLLocationCoordinate2D{.latitude = 1, .longitude = 2}));
-    search(std::make_shared<platform::MKLocalSearchCompletion>("somebody", "else's"));
-    EXPECT_FALSE(found);
-}
-
-TEST_F(GeocodingTest, theUsersCertificateCountsForItsHostOnly)
-{
-    DemoServiceProcess service;
-    const auto environment = service.clientEnvironment();
-    const auto host = platform::URL::fromString(service.origin())->host().value();
-    const auto elsewhere = "https://elsewhere.localhost:" + std::to_string(service.port());
-    struct Case {
-        std::string address;
-        Texts hosts; // that the certificate is trusted for
-        bool isTrusted;
-    };
-    const auto path = environment.at("VELMARO_SERVICE_CERTIFICATE");
-    const Case cases[] = {
-        {service.origin(), {host}, true},
-        {service.origin() + "/", {host}, true},
-        {service.origin(), {}, false},
-        {elsewhere, {host}, false},
-        {service.origin(), {"elsewhere.localhost"}, false},
-    };
-    for (const auto& [address, hosts, isTrusted] : cases) {
-        gtk::GtkLocalSearchCompleter completer(
-            std::make_shared<gtk::GeocodingService>(
-                gtk::GeocodingService::Options{
-                    .address = address, .trust = std::make_shared<gtk::HostTrust>(hosts, path)},
-                cache),
-            pause);
-        completer.setDelegate(&listener);
-        listener.told.clear();
-        completer.setQueryFragment("a");
-        waitForNews();
-        EXPECT_EQ(listener.told.front() != "failure", isTrusted) << address;
-        EXPECT_EQ(completer.results().empty(), !isTrusted);
-    }
+    EXPECT_EQ(questionsAfter(last), 3u);
 }
 
 } // namespace desktop

@@ -1,7 +1,6 @@
 // Where the computer is, from the services of the desktop.
 
 #include "harness/FakeGeoClue.h"
-#include "harness/FakeLocationPortal.h"
 #include "harness/MainLoop.h"
 #include "platform/corelocation/CLLocationManagerDelegate.h"
 #include "platform/gtk/corelocation/GtkLocationManager.h"
@@ -60,12 +59,76 @@ std::vector<double> latitudes(const std::vector<CLLocation>& locations)
     return result;
 }
 
-bool contains(const std::vector<std::string>& calls, const std::string& call)
-{
-    return std::ranges::find(calls, call) != calls.end();
-}
+// The portal that tells sandboxed programs where they are, on the private session bus.
+class FakeLocationPortal {
+public:
+    enum class Manner {
+        grants, // and tells one place: 12.5 north, 3.25 west, to 20 metres
+        refuses, // the user says no
+        endsTheSession, // after it has granted one
+        neverDecides,
+    };
+
+    explicit FakeLocationPortal(Manner manner)
+        : manner_(manner)
+        , service(G_BUS_TYPE_SESSION, "org.freedesktop.portal.Desktop",
+              {
+                  {"CreateSession", FakeService::answering("(objectpath '/session',)")},
+                  {"Start", [this](const auto& call) { start(call); }},
+                  {"Close", FakeService::answering()},
+              })
+    {
+    }
+
+private:
+    void start(const FakeService::Call& call)
+    {
+        // The request belongs where its sender and the options of the call say.
+        g_autoptr(GVariant) options = g_variant_get_child_value(call.arguments.get(), 2);
+        const char* token = "";
+        g_variant_lookup(options, "handle_token", "&s", &token);
+        auto sender = call.sender.substr(1);
+        std::ranges::replace(sender, '.', '_');
+        const auto request = std::string(desktopPath) + "/request/" + sender + "/" + token;
+
+        call.answer(g_variant_new("(o)", request.c_str()));
+        if (manner_ == Manner::neverDecides)
+            return;
+        service.emit(request, "org.freedesktop.portal.Request", "Response",
+            g_variant_new_parsed("(%u, @a{sv} {})", manner_ == Manner::refuses ? 1u : 0u));
+        if (manner_ == Manner::endsTheSession)
+            service.emit("/session", "org.freedesktop.portal.Session", "Closed", nullptr);
+        // Also tells the place of a session that is not the caller's, and of callers it has
+        // refused.
+        tellPlace("/some/other/session");
+        if (manner_ == Manner::grants)
+            tellPlace("/session");
+    }
+
+    void tellPlace(const char* session)
+    {
+        service.emit(desktopPath, "org.freedesktop.portal.Location", "LocationUpdated",
+            g_variant_new_parsed(
+                "(%o, {'Latitude': <12.5>, 'Longitude': <-3.25>, 'Accuracy': <20.0>})", session));
+    }
+
+    static constexpr auto desktopPath = "/org/freedesktop/portal/desktop";
+    const Manner manner_;
+
+public:
+    FakeService service; // last, as its methods use the others
+};
 
 } // namespace
+
+// All that a service was asked for, in order.
+std::string calls(const FakeGeoClue& geoClue)
+{
+    std::string text;
+    for (const auto& call : geoClue.service().calls())
+        text += call.text() + "\n";
+    return text;
+}
 
 class LocationTest : public testing::Test {
 protected:
@@ -147,7 +210,7 @@ TEST_F(LocationTest, aRequestEndsWhateverGeoClueDoes)
         EXPECT_EQ(heard.failure, expected.failure);
         // The desktop must not go on showing that the location is in use.
         if (expected.manner != Manner::staysSilent) {
-            EXPECT_TRUE(until([&] { return contains(geoClue.calls(), "DeleteClient"); }));
+            EXPECT_TRUE(geoClue.service().isCalled("DeleteClient"));
         }
     }
 }
@@ -166,29 +229,10 @@ TEST_F(LocationTest, geoClueLearnsWhoAsksAndHowExactly)
         FakeGeoClue geoClue(Manner::grants, {{1, 10, 5}});
         manager->setDesiredAccuracy(metres);
         request(*manager);
-        const auto calls = geoClue.calls();
-        EXPECT_TRUE(contains(calls, "DesktopId='example.velmaro.Online'"));
-        EXPECT_TRUE(contains(calls, "RequestedAccuracyLevel=" + level));
-        EXPECT_LT(std::ranges::find(calls, "RequestedAccuracyLevel=" + level),
-            std::ranges::find(calls, "Start"));
+        const auto heard = calls(geoClue);
+        EXPECT_NE(heard.find("'DesktopId', <'example.velmaro.Online'>"), std::string::npos);
+        EXPECT_LT(heard.find("'RequestedAccuracyLevel', <uint32 " + level), heard.find("Start()"));
     }
-}
-
-TEST_F(LocationTest, aSecondRequestJoinsTheFirst)
-{
-    FakeGeoClue geoClue(Manner::neverDecides);
-    allow();
-    options.patience.consent = 60;
-    const auto services = makeServices();
-    const auto manager = services->makeManager();
-    Listener listener;
-    manager->setDelegate(&listener);
-    manager->requestLocation();
-    ASSERT_TRUE(until([&] { return contains(geoClue.calls(), "Start"); }));
-    manager->requestLocation();
-    geoClue.tell({1, 10, 50});
-    EXPECT_TRUE(until([&] { return listener.answers > 0; }));
-    EXPECT_EQ(std::ranges::count(geoClue.calls(), "CreateClient"), 1);
 }
 
 TEST_F(LocationTest, droppingTheManagerEndsTheRequest)
@@ -200,9 +244,11 @@ TEST_F(LocationTest, droppingTheManagerEndsTheRequest)
     Listener listener;
     manager->setDelegate(&listener);
     manager->requestLocation();
-    ASSERT_TRUE(until([&] { return contains(geoClue.calls(), "Start"); }));
+    ASSERT_TRUE(until([&] { return calls(geoClue).find("Start()") != std::string::npos; }));
+    manager->requestLocation(); // joins the first
     manager.reset();
-    EXPECT_TRUE(until([&] { return contains(geoClue.calls(), "DeleteClient"); }));
+    EXPECT_TRUE(geoClue.service().isCalled("DeleteClient"));
+    EXPECT_EQ(calls(geoClue).find("CreateClient"), calls(geoClue).rfind("CreateClient"));
     EXPECT_EQ(listener.answers, 0);
 }
 
@@ -246,23 +292,13 @@ TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)
     }
 }
 
-TEST_F(LocationTest, anAnswerAfterTheEndIsNotHeard)
-{
-    auto services = makeServices();
-    services->makeManager()->requestWhenInUseAuthorization();
-    ASSERT_TRUE(until([&] { return questions > 0; }));
-    services.reset();
-    answer(true);
-    EXPECT_FALSE(settings.contains(gtk::GtkLocationManager::permissionKey));
-}
-
 TEST_F(LocationTest, geoClueIsNotAskedWithoutPermission)
 {
     FakeGeoClue geoClue(Manner::grants, {{1, 10, 50}});
     settings.setBoolean(gtk::GtkLocationManager::permissionKey, false);
     const auto services = makeServices();
     EXPECT_EQ(request(*services->makeManager()).failure, gtk::LocationSource::refusedText);
-    EXPECT_TRUE(geoClue.calls().empty());
+    EXPECT_EQ(calls(geoClue), "");
 }
 
 TEST_F(LocationTest, insideASandboxThePortalDecides)
@@ -290,8 +326,8 @@ TEST_F(LocationTest, insideASandboxThePortalDecides)
         const auto heard = request(*manager);
         EXPECT_EQ(latitudes(heard.locations), expected.latitudes);
         EXPECT_EQ(heard.failure, expected.failure);
-        EXPECT_TRUE(contains(portal.calls(), "accuracy=4"));
-        EXPECT_TRUE(until([&] { return contains(portal.calls(), "Close"); }));
+        EXPECT_TRUE(portal.service.isCalled("'accuracy': <uint32 4>"));
+        EXPECT_TRUE(portal.service.isCalled("Close()"));
     }
     EXPECT_EQ(questions, 0);
 }

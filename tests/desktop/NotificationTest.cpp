@@ -78,10 +78,9 @@ TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsToItsPage)
         EXPECT_TRUE(first.title.starts_with("Service for ")) << first.title;
         EXPECT_TRUE(first.body.starts_with("Due on ")) << first.body;
         EXPECT_EQ(first.replaced, 0u);
-        EXPECT_EQ(first.actions, (std::vector<std::string>{"default", "Open"}));
+        EXPECT_EQ(first.actions, "['default', 'Open']");
         EXPECT_EQ(first.hints,
-            (std::map<std::string, std::string>{{"desktop-entry", "'example.velmaro.Online'"},
-                {"sound-name", "'message-new-instant'"}}));
+            "{'desktop-entry': <'example.velmaro.Online'>, 'sound-name': <'message-new-instant'>}");
 
         UserInput::press("space"); // the same reminder
         ASSERT_TRUE(eventually([&] { return daemon.shown().size() == 2; }));
@@ -92,6 +91,7 @@ TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsToItsPage)
         service.forgetRequests();
         daemon.click(first.number);
         EXPECT_TRUE(service.isAsked("/online/api/vehicles"));
+        EXPECT_TRUE(app.shows("Vehicles")); // the tab, named after the page has told its route
         window.close();
         EXPECT_EQ(app.process().waitForExit(), 0);
     }
@@ -102,9 +102,8 @@ TEST_F(NotificationTest, aReminderIsShownAfterSigningInAndLeadsToItsPage)
     service.forgetRequests();
     daemon.click(daemon.shown()[2].number); // starts the application
     EXPECT_TRUE(service.isAsked("/online/api/vehicles"));
-    const auto window = Desktop::window("Velmaro Online");
-    ASSERT_TRUE(window);
-    window->close();
+    ASSERT_TRUE(eventually([] { return Desktop::window("Velmaro Online").has_value(); }));
+    Desktop::window("Velmaro Online")->close();
     EXPECT_TRUE(eventually([] { return Desktop::windows().empty(); }));
 }
 

@@ -11,37 +11,6 @@ namespace desktop {
 
 namespace {
 
-// The desktop's file manager; it notes what it is to show.
-class FakeFileManager final : public FakeService {
-public:
-    FakeFileManager()
-        : FakeService("DBUS_SESSION_BUS_ADDRESS", "org.freedesktop.FileManager1")
-    {
-        start();
-    }
-    ~FakeFileManager() override { stop(); }
-
-private:
-    void registerObjects() override
-    {
-        registerObject("/org/freedesktop/FileManager1",
-            R"(<node><interface name="org.freedesktop.FileManager1">
-                 <method name="ShowItems">
-                   <arg direction="in" type="as"/><arg direction="in" type="s"/>
-                 </method>
-               </interface></node>)");
-    }
-
-    void handle(const std::string&, GVariant* arguments, GDBusMethodInvocation* invocation) override
-    {
-        g_autofree const char** addresses = nullptr;
-        g_variant_get(arguments, "(^a&ss)", &addresses, nullptr);
-        for (auto address = addresses; *address; ++address)
-            note(*address);
-        g_dbus_method_invocation_return_value(invocation, nullptr);
-    }
-};
-
 class Report : public testing::Test {
 protected:
     Report() { SavedSettings::write({{"vl.open.routes", {"reports"}}}); }
@@ -61,7 +30,8 @@ protected:
 
 TEST_F(Report, isSavedFromThePageAndShownInItsFolder)
 {
-    const FakeFileManager fileManager;
+    const FakeService fileManager(G_BUS_TYPE_SESSION, "org.freedesktop.FileManager1",
+        {{"ShowItems", FakeService::answering()}});
     AppProcess app(service);
     ASSERT_TRUE(ReportsPage::pressSave(app));
     EXPECT_TRUE(app.shows("Share…"));
@@ -76,9 +46,8 @@ TEST_F(Report, isSavedFromThePageAndShownInItsFolder)
     EXPECT_TRUE(endsItsProcess(app));
 
     EXPECT_TRUE(app.press("Reveal in Finder"));
-    EXPECT_TRUE(eventually([&] { return !fileManager.calls().empty(); }));
-    EXPECT_EQ(fileManager.calls(),
-        std::vector{"file://" + downloads.string() + "/Velmaro%20report%202026-10.pdf"});
+    EXPECT_TRUE(fileManager.isCalled(
+        "ShowItems(['file://" + downloads.string() + "/Velmaro%20report%202026-10.pdf'],"));
 }
 
 TEST_F(Report, thatCannotBeWrittenSaysWhyAndLeavesNothing)

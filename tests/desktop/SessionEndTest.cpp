@@ -4,9 +4,7 @@
 #include "harness/FakeService.h"
 #include "harness/SavedSettings.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
-#include <X11/Xlib.h>
 
 namespace desktop {
 
@@ -26,55 +24,7 @@ nlohmann::json savedRoutes()
     return SavedSettings::read()["vl.open.routes"];
 }
 
-// The desktop's session manager, which asks its clients before it ends the session.
-class SessionManager final : public FakeService {
-public:
-    SessionManager()
-        : FakeService("DBUS_SESSION_BUS_ADDRESS", "org.gnome.SessionManager")
-    {
-        start();
-    }
-    ~SessionManager() override { stop(); }
-
-    bool isCalled(const std::string& method, std::ptrdiff_t times = 1) const
-    {
-        return eventually([&] { return std::ranges::count(calls(), method) >= times; });
-    }
-
-    void tellClient(const char* signal)
-    {
-        invoke([this, signal] {
-            emit(clientPath, "org.gnome.SessionManager.ClientPrivate", signal,
-                g_variant_new("(u)", 0));
-        });
-    }
-
-private:
-    static constexpr auto clientPath = "/org/gnome/SessionManager/Client1";
-
-    void registerObjects() override
-    {
-        registerObject("/org/gnome/SessionManager",
-            "<node><interface name='org.gnome.SessionManager'>"
-            "<method name='RegisterClient'><arg type='s' direction='in'/>"
-            "<arg type='s' direction='in'/><arg type='o' direction='out'/></method>"
-            "<method name='UnregisterClient'><arg type='o' direction='in'/></method>"
-            "</interface></node>");
-        registerObject(clientPath,
-            "<node><interface name='org.gnome.SessionManager.ClientPrivate'>"
-            "<method name='EndSessionResponse'><arg type='b' direction='in'/>"
-            "<arg type='s' direction='in'/></method>"
-            "<signal name='QueryEndSession'><arg type='u'/></signal>"
-            "<signal name='EndSession'><arg type='u'/></signal></interface></node>");
-    }
-
-    void handle(const std::string& method, GVariant*, GDBusMethodInvocation* call) override
-    {
-        note(method);
-        g_dbus_method_invocation_return_value(
-            call, method == "RegisterClient" ? g_variant_new("(o)", clientPath) : nullptr);
-    }
-};
+constexpr auto clientPath = "/org/gnome/SessionManager/Client1";
 
 // An X server of its own, to be taken away from under the application.
 class DisplayServer {
@@ -96,16 +46,26 @@ private:
 TEST(SessionEnd, theTabsAreSavedWhenTheSessionEnds)
 {
     saveUntidyRoutes();
-    SessionManager manager;
+    // The desktop's session manager asks its clients before it ends the session.
+    FakeService manager(G_BUS_TYPE_SESSION, "org.gnome.SessionManager",
+        {
+            {"RegisterClient",
+                [](const auto& call) { call.answer(g_variant_new("(o)", clientPath)); }},
+            {"EndSessionResponse", FakeService::answering()},
+            {"UnregisterClient", FakeService::answering()},
+        });
+    const auto tellClient = [&](const char* signal) {
+        manager.emit(
+            clientPath, "org.gnome.SessionManager.ClientPrivate", signal, g_variant_new("(u)", 0));
+    };
     AppProcess app;
     ASSERT_TRUE(manager.isCalled("RegisterClient"));
     ASSERT_TRUE(app.waitForWindow());
 
-    manager.tellClient("QueryEndSession");
+    tellClient("QueryEndSession");
     ASSERT_TRUE(manager.isCalled("EndSessionResponse"));
     EXPECT_EQ(savedRoutes(), untidyRoutes) << "the user may still call it off";
-
-    manager.tellClient("EndSession");
+    tellClient("EndSession");
     ASSERT_TRUE(manager.isCalled("EndSessionResponse", 2));
     EXPECT_TRUE(manager.isCalled("UnregisterClient"));
     EXPECT_EQ(app.process().waitForExit(), 0);
@@ -124,21 +84,6 @@ TEST(SessionEnd, theTabsAreSavedWhenTheDisplayServerEnds)
     server.end();
     EXPECT_NE(app.process().waitForExit(), std::nullopt);
     EXPECT_EQ(savedRoutes(), tidyRoutes);
-}
-
-TEST(SessionEnd, aWindowThatIsKilledSavesNothing)
-{
-    saveUntidyRoutes();
-    AppProcess app;
-    ASSERT_TRUE(app.waitForWindow());
-    const auto windows = Desktop::windows();
-    ASSERT_EQ(windows.size(), 1u);
-
-    auto* display = XOpenDisplay(nullptr);
-    XKillClient(display, windows.front().id());
-    XCloseDisplay(display);
-    EXPECT_NE(app.process().waitForExit(), std::nullopt);
-    EXPECT_EQ(savedRoutes(), untidyRoutes);
 }
 
 } // namespace desktop

@@ -118,21 +118,15 @@ TEST_F(UserDefaultsTest, aMemberOfAnotherTypeIsAnAbsence)
         bool isData;
     };
     constexpr Case cases[] = {
-        {"null", false, 0, false, false},
-        {"true", false, 0, true, false},
         {"\"7\"", false, 0, false, false},
         {"[]", true, 0, false, false},
         {"[\"a\", 1]", false, 0, false, false},
         {"2.9", false, 2, true, false},
-        {"-2.9", false, -2, true, false},
-        {"0.0", false, 0, false, false},
         {"18446744073709551615", false, INT64_MAX, true, false},
         {"1e300", false, INT64_MAX, true, false},
-        {"-1e300", false, INT64_MIN, true, false},
         {"{\"data\": \"YWJj\"}", false, 0, false, true},
         {"{\"data\": \"YW?Jj\"}", false, 0, false, false},
         {"{\"data\": \"YWJj\", \"more\": 1}", false, 0, false, false},
-        {"{\"data\": 1}", false, 0, false, false},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.json);
@@ -154,15 +148,6 @@ TEST_F(UserDefaultsTest, aFolderInThePlaceOfTheFileIsKeptAside)
     settings->flush();
     EXPECT_EQ(stored(), (Json{{"active", 2}}));
     EXPECT_TRUE(std::filesystem::exists(path.string() + ".damaged/inside"));
-}
-
-TEST_F(UserDefaultsTest, changesDuringAWriteAreWrittenToo)
-{
-    for (int i = 0; i < 50; ++i) {
-        settings->setInteger("active", i);
-        g_main_context_iteration(nullptr, FALSE);
-    }
-    EXPECT_TRUE(until([&] { return stored() == Json{{"active", 49}}; }));
 }
 
 TEST_F(UserDefaultsTest, settingWhatIsSetWritesNothing)
@@ -200,15 +185,6 @@ TEST_F(UserDefaultsTest, aFullDiskLosesNothing)
 
     settings->flush(); // there is room again
     EXPECT_EQ(stored(), (Json{{"active", 9}}));
-}
-
-TEST_F(UserDefaultsTest, aFolderThatCannotBeMadeIsOnlyLogged)
-{
-    std::ofstream(folder / "config") << "a file where the folder should be";
-    settings->setInteger("active", 1);
-    settings->flush();
-    EXPECT_EQ(log.size(), 1u);
-    EXPECT_EQ(settings->integer("active"), 1);
 }
 
 TEST_F(UserDefaultsTest, aSymbolicLinkIsKept)

@@ -62,19 +62,6 @@ const Stage stages[] = {
     {"before the first load", "drives", [](auto&, auto&) { return true; }},
     {"while the page loads", "drives",
         [](auto&, auto& service) { return service.isAsked("/online"); }},
-    {"with the page", "drives", [](auto& app, auto&) { return app.waitForPage(); }},
-    {"while it searches", "drives",
-        [](auto& app, auto&) {
-            if (!app.waitForPage())
-                return false;
-            UserInput::press("ctrl+f");
-            if (!app.shows("Next match (⌘G)"))
-                return false;
-            UserInput::type("Ferry");
-            UserInput::press("Return");
-            return true;
-        },
-        "Next match (⌘G)"},
     {"under the location picker", "fuel",
         [](auto& app, auto&) {
             return app.waitForPage() && app.press("Find gas stations")

@@ -69,16 +69,6 @@ TEST_F(WebViewMannersTest, aPageCannotHoldBackTheUser)
     EXPECT_TRUE(isReadyWith("Next"));
 }
 
-TEST_F(WebViewMannersTest, addressesThatNobodyCanLoadLeaveThePageWhereItIs)
-{
-    for (const auto* address : {"mailto:a@b.example", "tel:1234", "unknown:thing", "MailTo:x"}) {
-        view->evaluateJavaScript(std::string("location.href = '") + address + "'");
-        EXPECT_EQ(valueOf("document.title"), "Home") << address;
-    }
-    EXPECT_EQ(valueOf("location.pathname"), "/");
-    EXPECT_FALSE(panel());
-}
-
 TEST_F(WebViewMannersTest, aPageBehindAPasswordShowsWhatTheServerSaysWithoutOne)
 {
     server.pages["/secret"] = {.body = "<title>Password needed</title>",
@@ -86,20 +76,6 @@ TEST_F(WebViewMannersTest, aPageBehindAPasswordShowsWhatTheServerSaysWithoutOne)
         .status = 401};
 
     EXPECT_TRUE(loads("/secret", "Password needed"));
-}
-
-TEST_F(WebViewMannersTest, filesThatNobodyTakesAreNotSaved)
-{
-    server.pages["/file"] = {
-        .body = "bytes", .headers = {{"Content-Disposition", "attachment; filename=file.csv"}}};
-    const char* downloads = g_get_user_special_dir(G_USER_DIRECTORY_DOWNLOAD);
-
-    view->evaluateJavaScript("location.href = '/file'");
-
-    ASSERT_TRUE(until([&] { return server.requestCount("/file") > 0 && !view->isLoading(); }));
-    EXPECT_EQ(valueOf("document.title"), "Home");
-    for (const std::filesystem::path folder : {downloads ? downloads : "", g_get_home_dir(), "."})
-        EXPECT_FALSE(std::filesystem::exists(folder / "file.csv")) << folder;
 }
 
 } // namespace desktop

@@ -58,7 +58,6 @@ protected:
         server.pages["/"].body = storingPage;
         server.pages["/worker.js"] = {
             .body = "// s3cr3t-of-the-page", .headers = {{"Content-Type", "text/javascript"}}};
-        server.pages["/silent"] = {.body = "", .isSilent = true};
         openView();
         ASSERT_TRUE(loads("/", "Stored")) << view->title();
         ASSERT_TRUE(until([this] { return stores() == allStores; })) << storesOnDisk();
@@ -118,8 +117,9 @@ private:
     int pending_ = 0;
 };
 
-TEST_F(WebsiteDataTest, allOfItGoesWhileThePageIsOpen)
+TEST_F(WebsiteDataTest, allOfItGoesWhileThePageIsOpenAndWhenAskedForTwice)
 {
+    removeAll();
     removeAll();
     ASSERT_TRUE(isRemoved());
     EXPECT_EQ(storesOnDisk(), "/origin\n"); // the name of a host whose page is open
@@ -135,26 +135,6 @@ TEST_F(WebsiteDataTest, theNamesOfHostsGoAtTheNextStart)
     startEngine();
     engine->prepare();
     EXPECT_TRUE(until([this] { return stores().empty(); })) << storesOnDisk();
-}
-
-TEST_F(WebsiteDataTest, whatHasDataStaysAtTheNextStart)
-{
-    startEngine();
-    server.pages["/plain"] = {.body = "<title>Home</title>"};
-    openView();
-    ASSERT_TRUE(loads("/plain"));
-    EXPECT_EQ(valueOf("localStorage.getItem('key')"), secret);
-    EXPECT_EQ(stores(), allStores);
-}
-
-TEST_F(WebsiteDataTest, allOfItGoesWhilePagesLoadAndWhenAskedForTwice)
-{
-    load("/silent");
-    ASSERT_TRUE(until([this] { return server.requestCount("/silent") == 1; }));
-    removeAll();
-    removeAll();
-    ASSERT_TRUE(isRemoved());
-    EXPECT_EQ(storesOnDisk(), "/origin\n");
 }
 
 TEST_F(WebsiteDataTest, whatTheEngineWritesLateGoesToo)

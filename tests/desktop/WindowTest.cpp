@@ -5,40 +5,24 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
-#include <X11/Xlib.h>
 
 namespace desktop {
 
 namespace {
 
-// The test's own way to the X server.
-class Hand {
-public:
-    ~Hand() { XCloseDisplay(display_); }
+// Does something to the window past the application, as a window manager does.
+void manage(const DesktopWindow& window, std::vector<std::string> command)
+{
+    command.insert(command.begin(), "xdotool");
+    command.insert(command.begin() + 2, std::to_string(window.id()));
+    Process tool(command);
+    EXPECT_EQ(tool.waitForExit(), 0) << tool.errors();
+}
 
-    void resize(const DesktopWindow& window, int width, int height)
-    {
-        XResizeWindow(
-            display_, window.id(), static_cast<unsigned>(width), static_cast<unsigned>(height));
-        XFlush(display_);
-    }
-
-    void minimize(const DesktopWindow& window)
-    {
-        XIconifyWindow(display_, window.id(), DefaultScreen(display_));
-        XFlush(display_);
-    }
-
-    bool isShown(const DesktopWindow& window)
-    {
-        XWindowAttributes attributes;
-        return XGetWindowAttributes(display_, window.id(), &attributes)
-            && attributes.map_state == IsViewable;
-    }
-
-private:
-    Display* display_ = XOpenDisplay(nullptr);
-};
+void resize(const DesktopWindow& window, int width, int height)
+{
+    manage(window, {"windowsize", std::to_string(width), std::to_string(height)});
+}
 
 bool comesTo(const DesktopWindow& window, int width, int height)
 {
@@ -68,10 +52,9 @@ TEST(Window, opensInTheMiddleOfTheWorkAreaAndCannotBeMadeSmaller)
     EXPECT_TRUE(eventually([&] { return window->frame() == middle; }))
         << window->frame() << " instead of " << middle;
 
-    Hand hand;
-    hand.resize(*window, width + 40, height + 30);
+    resize(*window, width + 40, height + 30);
     EXPECT_TRUE(comesTo(*window, width + 40, height + 30));
-    hand.resize(*window, 300, 200);
+    resize(*window, 300, 200);
     EXPECT_TRUE(comesTo(*window, width, height));
 }
 
@@ -111,12 +94,11 @@ TEST(Window, comesBackWhenTheMinimizedApplicationIsStartedAgain)
     const auto window = app.waitForWindow();
     ASSERT_TRUE(window);
 
-    Hand hand;
-    hand.minimize(*window);
-    ASSERT_TRUE(eventually([&] { return !hand.isShown(*window); }));
+    manage(*window, {"windowminimize"});
+    ASSERT_TRUE(eventually([&] { return !window->picture(); }));
     AppProcess second(service);
     EXPECT_EQ(second.process().waitForExit(), 0) << second.process().errors();
-    EXPECT_TRUE(eventually([&] { return hand.isShown(*window); }));
+    EXPECT_TRUE(eventually([&] { return window->picture().has_value(); }));
 }
 
 } // namespace desktop

@@ -21,7 +21,7 @@ const total = (data, field) => data.months.reduce((sum, month) => sum + month[fi
 
 views.reports = {
   title: 'Reports', subtitle: 'May to October 2026',
-  actions: () => html`<button data-do="printReport">${icon('print')}Print</button><button class="primary" data-do="saveReport">${icon('save')}Save as PDF</button>`,
+  actions: () => html`<button data-do="printReport" accesskey="p">${icon('print')}Print</button><button class="primary" data-do="saveReport" accesskey="s">${icon('save')}Save as PDF</button>`,
   load: () => api('reports'),
   render: (data) => {
     report = data;

@@ -1,55 +1,39 @@
 #include "AccessibleObject.h"
 
 #include <algorithm>
-#include <gio/gio.h>
 #include <iterator>
 
 namespace desktop {
 
 namespace {
 
-using Answer = std::unique_ptr<GVariant, decltype(&g_variant_unref)>;
+constexpr auto accessible = "org.a11y.atspi.Accessible";
 
-constexpr int limit = 5000; // milliseconds, for each question
-constexpr guint32 inWindow = 1; // number of the coordinates in the protocol
-constexpr guint visible = 30; // number of the state in the protocol
-
-Answer ask(GDBusConnection* bus, const char* program, const char* path, const char* interface,
-    const char* method, GVariant* arguments = nullptr)
+GVariant* call(GDBusConnection* bus, const char* program, const char* path, const char* interface,
+    const char* method, GVariant* arguments)
 {
-    GVariant* answer = g_dbus_connection_call_sync(bus, program, path, interface, method, arguments,
-        nullptr, G_DBUS_CALL_FLAGS_NONE, limit, nullptr, nullptr);
-    return {answer, g_variant_unref};
+    constexpr int limit = 5000; // milliseconds
+    return g_dbus_connection_call_sync(bus, program, path, interface, method, arguments, nullptr,
+        G_DBUS_CALL_FLAGS_NONE, limit, nullptr, nullptr);
 }
 
 // The bus that programs and screen readers meet on. Null where the desktop has none.
 GDBusConnection* accessibilityBus()
 {
     static GDBusConnection* const connection = []() -> GDBusConnection* {
-        GDBusConnection* session = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
-        if (!session)
-            return nullptr;
-        const auto answer =
-            ask(session, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress");
-        g_object_unref(session);
+        g_autoptr(GDBusConnection) session = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+        g_autoptr(GVariant) answer = session
+            ? call(session, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", nullptr)
+            : nullptr;
         if (!answer)
             return nullptr;
         const char* address = nullptr;
-        g_variant_get(answer.get(), "(&s)", &address);
+        g_variant_get(answer, "(&s)", &address);
         const auto flags = GDBusConnectionFlags(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT
             | G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
         return g_dbus_connection_new_for_address_sync(address, flags, nullptr, nullptr, nullptr);
     }();
     return connection;
-}
-
-int processOf(const char* program)
-{
-    guint32 pid = 0;
-    if (const auto answer = ask(accessibilityBus(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
-            "org.freedesktop.DBus", "GetConnectionUnixProcessID", g_variant_new("(s)", program)))
-        g_variant_get(answer.get(), "(u)", &pid);
-    return static_cast<int>(pid);
 }
 
 } // namespace
@@ -58,10 +42,15 @@ std::vector<AccessibleObject> AccessibleObject::applications(int pid)
 {
     if (!accessibilityBus())
         return {};
-    const AccessibleObject root({"org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"});
+    const AccessibleObject bus("org.freedesktop.DBus", "/org/freedesktop/DBus");
+    const AccessibleObject root("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root");
     auto result = root.children();
-    std::erase_if(result, [pid](const auto& application) {
-        return processOf(application.address_.program.c_str()) != pid;
+    std::erase_if(result, [&](const auto& application) {
+        guint32 process = 0;
+        if (const auto answer = bus.ask("org.freedesktop.DBus", "GetConnectionUnixProcessID",
+                g_variant_new("(s)", application.program_.c_str())))
+            g_variant_get(answer.get(), "(u)", &process);
+        return static_cast<int>(process) != pid;
     });
     return result;
 }
@@ -90,22 +79,12 @@ int AccessibleObject::count(int pid, const std::string& role)
     return sum;
 }
 
-std::string AccessibleObject::role() const
-{
-    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
-        "org.a11y.atspi.Accessible", "GetRoleName");
-    const char* role = "";
-    if (answer)
-        g_variant_get(answer.get(), "(&s)", &role);
-    return role;
-}
-
 Rectangle AccessibleObject::bounds() const
 {
-    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
-        "org.a11y.atspi.Component", "GetExtents", g_variant_new("(u)", inWindow));
+    constexpr guint32 inWindow = 1; // number of the coordinates in the protocol
     Rectangle bounds;
-    if (answer)
+    if (const auto answer =
+            ask("org.a11y.atspi.Component", "GetExtents", g_variant_new("(u)", inWindow)))
         g_variant_get(
             answer.get(), "((iiii))", &bounds.x, &bounds.y, &bounds.width, &bounds.height);
     return bounds;
@@ -113,61 +92,64 @@ Rectangle AccessibleObject::bounds() const
 
 bool AccessibleObject::activate() const
 {
-    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
-        "org.a11y.atspi.Action", "DoAction", g_variant_new("(i)", 0));
     gboolean isDone = FALSE;
-    if (answer)
+    if (const auto answer = ask("org.a11y.atspi.Action", "DoAction", g_variant_new("(i)", 0)))
         g_variant_get(answer.get(), "(b)", &isDone);
     return isDone;
 }
 
+AccessibleObject::Answer AccessibleObject::ask(
+    const char* interface, const char* method, GVariant* arguments) const
+{
+    auto* answer =
+        call(accessibilityBus(), program_.c_str(), path_.c_str(), interface, method, arguments);
+    return answer ? Answer(answer, g_variant_unref) : nullptr;
+}
+
 std::string AccessibleObject::name() const
 {
-    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
-        "org.freedesktop.DBus.Properties", "Get",
-        g_variant_new("(ss)", "org.a11y.atspi.Accessible", "Name"));
-    if (!answer)
-        return {};
-    GVariant* value = nullptr;
-    g_variant_get(answer.get(), "(v)", &value);
-    std::string name = g_variant_get_string(value, nullptr);
-    g_variant_unref(value);
-    return name;
+    const auto answer =
+        ask("org.freedesktop.DBus.Properties", "Get", g_variant_new("(ss)", accessible, "Name"));
+    g_autoptr(GVariant) value = nullptr;
+    if (answer)
+        g_variant_get(answer.get(), "(v)", &value);
+    return value ? g_variant_get_string(value, nullptr) : "";
 }
 
 bool AccessibleObject::isVisible() const
 {
-    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
-        "org.a11y.atspi.Accessible", "GetState");
+    constexpr guint32 visible = 1u << 30; // number of the state in the protocol
+    const auto answer = ask(accessible, "GetState");
     if (!answer)
         return false;
-    GVariantIter* states = nullptr;
-    g_variant_get(answer.get(), "(au)", &states);
+    g_autoptr(GVariantIter) states = nullptr;
     guint32 low = 0;
+    g_variant_get(answer.get(), "(au)", &states);
     g_variant_iter_next(states, "u", &low);
-    g_variant_iter_free(states);
-    return low & (1u << visible);
+    return low & visible;
 }
 
 std::vector<AccessibleObject> AccessibleObject::children() const
 {
-    std::vector<AccessibleObject> result;
-    const auto answer = ask(accessibilityBus(), address_.program.c_str(), address_.path.c_str(),
-        "org.a11y.atspi.Accessible", "GetChildren");
+    const auto answer = ask(accessible, "GetChildren");
     if (!answer)
-        return result;
-    GVariantIter* addresses = nullptr;
+        return {};
+    std::vector<AccessibleObject> result;
+    g_autoptr(GVariantIter) addresses = nullptr;
     g_variant_get(answer.get(), "(a(so))", &addresses);
     const char *program = nullptr, *path = nullptr;
     while (g_variant_iter_next(addresses, "(&s&o)", &program, &path))
-        result.push_back(AccessibleObject({program, path}));
-    g_variant_iter_free(addresses);
+        result.push_back(AccessibleObject(program, path));
     return result;
 }
 
 int AccessibleObject::count(const std::string& wanted) const
 {
-    int sum = role() == wanted && isVisible() ? 1 : 0;
+    const auto answer = ask(accessible, "GetRoleName");
+    const char* role = "";
+    if (answer)
+        g_variant_get(answer.get(), "(&s)", &role);
+    int sum = role == wanted && isVisible() ? 1 : 0;
     for (const auto& child : children())
         sum += child.count(wanted);
     return sum;

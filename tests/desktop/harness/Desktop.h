@@ -1,13 +1,52 @@
 #pragma once
 
-#include "Picture.h"
-#include "Rectangle.h"
-
+#include <cstdint>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
 namespace desktop {
+
+// In pixels from the upper left corner of the screen.
+struct Point {
+    int x = 0;
+    int y = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
+// In pixels likewise, where nothing else is said.
+struct Rectangle {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const Rectangle&) const = default;
+
+    friend std::ostream& operator<<(std::ostream& stream, const Rectangle& rectangle)
+    {
+        return stream << rectangle.width << "x" << rectangle.height << " at (" << rectangle.x
+                      << ", " << rectangle.y << ")";
+    }
+};
+
+// What a window shows at one moment: rows from the top, each pixel as 0xRRGGBB.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels;
+
+    bool operator==(const Picture&) const = default;
+
+    // About which part of what is below the title bar, 0 to 1, has the commonest colour. Near 1
+    // means that there is next to nothing to see.
+    double uniformity() const;
+
+    // False when the file cannot be written.
+    bool writePNG(const std::string& path) const;
+};
 
 // A top-level window of any program, seen from outside as the window manager sees it. Everything is
 // absent or empty once it has gone.

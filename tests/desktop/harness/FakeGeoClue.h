@@ -5,7 +5,7 @@
 namespace desktop {
 
 // The location service on the private system bus.
-class FakeGeoClue final : public FakeService {
+class FakeGeoClue {
 public:
     enum class Manner {
         grants, // tells all its places, one after the other
@@ -22,22 +22,15 @@ public:
     };
 
     explicit FakeGeoClue(Manner manner, std::vector<Place> places = {});
-    ~FakeGeoClue() override { stop(); }
 
-    // The computer has moved, or is known better.
-    void tell(const Place& place);
+    const FakeService& service() const { return service_; }
 
 private:
-    void registerObjects() override;
-    void handle(
-        const std::string& method, GVariant* arguments, GDBusMethodInvocation* invocation) override;
-    GVariant* property(const std::string& path, const std::string& name) override;
-    void start(GDBusMethodInvocation* invocation);
-    void announce(const Place& place);
+    void start(const FakeService::Call& call);
 
     const Manner manner_;
     const std::vector<Place> places_;
-    std::vector<Place> told_;
+    FakeService service_; // last, as its methods use the others
 };
 
 } // namespace desktop

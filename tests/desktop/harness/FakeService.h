@@ -2,62 +2,59 @@
 
 #include <functional>
 #include <gio/gio.h>
-#include <mutex>
+#include <map>
+#include <memory>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace desktop {
 
-// A service of the desktop on one of the private buses, for as long as it lives. It runs in a
-// thread of its own, so that it answers whatever the test is busy with.
+// A service of the desktop on one of the private buses, for as long as it lives: a table of its
+// methods. It answers in a thread of its own, whatever the test is busy with.
 class FakeService {
 public:
-    virtual ~FakeService();
+    // What some program asks for. It waits in vain when a method neither answers nor refuses.
+    struct Call {
+        std::string sender; // its name on the bus
+        std::string path;
+        std::string method;
+        std::shared_ptr<GVariant> arguments; // a tuple; null where there are no arguments
+        std::shared_ptr<GDBusMessage> message;
+        GDBusConnection* bus; // belongs to the service
+
+        // Takes a floating tuple; null for an answer without values.
+        void answer(GVariant* values = nullptr) const;
+        void refuse(const char* error, const char* reason) const;
+        // The method with its arguments, as GVariant prints them.
+        std::string text() const;
+    };
+    using Methods = std::map<std::string, std::function<void(const Call&)>>;
+
+    // Throws std::runtime_error when there is no such bus or the name is taken. Methods with the
+    // same name are one, whatever their interface; each runs in the thread.
+    FakeService(GBusType bus, const char* name, Methods methods);
+    // No method runs after it.
+    ~FakeService();
 
     FakeService(const FakeService&) = delete;
     FakeService& operator=(const FakeService&) = delete;
 
-    // What it was asked for, oldest first, each with the arguments that matter.
-    std::vector<std::string> calls() const;
+    // A method that always answers with these values: a tuple as GVariant prints it.
+    static std::function<void(const Call&)> answering(const std::string& values = "()");
 
-protected:
-    // Names the bus by the variable of the environment that holds its address.
-    FakeService(const char* busVariable, std::string name);
+    // The calls of its methods, oldest first.
+    std::vector<Call> calls() const;
+    // Whether there come to be so many calls with `part` in their text.
+    [[nodiscard]] bool isCalled(const std::string& part, int times = 1) const;
 
-    // Connects and takes the name. To be called at the end of the constructor. Throws
-    // std::runtime_error when there is no such bus or the name is taken.
-    void start();
-
-    // To be called at the beginning of the destructor. No method below runs after it.
-    void stop();
-
-    // All that follows is called in the thread.
-
-    virtual void registerObjects() = 0;
-    virtual void handle(const std::string& method, GVariant* arguments, GDBusMethodInvocation*) = 0;
-    virtual GVariant* property(const std::string& path, const std::string& name);
-
-    void registerObject(const std::string& path, const char* introspection);
-    void emit(const std::string& path, const std::string& interface, const std::string& signal,
-        GVariant* values);
-    void note(const std::string& call);
-
-    // Runs `task` in the thread.
-    void invoke(std::function<void()> task);
+    // Takes floating `values`, a tuple.
+    void emit(const std::string& path, const char* interface, const char* signal, GVariant* values);
 
 private:
-    void run();
+    struct State;
 
-    const std::string busVariable_;
-    const std::string name_;
-    GMainContext* context_;
-    GMainLoop* loop_;
-    GDBusConnection* connection_ = nullptr;
-    std::thread thread_;
-    std::string failure_; // why it could not start
-    mutable std::mutex mutex_; // guards the calls
-    std::vector<std::string> calls_;
+    GDBusConnection* connection_;
+    std::shared_ptr<State> state_; // the thread's too
 };
 
 } // namespace desktop

@@ -1,6 +1,6 @@
 #include "PageOnScreen.h"
 
-#include "Eventually.h"
+#include "Process.h"
 
 namespace desktop {
 

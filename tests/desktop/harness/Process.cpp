@@ -10,6 +10,7 @@
 #include <stdexcept>
 #include <sys/prctl.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 // This header of the C library does not say that it is one of C.
@@ -75,6 +76,18 @@ ProcessStatus statusOf(pid_t pid)
 }
 
 } // namespace
+
+bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds limit,
+    std::chrono::milliseconds pause)
+{
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            return false;
+        std::this_thread::sleep_for(pause);
+    }
+    return true;
+}
 
 Process::Process(const std::vector<std::string>& arguments, const Environment& changes)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Eventually.h"
-
+#include <chrono>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -10,6 +10,16 @@
 #include <vector>
 
 namespace desktop {
+
+// Longer than anything on a busy machine may take: tests end early when a condition comes true, and
+// never wait for a fixed time.
+constexpr auto generousLimit = std::chrono::seconds(30);
+
+// Waits until `condition`, which is looked at with pauses in between, holds and returns true; or
+// false when it has not held before `limit` is over.
+[[nodiscard]] bool eventually(const std::function<bool()>& condition,
+    std::chrono::milliseconds limit = generousLimit,
+    std::chrono::milliseconds pause = std::chrono::milliseconds(20));
 
 // A program that runs beside the test, and no longer than this object.
 class Process {

@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-// The demo's page of reports, which the active tab shows, as somebody with a mouse uses it.
+// The demo's page of reports, which the active tab shows, as somebody with a keyboard uses it.
 class ReportsPage {
 public:
     // Both wait for the page and its buttons. False when these do not come.

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-// The application's settings file in the private home, read and written past the application.
+// What the application keeps in the private home, read and written past the application.
 class SavedSettings {
 public:
     static std::filesystem::path path();
@@ -17,6 +17,9 @@ public:
 
     // What the user has answered to the application's questions, so that it asks them no more.
     static void writePermissions(const nlohmann::json& permissions);
+    // Makes the service take whoever starts the application next for this person. Only for while
+    // the application does not run.
+    static void signIn(const std::string& firstname, const std::string& lastname);
 };
 
 } // namespace desktop

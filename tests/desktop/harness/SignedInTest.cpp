@@ -1,13 +1,12 @@
 #include "SignedInTest.h"
 
-#include "SavedCookies.h"
 #include "SavedSettings.h"
 
 namespace desktop {
 
 void SignedInTest::saveTabs(const Routes& routes, int active)
 {
-    SavedCookies::signIn("Robin", "Alder");
+    SavedSettings::signIn("Robin", "Alder");
     SavedSettings::write({{"vl.open.routes", routes}, {"vl.open.routes.active", active},
         {"vl.onboarding.shown", true}});
     SavedSettings::writePermissions({{"notificationsAllowed", false}});

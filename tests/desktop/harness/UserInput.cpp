@@ -60,10 +60,13 @@ void UserInput::releaseButton()
 void UserInput::slide(Point from, Point to)
 {
     constexpr int steps = 20;
+    std::vector<std::string> moves;
     for (int step = 1; step <= steps; ++step) {
-        run({"mousemove", std::to_string(from.x + (to.x - from.x) * step / steps),
-            std::to_string(from.y + (to.y - from.y) * step / steps), "sleep", "0.02"});
+        moves.insert(moves.end(),
+            {"mousemove", std::to_string(from.x + (to.x - from.x) * step / steps),
+                std::to_string(from.y + (to.y - from.y) * step / steps), "sleep", "0.02"});
     }
+    run(moves);
 }
 
 void UserInput::drag(Point from, Point to)
@@ -72,6 +75,43 @@ void UserInput::drag(Point from, Point to)
     holdButton();
     slide(from, to);
     releaseButton();
+}
+
+bool UserInput::dragFiles(const std::vector<std::filesystem::path>& files, Point target)
+{
+    constexpr int shakes = 10; // over the target, which may ask for the names meanwhile
+    std::vector<std::string> command = {VELMARO_DRAG_SOURCE};
+    command.insert(command.end(), files.begin(), files.end());
+    Process source(command);
+    const auto tells = [&](const char* event) {
+        return source.output().find(event) != std::string::npos;
+    };
+
+    std::optional<DesktopWindow> window;
+    const bool isThere = eventually([&] {
+        window = Desktop::window("Drag source");
+        return window && tells("ready");
+    });
+    if (!isThere)
+        return false;
+    const auto frame = window->frame();
+    const Point start = {frame.x + frame.width / 2, frame.y + frame.height - 40};
+
+    movePointer(start.x, start.y);
+    holdButton();
+    const bool hasBegun = eventually([&, distance = 0]() mutable {
+        movePointer(start.x + distance, start.y);
+        distance = (distance + 5) % 40;
+        return tells("begun");
+    });
+    slide(start, target);
+    int shake = 0;
+    const bool isAccepted = hasBegun && eventually([&] {
+        movePointer(target.x + shake % 2, target.y);
+        return ++shake >= shakes && tells("accepted");
+    });
+    releaseButton();
+    return isAccepted && eventually([&] { return tells("ended"); });
 }
 
 } // namespace desktop

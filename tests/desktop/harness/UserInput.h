@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Rectangle.h"
+#include "Desktop.h"
 
-#include <string>
+#include <filesystem>
 
 namespace desktop {
 
@@ -34,6 +34,10 @@ public:
 
     // Presses the left button at one place of the screen and lets it go at another one.
     static void drag(Point from, Point to);
+    // Drags files out of another program's window and drops them there. Returns when that program
+    // has been told how it ended; false when nobody there would take them.
+    [[nodiscard]] static bool dragFiles(
+        const std::vector<std::filesystem::path>& files, Point target);
 
     static constexpr int leftButton = 1;
     static constexpr int middleButton = 2;

@@ -1,8 +1,8 @@
 // Takes a picture of the application's window once its page is complete on screen.
 
 #include "Desktop.h"
-#include "Eventually.h"
 #include "PageOnScreen.h"
+#include "Process.h"
 
 #include <cstdio>
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "webview/Certificates.h"
-
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <libsoup/soup.h>
 #include <map>
+#include <memory>
 #include <string>
 #include <sys/socket.h>
 #include <vector>
@@ -26,6 +25,7 @@ public:
 
     struct Request {
         std::string path;
+        std::string query; // decoded, each item as "name=value;" in the order of the names
         std::map<std::string, std::string> headers; // by lower-case name
     };
 
@@ -51,6 +51,7 @@ public:
     // The port refuses connections until `restart`.
     void stop()
     {
+        silent_.clear();
         if (server_)
             soup_server_disconnect(server_);
         g_clear_object(&server_);
@@ -58,12 +59,19 @@ public:
 
     void restart() { start(port_); }
 
+    // Answers that request at last, which has met a silent page, with what its page is by now.
+    void answerLate(std::size_t request)
+    {
+        auto* message = silent_.at(request).get();
+        answer(message, requests.at(request).path, request);
+        soup_server_message_unpause(message);
+    }
+
 private:
     void start(int port)
     {
-        const std::string pem = std::string(serverCertificate) + serverKey;
         g_autoptr(GTlsCertificate) certificate =
-            g_tls_certificate_new_from_pem(pem.data(), static_cast<gssize>(pem.size()), nullptr);
+            g_tls_certificate_new_from_file(VELMARO_CERTIFICATES "/server.pem", nullptr);
         server_ = soup_server_new("tls-certificate", certificate, nullptr);
         soup_server_add_handler(server_, nullptr, &PageServer::handle, this, nullptr);
         g_autoptr(GError) error = nullptr;
@@ -77,17 +85,20 @@ private:
     }
 
     static void handle(
-        SoupServer*, SoupServerMessage* message, const char* path, GHashTable*, gpointer data)
+        SoupServer*, SoupServerMessage* message, const char* path, GHashTable* query, gpointer data)
     {
-        static_cast<PageServer*>(data)->answer(message, path);
+        auto& self = *static_cast<PageServer*>(data);
+        self.requests.push_back({path, textOf(query), headersOf(message)});
+        self.answer(message, path, self.requests.size() - 1);
     }
 
-    void answer(SoupServerMessage* message, const std::string& path)
+    void answer(SoupServerMessage* message, const std::string& path, std::size_t request)
     {
-        requests.push_back({path, headersOf(message)});
         const auto found = pages.find(path);
         const Page page = found == pages.end() ? Page{.body = "", .status = 404} : found->second;
         if (page.isSilent) {
+            silent_[request] = {
+                static_cast<SoupServerMessage*>(g_object_ref(message)), g_object_unref};
             soup_server_message_pause(message);
             return;
         }
@@ -109,7 +120,7 @@ private:
         }
 
         const auto tag = page.headers.find("ETag");
-        const auto& known = requests.back().headers;
+        const auto& known = requests.at(request).headers;
         if (tag != page.headers.end() && known.contains("if-none-match")
             && known.at("if-none-match") == tag->second) {
             soup_server_message_set_status(message, 304, nullptr);
@@ -130,6 +141,21 @@ private:
         g_socket_close(socket, nullptr);
     }
 
+    static std::string textOf(GHashTable* query)
+    {
+        std::map<std::string, std::string> items;
+        GHashTableIter iterator;
+        gpointer name = nullptr, value = nullptr;
+        if (query)
+            g_hash_table_iter_init(&iterator, query);
+        while (query && g_hash_table_iter_next(&iterator, &name, &value))
+            items[static_cast<const char*>(name)] = static_cast<const char*>(value);
+        std::string text;
+        for (const auto& [key, item] : items)
+            text += key + "=" + item + ";";
+        return text;
+    }
+
     static std::map<std::string, std::string> headersOf(SoupServerMessage* message)
     {
         std::map<std::string, std::string> headers;
@@ -145,6 +171,8 @@ private:
 
     SoupServer* server_ = nullptr;
     int port_ = 0;
+    std::map<std::size_t, std::shared_ptr<SoupServerMessage>>
+        silent_; // by the number of the request
 };
 
 } // namespace desktop

@@ -72,15 +72,15 @@ protected:
     }
 
     // An engine on the same folders as the one before, which is gone with its view.
-    void startEngine() { startEngine(serverCertificate); }
-    void startEngine(const std::string& trustedCertificate)
+    void startEngine() { startEngine("server.pem"); }
+    void startEngine(const std::string& trusted)
     {
         closeView();
         engine.reset();
         const gtk::StandardPaths paths{
             .config = folder_ / "config", .data = folder_ / "data", .cache = folder_ / "cache"};
         const auto trust = std::make_shared<gtk::HostTrust>(
-            std::vector<std::string>{"localhost"}, writeFile("trusted.pem", trustedCertificate));
+            std::vector<std::string>{"localhost"}, VELMARO_CERTIFICATES "/" + trusted);
         engine = std::make_unique<gtk::WebEngine>(paths, trust, false);
         engine->setPatience(patience);
     }
