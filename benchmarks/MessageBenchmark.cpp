@@ -212,7 +212,7 @@ int main()
     auto& service = velmaro::Service::current();
     const auto certificate = demo.clientEnvironment().at("VELMARO_SERVICE_CERTIFICATE");
     if (!service.setServiceOrigin(demo.origin())
-        || platform.trust({{service.serviceHost()}, certificate}) || !gtk_init_check())
+        || platform.trust({service.serviceHost()}, certificate) || !gtk_init_check())
         return EXIT_FAILURE;
     Gtk::init_gtkmm_internals();
 

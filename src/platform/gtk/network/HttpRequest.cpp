@@ -23,7 +23,8 @@ HttpRequest::HttpRequest(SoupSession* session, Options options, Handlers handler
     , message_(soup_message_new(SOUP_METHOD_GET, options_.address.c_str()))
 {
     if (!isAllowed()) {
-        Glib::signal_idle().connect_once(
+        const auto context = Glib::MainContext::get_thread_default();
+        context->signal_idle().connect_once(
             lifetime_.guard([this] { finish(Failure{Failure::Reason::badAddress}); }));
         return;
     }

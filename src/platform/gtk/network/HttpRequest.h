@@ -14,7 +14,7 @@
 namespace gtk {
 
 // Asks a server for something over HTTP, following redirects, and hands the answer on piece by
-// piece. Everything happens in the thread's main context.
+// piece. The handlers are called in the thread's main context.
 class HttpRequest {
 public:
     struct Options {
