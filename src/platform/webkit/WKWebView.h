@@ -20,9 +20,8 @@ class NSDraggingDestination;
 class WKNavigationDelegate;
 class WKUIDelegate;
 
-// A view that shows web pages, one after the other, and keeps a list of them. Each has its own
-// content process, which may die without harm: see `docs/web-view.md` for what the view does then,
-// and when a load fails.
+// A view that shows web pages, one after the other, and keeps a list of them. Its content process
+// may die without harm: see `docs/web-view.md` for what the view does then, and when a load fails.
 //
 // The platform makes it for its owner: a tree of views, or a caller that shows it nowhere. Main
 // thread only. Nothing here waits for the content process.
