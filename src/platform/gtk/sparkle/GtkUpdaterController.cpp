@@ -32,8 +32,8 @@ GtkUpdaterController::GtkUpdaterController(UpdateOptions options, Services servi
     : options_(std::move(options))
     , services_(services)
     , trust_(options_.certificate)
-    , window_([this] { return services_.store.boolean(checksAutomaticallyKey); },
-          [this](bool isAllowed) { setChecksAutomatically(isAllowed); })
+    , window_({[this] { return services_.store.boolean(checksAutomaticallyKey); },
+          [this](bool isAllowed) { setChecksAutomatically(isAllowed); }})
 {
 }
 
