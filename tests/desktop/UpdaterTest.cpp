@@ -9,6 +9,7 @@
 #include "platform/foundation/URL.h"
 #include "platform/gtk/foundation/GtkDispatchQueue.h"
 #include "platform/gtk/foundation/GtkUserDefaults.h"
+#include "platform/gtk/GtkPlatform.h"
 
 #include <ctime>
 #include <fstream>
@@ -132,7 +133,9 @@ protected:
     bool isSandboxed = false;
     std::string publicKey;
     DemoServiceProcess service{{.isHostile = true}};
-    gtk::GtkDispatchQueue queue;
+    gtk::GtkPlatform platform{
+        {.identifier = "example.velmaro.Test", .address = std::nullopt, .geocoder = ""}};
+    gtk::GtkDispatchQueue& queue = platform.mainQueue();
     gtk::GtkUserDefaults settings{
         home / "updates.json", queue, [](const auto& line) { ADD_FAILURE() << line; }};
     Workspace workspace;

@@ -21,7 +21,7 @@
 #include "platform/gtk/network/HostTrust.h"
 #include "platform/gtk/panels/AlertPresenter.h"
 #include "platform/gtk/panels/OpenPanel.h"
-#include "platform/gtk/panels/PermissionsPanel.h"
+#include "platform/gtk/panels/PermissionsView.h"
 #include "platform/gtk/panels/SharePanel.h"
 #include "platform/gtk/renderer/RendererSafeguard.h"
 #include "platform/gtk/sparkle/GtkUpdaterController.h"
@@ -37,6 +37,7 @@
 #include "platform/gtk/webkit/WebsiteData.h"
 #include "platform/gtk/windows/GtkScreen.h"
 #include "platform/gtk/windows/OffscreenWindow.h"
+#include "platform/ui/Views.h"
 
 #include <cassert>
 #include <future>
@@ -395,11 +396,18 @@ void GtkPlatform::showPermissions()
         };
         return alert.runModal([](int) {});
     }
-    permissionsPanel_ = std::make_unique<PermissionsPanel>(std::vector<PermissionsPanel::Entry>{
-        {"Use your location", GtkLocationManager::explanation, locationServices().permission()},
-        {"Show notifications", GtkUserNotificationCenter::explanation,
-            *notificationCenter().permission()},
-    });
+    const auto entry = [](const char* title, const char* explanation, Permission& permission) {
+        return PermissionsView::Entry{title, explanation,
+            {[&permission] { return permission.isAllowed().value_or(false); },
+                [&permission](bool isAllowed) { permission.decide(isAllowed); }}};
+    };
+    permissionsPanel_ = std::make_unique<Panel>(Panel::Options{.title = "Permissions"},
+        PermissionsView{{
+            entry("Use your location", GtkLocationManager::explanation,
+                locationServices().permission()),
+            entry("Show notifications", GtkUserNotificationCenter::explanation,
+                *notificationCenter().permission()),
+        }});
 }
 
 } // namespace gtk

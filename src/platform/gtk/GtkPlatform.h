@@ -16,7 +16,7 @@ class GeocodingService;
 class HostTrust;
 class LocationServices;
 class GtkProcessInfo;
-class PermissionsPanel;
+class Panel;
 class GtkBundle;
 class RendererSafeguard;
 class GtkURLCache;
@@ -126,7 +126,7 @@ private:
     std::unique_ptr<GtkUserDefaults> permissions_; // on first use, like the two below
     std::unique_ptr<LocationServices> locationServices_;
     std::unique_ptr<GtkUserNotificationCenter> notificationCenter_;
-    std::unique_ptr<PermissionsPanel> permissionsPanel_; // the one shown last
+    std::unique_ptr<Panel> permissionsPanel_; // the one shown last
     platform::NotificationCenter::Observer termination_; // with notifications still shown
     std::unique_ptr<GtkURLCache> responseCache_; // made on first use, like the service below
     std::shared_ptr<GeocodingService> geocodingService_;

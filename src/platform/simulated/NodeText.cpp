@@ -152,11 +152,25 @@ std::string shapeText(const ui::ShapeOptions& options)
 
 std::string buttonText(const ui::ButtonOptions& options)
 {
-    Line line("button \"" + options.help + "\"");
+    Line line("button \"" + (options.help.empty() ? options.title : options.help) + "\"");
     if (!options.isEnabled)
         line.add("disabled");
     if (options.isTinted)
         line.add("tinted");
+    return line.text();
+}
+
+std::string toggleText(const ui::ToggleNode& node)
+{
+    return "toggle \"" + node.title + (node.isOn.get() ? "\" on" : "\" off");
+}
+
+std::string progressBarText(const ui::ProgressBarNode& node)
+{
+    Line line("progressBar");
+    line.addPresent("fraction", node.fraction);
+    if (!node.options.text.empty())
+        line.add(("\"" + node.options.text + "\"").c_str());
     return line.text();
 }
 
@@ -207,6 +221,14 @@ std::string nodeText(const ui::Node& node)
         return shapeText(static_cast<const ui::RoundedRectangleNode&>(node).options);
     case ui::Kind::button:
         return buttonText(static_cast<const ui::ButtonNode&>(node).options);
+    case ui::Kind::toggle:
+        return toggleText(static_cast<const ui::ToggleNode&>(node));
+    case ui::Kind::textArea:
+        return "textArea \"" + static_cast<const ui::TextAreaNode&>(node).text + "\"";
+    case ui::Kind::icon:
+        return Line("icon " + static_cast<const ui::IconNode&>(node).name)
+            .add("size", static_cast<const ui::IconNode&>(node).options.size)
+            .text();
     case ui::Kind::textField:
         return "textField \"" + static_cast<const ui::TextFieldNode&>(node).text.get() + "\"";
     case ui::Kind::scrollArea:
@@ -220,9 +242,7 @@ std::string nodeText(const ui::Node& node)
     case ui::Kind::applicationIcon:
         return "applicationIcon";
     case ui::Kind::progressBar:
-        return Line("progressBar")
-            .add("fraction", static_cast<const ui::ProgressBarNode&>(node).fraction)
-            .text();
+        return progressBarText(static_cast<const ui::ProgressBarNode&>(node));
     }
     return "unknown";
 }

@@ -6,6 +6,9 @@ namespace ui {
 struct Font {
     enum class Weight { regular, medium, semibold, bold };
 
+    // The size that the desktop gives its own dialogs, which follows the user's setting.
+    static constexpr double desktopSize = 0;
+
     double size = 13; // points
     Weight weight = Weight::regular;
 

@@ -22,11 +22,16 @@ struct LayersOptions {
     Alignment alignment = Alignment::center;
 };
 
+// Where a line that is too long is cut.
+enum class Truncation { tail, middle };
+
 struct TextOptions {
     Font font = {};
     Color color = Color::label;
     bool wraps = false; // onto as many lines as needed; else one line, cut at its end
     Alignment alignment = Alignment::center; // of the lines, in the width that the text is given
+    Truncation truncation = Truncation::tail; // of one line
+    int lineLength = 0; // about how many characters a line has at most; 0: as many as there is room
 
     bool operator==(const TextOptions&) const = default;
 };
@@ -45,6 +50,13 @@ struct SymbolOptions {
     Shadow shadow = {}; // of the symbol's own outline
 
     bool operator==(const SymbolOptions&) const = default;
+};
+
+struct IconOptions {
+    int size = 16;
+    bool isDimmed = false;
+
+    bool operator==(const IconOptions&) const = default;
 };
 
 struct ApplicationIconOptions {
@@ -71,6 +83,12 @@ struct ShapeOptions {
     bool operator==(const ShapeOptions&) const = default;
 };
 
+struct ProgressBarOptions {
+    bool isLine = true; // thin, and at the edge of something; else a bar as the desktop has them
+    std::string text = {}; // what the bar says
+    std::string name = "Loading"; // of what goes on, for screen readers
+};
+
 enum class ButtonStyle {
     plain, // its label and nothing else
     borderless,
@@ -87,9 +105,11 @@ enum class KeyboardShortcut {
 struct ButtonOptions {
     ButtonStyle style = ButtonStyle::bordered;
     std::string help = {}; // tooltip and accessible name
+    std::string title = {}; // what a button without a label shows; else the name without a help
     bool isEnabled = true;
     bool isTinted = false; // with the accent colour, as a sign of being on
     std::optional<KeyboardShortcut> shortcut = {};
+    bool focusesWhenShown = false; // takes the keyboard when it appears
 };
 
 // The modifier keys that are held down with another key.

@@ -100,6 +100,19 @@ struct SymbolNode : Node {
     SymbolOptions options;
 };
 
+// A picture of the desktop's.
+struct IconNode : Node {
+    IconNode(std::string name, IconOptions options)
+        : Node(Kind::icon)
+        , name(std::move(name))
+        , options(options)
+    {
+    }
+
+    std::string name;
+    IconOptions options;
+};
+
 struct ApplicationIconNode : Node {
     explicit ApplicationIconNode(ApplicationIconOptions options)
         : Node(Kind::applicationIcon)
@@ -111,13 +124,15 @@ struct ApplicationIconNode : Node {
 };
 
 struct ProgressBarNode : Node {
-    explicit ProgressBarNode(double fraction)
+    ProgressBarNode(std::optional<double> fraction, ProgressBarOptions options)
         : Node(Kind::progressBar)
         , fraction(fraction)
+        , options(std::move(options))
     {
     }
 
-    double fraction; // 0 to 1
+    std::optional<double> fraction; // 0 to 1; absent: there is no telling
+    ProgressBarOptions options;
 };
 
 // A small turning wheel.
@@ -158,8 +173,9 @@ struct RoundedRectangleNode : Node {
 };
 
 struct ButtonNode : Node {
-    ButtonNode(ButtonOptions options, View label, std::function<void()> action)
-        : Node(Kind::button, {std::move(label)})
+    // `label` is one view, or absent where the button shows its title.
+    ButtonNode(ButtonOptions options, std::vector<View> label, std::function<void()> action)
+        : Node(Kind::button, std::move(label))
         , options(std::move(options))
         , action(std::move(action))
     {
@@ -167,6 +183,30 @@ struct ButtonNode : Node {
 
     ButtonOptions options;
     std::function<void()> action;
+};
+
+struct ToggleNode : Node {
+    ToggleNode(std::string title, Binding<bool> isOn)
+        : Node(Kind::toggle)
+        , title(std::move(title))
+        , isOn(std::move(isOn))
+    {
+    }
+
+    std::string title;
+    Binding<bool> isOn;
+};
+
+struct TextAreaNode : Node {
+    TextAreaNode(std::string name, std::string text)
+        : Node(Kind::textArea)
+        , name(std::move(name))
+        , text(std::move(text))
+    {
+    }
+
+    std::string name; // for screen readers
+    std::string text;
 };
 
 struct TextFieldNode : Node {

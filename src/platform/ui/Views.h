@@ -70,6 +70,15 @@ struct Symbol : View {
     }
 };
 
+// A picture of the desktop's: one of its icon theme by its name, or whatever else it knows by a
+// text, such as a program's own. A text that it does not know leaves the place empty.
+struct Icon : View {
+    explicit Icon(std::string name, IconOptions options = {})
+        : View(std::make_shared<IconNode>(std::move(name), options))
+    {
+    }
+};
+
 // The application's own picture, scaled to fit.
 struct ApplicationIcon : View {
     explicit ApplicationIcon(ApplicationIconOptions options = {})
@@ -78,10 +87,11 @@ struct ApplicationIcon : View {
     }
 };
 
-// A thin line that is filled to `fraction`, from 0 to 1.
+// A line or bar that is filled to `fraction`, from 0 to 1. Without one it shows that something goes
+// on, and a step of it at each redraw.
 struct ProgressBar : View {
-    explicit ProgressBar(double fraction)
-        : View(std::make_shared<ProgressBarNode>(fraction))
+    explicit ProgressBar(std::optional<double> fraction, ProgressBarOptions options = {})
+        : View(std::make_shared<ProgressBarNode>(fraction, std::move(options)))
     {
     }
 };
@@ -120,8 +130,31 @@ struct RoundedRectangle : View {
 
 struct Button : View {
     Button(ButtonOptions options, View label, std::function<void()> action)
-        : View(
-            std::make_shared<ButtonNode>(std::move(options), std::move(label), std::move(action)))
+        : View(std::make_shared<ButtonNode>(
+            std::move(options), std::vector{std::move(label)}, std::move(action)))
+    {
+    }
+
+    // A button as the desktop's dialogs have them, which shows its title.
+    Button(ButtonOptions options, std::function<void()> action)
+        : View(std::make_shared<ButtonNode>(
+            std::move(options), std::vector<View>(), std::move(action)))
+    {
+    }
+};
+
+// A box with a title, to be checked and unchecked.
+struct Toggle : View {
+    Toggle(std::string title, Binding<bool> isOn)
+        : View(std::make_shared<ToggleNode>(std::move(title), std::move(isOn)))
+    {
+    }
+};
+
+// A text of any length to be read, in a frame where it scrolls. Screen readers call it `name`.
+struct TextArea : View {
+    TextArea(std::string name, std::string text)
+        : View(std::make_shared<TextAreaNode>(std::move(name), std::move(text)))
     {
     }
 };
@@ -150,7 +183,7 @@ View ForEach(const Elements& elements, Key key, Content content)
 {
     auto sequence = std::make_shared<SequenceNode>();
     for (const auto& element : elements) {
-        sequence->keys.push_back(key(element));
+        sequence->keys.push_back(std::invoke(key, element));
         sequence->children.push_back(View(content(element)));
     }
     return View(std::move(sequence));

@@ -35,11 +35,12 @@ struct ChangingStage : Stage {
     simulated::SimulatedWindow& window = show(Screen{screen});
 };
 
-// Presses the button that says what `help` says; false when there is none.
+// Presses the button that has this help text, or else this title; false when there is none.
 inline bool press(const simulated::SimulatedWidget& widget, const std::string& help)
 {
     for (const auto* button : widget.findAll<ui::ButtonNode>()) {
-        if (button->node<ui::ButtonNode>()->options.help == help) {
+        const auto& options = button->node<ui::ButtonNode>()->options;
+        if ((options.help.empty() ? options.title : options.help) == help) {
             button->node<ui::ButtonNode>()->action();
             return true;
         }

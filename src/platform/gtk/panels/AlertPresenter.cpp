@@ -1,10 +1,10 @@
 #include "platform/gtk/panels/AlertPresenter.h"
 
+#include "platform/gtk/panels/Panel.h"
 #include "platform/gtk/ui/WidgetStyle.h"
 
 #include <algorithm>
 #include <glibmm/main.h>
-#include <gtkmm/application.h>
 #include <gtkmm/image.h>
 #include <gtkmm/messagedialog.h>
 
@@ -58,13 +58,6 @@ void addIcon(Gtk::MessageDialog& dialog, platform::NSAlert::Style style)
     icon.set_pixel_size(iconSize);
     icon.set_margin_top(iconMargin);
     dialog.get_message_area()->prepend(icon);
-}
-
-Gtk::Window* activeWindow()
-{
-    const auto application =
-        std::dynamic_pointer_cast<Gtk::Application>(Gio::Application::get_default());
-    return application ? application->get_active_window() : nullptr;
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #include "platform/gtk/panels/OpenPanel.h"
 
+#include "platform/gtk/panels/Panel.h"
+
 #include <glibmm/main.h>
-#include <gtkmm/application.h>
 #include <gtkmm/dialog.h>
 #include <gtkmm/filechoosernative.h>
 
@@ -21,13 +22,6 @@ std::vector<platform::URL> filesOf(const Gtk::FileChooserNative& chooser)
             files.push_back(platform::URL::fileURL(path));
     }
     return files;
-}
-
-Gtk::Window* activeWindow()
-{
-    const auto application =
-        std::dynamic_pointer_cast<Gtk::Application>(Gio::Application::get_default());
-    return application ? application->get_active_window() : nullptr;
 }
 
 } // namespace

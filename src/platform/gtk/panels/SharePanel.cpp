@@ -1,26 +1,19 @@
 #include "platform/gtk/panels/SharePanel.h"
 
 #include "platform/gtk/desktop/OutgoingMail.h"
-#include "platform/gtk/panels/Panel.h"
-#include "platform/gtk/ui/WidgetStyle.h"
+#include "platform/gtk/panels/ShareView.h"
 #include "platform/Platform.h"
+#include "platform/ui/Views.h"
 
 #include <gdkmm/applaunchcontext.h>
 #include <gdkmm/clipboard.h>
 #include <gdkmm/display.h>
 #include <giomm/contenttype.h>
-#include <giomm/themedicon.h>
-#include <gtkmm/button.h>
-#include <gtkmm/image.h>
-#include <gtkmm/label.h>
-#include <gtkmm/separator.h>
 
 namespace gtk {
 
 namespace {
 
-constexpr int width = 340;
-constexpr int margin = 12;
 constexpr std::size_t mostPrograms = 8;
 
 std::vector<Glib::RefPtr<Gio::AppInfo>> programsFor(const Gio::File& file)
@@ -63,62 +56,28 @@ SharePanel::SharePanel(const std::vector<platform::URL>& files)
         if (file.isFileURL())
             files_.push_back(Gio::File::create_for_path(file.path()));
     }
-    if (files_.empty())
-        return;
-    fill();
-
-    window_.set_default_size(width, -1);
-    presentPanel(window_, "Share");
+    if (!files_.empty())
+        panel_.emplace(Panel::Options{.title = "Share"}, content());
 }
 
-void SharePanel::fill()
+ui::View SharePanel::content()
 {
-    entries_.set_margin(margin);
-    addHeading(files_.size() == 1 ? files_.front()->get_basename()
-                                  : std::to_string(files_.size()) + " files");
-
-    for (const auto& program : programsFor(*files_.front()))
-        addEntry(program->get_icon(), "Open with " + program->get_display_name(),
-            [this, program] { open(program); });
-    entries_.append(*Gtk::make_managed<Gtk::Separator>());
-    addEntry(Gio::ThemedIcon::create("mail-send-symbolic"), "Send by E-Mail",
-        [this] { sendByMail(files_); });
-    addEntry(Gio::ThemedIcon::create("edit-copy-symbolic"), "Copy File", [this] { copy(); });
-    window_.set_child(entries_);
-}
-
-void SharePanel::addHeading(const std::string& text)
-{
-    auto& label = *Gtk::make_managed<Gtk::Label>(text);
-    label.add_css_class("heading");
-    label.set_ellipsize(Pango::EllipsizeMode::MIDDLE);
-    label.set_max_width_chars(36);
-    label.set_margin_bottom(margin);
-    entries_.append(label);
-}
-
-void SharePanel::addEntry(
-    const Glib::RefPtr<const Gio::Icon>& icon, const std::string& text, std::function<void()> act)
-{
-    auto& content = *Gtk::make_managed<Gtk::Box>();
-    content.set_spacing(margin);
-    auto& image = *Gtk::make_managed<Gtk::Image>();
-    if (icon)
-        image.set(icon);
-    auto& label = *Gtk::make_managed<Gtk::Label>(text, Gtk::Align::START);
-    label.set_ellipsize(Pango::EllipsizeMode::END);
-    content.append(image);
-    content.append(label);
-
-    auto& button = *Gtk::make_managed<Gtk::Button>();
-    button.set_child(content);
-    button.set_has_frame(false);
-    setAccessibleName(button, text);
-    button.signal_clicked().connect([this, act = std::move(act)] {
-        window_.close();
-        act();
-    });
-    entries_.append(button);
+    std::vector<std::string> names;
+    for (const auto& file : files_)
+        names.push_back(file->get_basename());
+    std::vector<ShareView::Program> programs;
+    for (const auto& program : programsFor(*files_.front())) {
+        const auto icon = program->get_icon();
+        programs.push_back({program->get_display_name(), icon ? icon->to_string() : "",
+            [this, program] { open(program); }});
+    }
+    return ShareView{
+        .files = std::move(names),
+        .programs = std::move(programs),
+        .sendByMail = [this] { sendByMail(files_); },
+        .copy = [this] { copy(); },
+        .dismiss = [this] { panel_->hide(); },
+    };
 }
 
 void SharePanel::open(const Glib::RefPtr<Gio::AppInfo>& program)
@@ -133,7 +92,7 @@ void SharePanel::open(const Glib::RefPtr<Gio::AppInfo>& program)
 void SharePanel::copy()
 {
     auto* content = clipboardContent(files_);
-    gdk_clipboard_set_content(window_.get_display()->get_clipboard()->gobj(), content);
+    gdk_clipboard_set_content(Gdk::Display::get_default()->get_clipboard()->gobj(), content);
     g_object_unref(content);
 }
 

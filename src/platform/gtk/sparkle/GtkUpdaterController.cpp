@@ -32,8 +32,8 @@ std::string inMegabytes(std::uint64_t bytes)
 GtkUpdaterController::GtkUpdaterController(Options options, Services services)
     : options_(std::move(options))
     , services_(services)
-    , window_([this] { return services_.store.boolean(checksAutomaticallyKey); },
-          [this](bool isAllowed) { setChecksAutomatically(isAllowed); })
+    , window_({[this] { return services_.store.boolean(checksAutomaticallyKey); },
+          [this](bool isAllowed) { setChecksAutomatically(isAllowed); }})
 {
 }
 

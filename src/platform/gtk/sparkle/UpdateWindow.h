@@ -1,22 +1,18 @@
 #pragma once
 
-#include "platform/gtk/sparkle/UpdatePane.h"
+#include "platform/gtk/sparkle/UpdateView.h"
 
-#include <gtkmm/box.h>
-#include <gtkmm/button.h>
-#include <gtkmm/progressbar.h>
-#include <gtkmm/window.h>
 #include <memory>
 
 namespace gtk {
 
+class Panel;
+
 // The updater's window: one pane after the other.
 class UpdateWindow {
 public:
-    // The box shows what `checksAutomatically` returns, and `setChecksAutomatically` is told when
-    // the user changes it.
-    UpdateWindow(std::function<bool()> checksAutomatically,
-        std::function<void(bool)> setChecksAutomatically);
+    // Panes that offer automatic checks show and change `checksAutomatically`.
+    explicit UpdateWindow(ui::Binding<bool> checksAutomatically);
     ~UpdateWindow();
 
     UpdateWindow(const UpdateWindow&) = delete;
@@ -29,23 +25,13 @@ public:
     void setProgress(std::optional<double> fraction, const std::string& text = {});
 
     // While it is open.
-    void bringForward() { window_->present(); }
+    void bringForward();
     void close();
-    bool isOpen() const { return pane_ != nullptr; }
+    bool isOpen() const { return model_->pane() != nullptr; }
 
 private:
-    void makeWindow();
-    void fill(Gtk::Box& column);
-    Gtk::Widget& makeNotes();
-    Gtk::Widget& makeButtons();
-    void press(const std::function<void()>& action);
-
-    std::function<bool()> checksAutomatically_;
-    std::function<void(bool)> setChecksAutomatically_;
-    std::unique_ptr<Gtk::Window> window_; // null until a pane is shown
-    std::shared_ptr<const UpdatePane> pane_; // on show; null while the window is closed
-    Gtk::ProgressBar* progress_ = nullptr; // the pane's; null where it has none
-    Gtk::Button* defaultButton_ = nullptr;
+    const std::shared_ptr<UpdateModel> model_;
+    std::unique_ptr<Panel> panel_; // the one shown last, hidden while there is no pane
 };
 
 } // namespace gtk

@@ -20,9 +20,11 @@ void setClass(Gtk::Widget& widget, const char* name, bool isSet)
         widget.remove_css_class(name);
 }
 
-guint keyOf(ui::KeyboardShortcut shortcut)
+std::vector<guint> keysOf(ui::KeyboardShortcut shortcut)
 {
-    return shortcut == ui::KeyboardShortcut::cancelAction ? GDK_KEY_Escape : GDK_KEY_Return;
+    if (shortcut == ui::KeyboardShortcut::cancelAction)
+        return {GDK_KEY_Escape};
+    return {GDK_KEY_Return, GDK_KEY_KP_Enter, GDK_KEY_ISO_Enter};
 }
 
 } // namespace
@@ -30,7 +32,10 @@ guint keyOf(ui::KeyboardShortcut shortcut)
 ButtonWidget::ButtonWidget()
 {
     area().set_layout_manager(Gtk::BinLayout::create());
-    button_.set_child(area());
+    button_.signal_map().connect([this] {
+        if (focusesWhenShown_)
+            button_.grab_focus();
+    });
     button_.signal_clicked().connect([this] {
         const auto action = action_; // which may take this widget away
         if (action)
@@ -47,21 +52,38 @@ ButtonWidget::~ButtonWidget()
 
 void ButtonWidget::apply(const ui::Node& node)
 {
-    const auto& [options, action] = std::tie(static_cast<const ui::ButtonNode&>(node).options,
-        static_cast<const ui::ButtonNode&>(node).action);
-    action_ = action;
+    const auto& button = static_cast<const ui::ButtonNode&>(node);
+    const auto& options = button.options;
+    action_ = button.action;
+    focusesWhenShown_ = options.focusesWhenShown;
 
     using enum ui::ButtonStyle;
     setClass(button_, "flat", options.style == plain || options.style == borderless);
     setClass(button_, "velmaro-plain", options.style == plain);
     setClass(button_, "suggested-action", options.style == borderedProminent || options.isTinted);
     button_.set_sensitive(options.isEnabled);
+    setNames(button);
+    setShortcut(options.shortcut);
+}
+
+void ButtonWidget::setNames(const ui::ButtonNode& button)
+{
+    const auto& options = button.options;
+    const bool showsTitle = button.children.empty();
+    if (showsTitle && std::string(button_.get_label()) != options.title)
+        button_.set_label(options.title);
+    else if (!showsTitle && !area().get_parent())
+        button_.set_child(area());
+
     if (help_ != options.help) {
         help_ = options.help;
         button_.set_tooltip_text(help_);
-        setAccessibleName(button_, help_);
     }
-    setShortcut(options.shortcut);
+    const auto& name = help_.empty() ? options.title : help_;
+    if (name_ != name) {
+        name_ = name;
+        setAccessibleName(button_, name_);
+    }
 }
 
 void ButtonWidget::setShortcut(std::optional<ui::KeyboardShortcut> shortcut)
@@ -80,8 +102,10 @@ void ButtonWidget::setShortcut(std::optional<ui::KeyboardShortcut> shortcut)
     const auto click = [this](Gtk::Widget&, const Glib::VariantBase&) {
         return isReachable(button_) && button_.activate();
     };
-    shortcuts_->add_shortcut(Gtk::Shortcut::create(
-        Gtk::KeyvalTrigger::create(keyOf(*shortcut)), Gtk::CallbackAction::create(click)));
+    for (const auto key : keysOf(*shortcut)) {
+        shortcuts_->add_shortcut(Gtk::Shortcut::create(
+            Gtk::KeyvalTrigger::create(key), Gtk::CallbackAction::create(click)));
+    }
     button_.add_controller(shortcuts_);
 }
 

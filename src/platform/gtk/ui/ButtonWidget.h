@@ -10,6 +10,7 @@
 
 namespace ui {
 enum class KeyboardShortcut;
+struct ButtonNode;
 }
 
 namespace gtk {
@@ -23,11 +24,14 @@ public:
     void apply(const ui::Node& node) override;
 
 private:
+    void setNames(const ui::ButtonNode& button);
     void setShortcut(std::optional<ui::KeyboardShortcut> shortcut);
 
     Gtk::Button button_;
     std::function<void()> action_;
     std::string help_;
+    std::string name_;
+    bool focusesWhenShown_ = false;
     std::optional<ui::KeyboardShortcut> shortcut_;
     Glib::RefPtr<Gtk::ShortcutController> shortcuts_;
 };

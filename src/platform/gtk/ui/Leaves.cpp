@@ -46,6 +46,14 @@ std::vector<Glib::ustring> themeClasses(const ui::Color& color)
     }
 }
 
+Pango::EllipsizeMode ellipsizeMode(const ui::TextOptions& options)
+{
+    if (options.wraps)
+        return Pango::EllipsizeMode::NONE;
+    return options.truncation == ui::Truncation::middle ? Pango::EllipsizeMode::MIDDLE
+                                                        : Pango::EllipsizeMode::END;
+}
+
 } // namespace
 
 void TextWidget::apply(const ui::Node& node)
@@ -64,7 +72,8 @@ void TextWidget::apply(const ui::Node& node)
     leaf().set_css_classes(themeClasses(options_->color));
     leaf().set_wrap(options_->wraps);
     leaf().set_natural_wrap_mode(Gtk::NaturalWrapMode::NONE); // one line where there is room
-    leaf().set_ellipsize(options_->wraps ? Pango::EllipsizeMode::NONE : Pango::EllipsizeMode::END);
+    leaf().set_ellipsize(ellipsizeMode(*options_));
+    leaf().set_max_width_chars(options_->lineLength > 0 ? options_->lineLength : -1);
 
     const auto alignment = lineAlignment(options_->alignment);
     const double place = alignment == Pango::Alignment::LEFT ? 0
@@ -76,17 +85,78 @@ void TextWidget::apply(const ui::Node& node)
                                                            : Gtk::Justification::CENTER);
 }
 
+void IconWidget::apply(const ui::Node& node)
+{
+    const auto& icon = static_cast<const ui::IconNode&>(node);
+    g_autoptr(GIcon) known = g_icon_new_for_string(icon.name.c_str(), nullptr);
+    gtk_image_set_from_gicon(leaf().gobj(), known);
+    leaf().set_pixel_size(icon.options.size);
+    leaf().set_css_classes(icon.options.isDimmed ? std::vector<Glib::ustring>{"dim-label"}
+                                                 : std::vector<Glib::ustring>{});
+}
+
+ToggleWidget::ToggleWidget()
+{
+    leaf().signal_toggled().connect([this] {
+        if (leaf().get_active() != isOn_.get())
+            isOn_.set(leaf().get_active());
+    });
+}
+
+void ToggleWidget::apply(const ui::Node& node)
+{
+    const auto& toggle = static_cast<const ui::ToggleNode&>(node);
+    isOn_ = toggle.isOn;
+    leaf().set_label(toggle.title);
+    leaf().set_active(isOn_.get());
+}
+
+TextAreaWidget::TextAreaWidget()
+{
+    constexpr int margin = 8;
+
+    text_.set_editable(false);
+    text_.set_cursor_visible(false);
+    text_.set_wrap_mode(Gtk::WrapMode::WORD_CHAR);
+    text_.set_left_margin(margin);
+    text_.set_right_margin(margin);
+    text_.set_top_margin(margin);
+    text_.set_bottom_margin(margin);
+    leaf().set_child(text_);
+    leaf().set_has_frame();
+    leaf().set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::AUTOMATIC);
+    leaf().set_expand();
+}
+
+void TextAreaWidget::apply(const ui::Node& node)
+{
+    const auto& area = static_cast<const ui::TextAreaNode&>(node);
+    setAccessibleName(text_, area.name);
+    if (std::string(text_.get_buffer()->get_text()) != area.text)
+        text_.get_buffer()->set_text(area.text);
+}
+
 ProgressBarWidget::ProgressBarWidget()
 {
-    leaf().add_css_class("velmaro-progress");
     leaf().set_hexpand();
-    gtk_accessible_update_property(
-        GTK_ACCESSIBLE(leaf().gobj()), GTK_ACCESSIBLE_PROPERTY_LABEL, "Loading", -1);
 }
 
 void ProgressBarWidget::apply(const ui::Node& node)
 {
-    leaf().set_fraction(static_cast<const ui::ProgressBarNode&>(node).fraction);
+    const auto& [fraction, options] =
+        std::tie(static_cast<const ui::ProgressBarNode&>(node).fraction,
+            static_cast<const ui::ProgressBarNode&>(node).options);
+    if (options.isLine)
+        leaf().add_css_class("velmaro-progress");
+    else
+        leaf().remove_css_class("velmaro-progress");
+    setAccessibleName(leaf(), options.name);
+    leaf().set_show_text(!options.text.empty());
+    leaf().set_text(options.text);
+    if (fraction)
+        leaf().set_fraction(*fraction);
+    else
+        leaf().pulse();
 }
 
 SpinnerWidget::SpinnerWidget()

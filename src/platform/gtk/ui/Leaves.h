@@ -3,10 +3,14 @@
 #include "platform/gtk/ui/NativeWidget.h"
 #include "platform/ui/Options.h"
 
+#include <gtkmm/checkbutton.h>
+#include <gtkmm/image.h>
 #include <gtkmm/label.h>
 #include <gtkmm/progressbar.h>
+#include <gtkmm/scrolledwindow.h>
 #include <gtkmm/separator.h>
 #include <gtkmm/spinner.h>
+#include <gtkmm/textview.h>
 #include <optional>
 
 // The widgets without children that GTK draws, one for each kind of node.
@@ -19,6 +23,29 @@ public:
 
 private:
     std::optional<ui::TextOptions> options_;
+};
+
+class IconWidget final : public LeafWidget<Gtk::Image> {
+public:
+    void apply(const ui::Node& node) override;
+};
+
+class ToggleWidget final : public LeafWidget<Gtk::CheckButton> {
+public:
+    ToggleWidget();
+    void apply(const ui::Node& node) override;
+
+private:
+    ui::Binding<bool> isOn_;
+};
+
+class TextAreaWidget final : public LeafWidget<Gtk::ScrolledWindow> {
+public:
+    TextAreaWidget();
+    void apply(const ui::Node& node) override;
+
+private:
+    Gtk::TextView text_;
 };
 
 class ProgressBarWidget final : public LeafWidget<Gtk::ProgressBar> {

@@ -38,6 +38,8 @@ std::unique_ptr<ui::Widget> WidgetFactory::makeWidget(const ui::Node& node)
         return std::make_unique<TextWidget>();
     case ui::Kind::symbol:
         return std::make_unique<SymbolWidget>();
+    case ui::Kind::icon:
+        return std::make_unique<IconWidget>();
     case ui::Kind::spinner:
         return std::make_unique<SpinnerWidget>();
     case ui::Kind::spacer:
@@ -48,6 +50,10 @@ std::unique_ptr<ui::Widget> WidgetFactory::makeWidget(const ui::Node& node)
         return std::make_unique<RoundedRectangleWidget>();
     case ui::Kind::button:
         return std::make_unique<ButtonWidget>();
+    case ui::Kind::toggle:
+        return std::make_unique<ToggleWidget>();
+    case ui::Kind::textArea:
+        return std::make_unique<TextAreaWidget>();
     case ui::Kind::textField:
         return std::make_unique<TextFieldWidget>();
     case ui::Kind::scrollArea:

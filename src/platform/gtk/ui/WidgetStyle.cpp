@@ -40,11 +40,13 @@ void installTheme(const Glib::RefPtr<Gdk::Display>& display)
 Pango::AttrList fontAttributes(const ui::Font& font)
 {
     Pango::AttrList attributes;
-    auto size = Pango::Attribute::create_attr_size_absolute(
-        static_cast<int>(std::lround(font.size * PANGO_SCALE)));
     auto weight = Pango::Attribute::create_attr_weight(pangoWeight(font.weight));
-    attributes.insert(size);
     attributes.insert(weight);
+    if (font.size != ui::Font::desktopSize) {
+        auto size = Pango::Attribute::create_attr_size_absolute(
+            static_cast<int>(std::lround(font.size * PANGO_SCALE)));
+        attributes.insert(size);
+    }
     return attributes;
 }
 
