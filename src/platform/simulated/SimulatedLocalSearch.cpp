@@ -1,4 +1,4 @@
-#include "platform/simulated/mapkit/SimulatedLocalSearch.h"
+#include "platform/simulated/SimulatedLocalSearch.h"
 
 #include "platform/simulated/Failure.h"
 

@@ -1,4 +1,4 @@
-#include "platform/simulated/mapkit/SimulatedLocalSearchCompleter.h"
+#include "platform/simulated/SimulatedLocalSearchCompleter.h"
 
 #include "platform/mapkit/MKLocalSearchCompleterDelegate.h"
 #include "platform/simulated/Failure.h"

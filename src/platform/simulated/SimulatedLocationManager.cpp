@@ -1,4 +1,4 @@
-#include "platform/simulated/corelocation/SimulatedLocationManager.h"
+#include "platform/simulated/SimulatedLocationManager.h"
 
 #include "platform/simulated/Failure.h"
 

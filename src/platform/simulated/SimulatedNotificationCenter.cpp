@@ -1,4 +1,4 @@
-#include "platform/simulated/usernotifications/SimulatedNotificationCenter.h"
+#include "platform/simulated/SimulatedNotificationCenter.h"
 
 #include "platform/simulated/Failure.h"
 

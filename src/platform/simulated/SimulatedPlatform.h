@@ -2,14 +2,15 @@
 
 #include "platform/appkit/NSSharingServicePicker.h"
 #include "platform/Platform.h"
-#include "platform/simulated/corelocation/SimulatedLocationManager.h"
 #include "platform/simulated/Faults.h"
-#include "platform/simulated/mapkit/SimulatedLocalSearch.h"
-#include "platform/simulated/mapkit/SimulatedLocalSearchCompleter.h"
 #include "platform/simulated/SimulatedAlerts.h"
 #include "platform/simulated/SimulatedApplication.h"
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedFileManager.h"
+#include "platform/simulated/SimulatedLocalSearch.h"
+#include "platform/simulated/SimulatedLocalSearchCompleter.h"
+#include "platform/simulated/SimulatedLocationManager.h"
+#include "platform/simulated/SimulatedNotificationCenter.h"
 #include "platform/simulated/SimulatedOpenPanels.h"
 #include "platform/simulated/SimulatedProcessInfo.h"
 #include "platform/simulated/SimulatedQueue.h"
@@ -20,7 +21,6 @@
 #include "platform/simulated/SimulatedWebsiteData.h"
 #include "platform/simulated/SimulatedWebView.h"
 #include "platform/simulated/SimulatedWorkspace.h"
-#include "platform/simulated/usernotifications/SimulatedNotificationCenter.h"
 
 #include <string>
 #include <vector>
