@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <glib.h>
 
 namespace gtk {
 
@@ -11,7 +12,14 @@ struct StandardPaths {
     std::filesystem::path cache;
 
     // The current user's folders of the program called `name`.
-    static StandardPaths forProgram(const std::filesystem::path& name);
+    static StandardPaths forProgram(const std::filesystem::path& name)
+    {
+        return {
+            .config = g_get_user_config_dir() / name,
+            .data = g_get_user_data_dir() / name,
+            .cache = g_get_user_cache_dir() / name,
+        };
+    }
 };
 
 } // namespace gtk

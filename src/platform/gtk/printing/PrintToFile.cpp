@@ -58,6 +58,20 @@ bool hasContent(const std::string& path)
 
 } // namespace
 
+TemporaryFolder::TemporaryFolder()
+{
+    g_autofree char* path = g_dir_make_tmp("velmaro-XXXXXX", nullptr);
+    if (path)
+        path_ = path;
+}
+
+TemporaryFolder::~TemporaryFolder()
+{
+    std::error_code error;
+    if (!path_.empty())
+        std::filesystem::remove_all(path_, error);
+}
+
 PrintToFile::PrintToFile(WebKitWebView* view, GtkPrintSettings* settings, GtkPageSetup* setup)
     : view_(retain(view))
     , operation_(webkit_print_operation_new(view))

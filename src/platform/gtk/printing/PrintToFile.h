@@ -3,14 +3,30 @@
 #include "platform/foundation/NSError.h"
 #include "platform/gtk/foundation/Lifetime.h"
 #include "platform/gtk/foundation/SignalHandlers.h"
-#include "platform/gtk/foundation/TemporaryFolder.h"
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
 #include <webkit/webkit.h>
 
 namespace gtk {
+
+// A folder for the user's eyes alone that goes, with all that is in it, when this does.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    // Empty when there is no room for one.
+    const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
 
 // One print of a web view's page into a PDF file of its own. The engine prints to printers only, so
 // it goes to the desktop's printer that writes files.

@@ -1,15 +1,35 @@
 #include "platform/gtk/webkit/GtkDownload.h"
 
 #include "platform/foundation/FileName.h"
-#include "platform/gtk/foundation/Renaming.h"
 
 #include <cerrno>
 #include <cmath>
+#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 #include <utility>
 
 namespace gtk {
 
 using platform::URL;
+
+namespace {
+
+// Gives the file another name on the same file system, in one step, unless something bears that
+// name: then it is EEXIST, and nothing changes. Returns the system's error; 0 on success.
+int renameWithoutReplacing(const std::filesystem::path& from, const std::filesystem::path& to)
+{
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // Some network file systems do not know that; a second name is the next best.
+    if (::link(from.c_str(), to.c_str()) != 0)
+        return errno;
+    return ::unlink(from.c_str()) == 0 ? 0 : errno;
+}
+
+} // namespace
 
 GtkDownload::GtkDownload(WebKitDownload* download, std::function<void(GtkDownload&)> onEnd)
     : download_(retain(download))
