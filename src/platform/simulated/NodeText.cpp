@@ -226,9 +226,7 @@ std::string nodeText(const ui::Node& node)
     case ui::Kind::textArea:
         return "textArea \"" + static_cast<const ui::TextAreaNode&>(node).text + "\"";
     case ui::Kind::icon:
-        return Line("icon " + static_cast<const ui::IconNode&>(node).name)
-            .add("size", static_cast<const ui::IconNode&>(node).options.size)
-            .text();
+        return "icon " + static_cast<const ui::IconNode&>(node).name;
     case ui::Kind::textField:
         return "textField \"" + static_cast<const ui::TextFieldNode&>(node).text.get() + "\"";
     case ui::Kind::scrollArea:

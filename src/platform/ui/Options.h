@@ -52,13 +52,6 @@ struct SymbolOptions {
     bool operator==(const SymbolOptions&) const = default;
 };
 
-struct IconOptions {
-    int size = 16;
-    bool isDimmed = false;
-
-    bool operator==(const IconOptions&) const = default;
-};
-
 struct ApplicationIconOptions {
     Shadow shadow = {}; // of the picture's own outline
 

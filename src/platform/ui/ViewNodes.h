@@ -102,15 +102,13 @@ struct SymbolNode : Node {
 
 // A picture of the desktop's.
 struct IconNode : Node {
-    IconNode(std::string name, IconOptions options)
+    explicit IconNode(std::string name)
         : Node(Kind::icon)
         , name(std::move(name))
-        , options(options)
     {
     }
 
     std::string name;
-    IconOptions options;
 };
 
 struct ApplicationIconNode : Node {

@@ -73,8 +73,8 @@ struct Symbol : View {
 // A picture of the desktop's: one of its icon theme by its name, or whatever else it knows by a
 // text, such as a program's own. A text that it does not know leaves the place empty.
 struct Icon : View {
-    explicit Icon(std::string name, IconOptions options = {})
-        : View(std::make_shared<IconNode>(std::move(name), options))
+    explicit Icon(std::string name)
+        : View(std::make_shared<IconNode>(std::move(name)))
     {
     }
 };

@@ -32,8 +32,8 @@ public:
 
 private:
     const Options options_;
-    WindowContent content_;
     Gtk::Window window_;
+    WindowContent content_; // goes first, while the window has its frames
 };
 
 } // namespace gtk

@@ -7,6 +7,7 @@
 #include <gtkmm/shortcut.h>
 #include <gtkmm/shortcutaction.h>
 #include <gtkmm/shortcuttrigger.h>
+#include <gtkmm/window.h>
 
 namespace gtk {
 
@@ -20,22 +21,13 @@ void setClass(Gtk::Widget& widget, const char* name, bool isSet)
         widget.remove_css_class(name);
 }
 
-std::vector<guint> keysOf(ui::KeyboardShortcut shortcut)
-{
-    if (shortcut == ui::KeyboardShortcut::cancelAction)
-        return {GDK_KEY_Escape};
-    return {GDK_KEY_Return, GDK_KEY_KP_Enter, GDK_KEY_ISO_Enter};
-}
-
 } // namespace
 
 ButtonWidget::ButtonWidget()
 {
     area().set_layout_manager(Gtk::BinLayout::create());
-    button_.signal_map().connect([this] {
-        if (focusesWhenShown_)
-            button_.grab_focus();
-    });
+    button_.signal_map().connect([this] { appear(); });
+    button_.signal_unmap().connect([this] { disappear(); });
     button_.signal_clicked().connect([this] {
         const auto action = action_; // which may take this widget away
         if (action)
@@ -86,6 +78,23 @@ void ButtonWidget::setNames(const ui::ButtonNode& button)
     }
 }
 
+// Windows have one default button themselves, which Return presses where nothing else takes it.
+void ButtonWidget::appear()
+{
+    auto* window = dynamic_cast<Gtk::Window*>(button_.get_root());
+    if (window && shortcut_ == ui::KeyboardShortcut::defaultAction)
+        window->set_default_widget(button_);
+    if (focusesWhenShown_)
+        button_.grab_focus();
+}
+
+void ButtonWidget::disappear()
+{
+    auto* window = dynamic_cast<Gtk::Window*>(button_.get_root());
+    if (window && window->get_default_widget() == &button_)
+        window->unset_default_widget();
+}
+
 void ButtonWidget::setShortcut(std::optional<ui::KeyboardShortcut> shortcut)
 {
     if (shortcut_ == shortcut)
@@ -94,7 +103,7 @@ void ButtonWidget::setShortcut(std::optional<ui::KeyboardShortcut> shortcut)
     if (shortcuts_)
         button_.remove_controller(shortcuts_);
     shortcuts_.reset();
-    if (!shortcut)
+    if (shortcut != ui::KeyboardShortcut::cancelAction)
         return;
 
     shortcuts_ = Gtk::ShortcutController::create();
@@ -102,10 +111,8 @@ void ButtonWidget::setShortcut(std::optional<ui::KeyboardShortcut> shortcut)
     const auto click = [this](Gtk::Widget&, const Glib::VariantBase&) {
         return isReachable(button_) && button_.activate();
     };
-    for (const auto key : keysOf(*shortcut)) {
-        shortcuts_->add_shortcut(Gtk::Shortcut::create(
-            Gtk::KeyvalTrigger::create(key), Gtk::CallbackAction::create(click)));
-    }
+    shortcuts_->add_shortcut(Gtk::Shortcut::create(
+        Gtk::KeyvalTrigger::create(GDK_KEY_Escape), Gtk::CallbackAction::create(click)));
     button_.add_controller(shortcuts_);
 }
 

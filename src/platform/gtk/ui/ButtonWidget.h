@@ -24,6 +24,8 @@ public:
     void apply(const ui::Node& node) override;
 
 private:
+    void appear();
+    void disappear();
     void setNames(const ui::ButtonNode& button);
     void setShortcut(std::optional<ui::KeyboardShortcut> shortcut);
 

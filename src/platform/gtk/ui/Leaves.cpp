@@ -90,9 +90,6 @@ void IconWidget::apply(const ui::Node& node)
     const auto& icon = static_cast<const ui::IconNode&>(node);
     g_autoptr(GIcon) known = g_icon_new_for_string(icon.name.c_str(), nullptr);
     gtk_image_set_from_gicon(leaf().gobj(), known);
-    leaf().set_pixel_size(icon.options.size);
-    leaf().set_css_classes(icon.options.isDimmed ? std::vector<Glib::ustring>{"dim-label"}
-                                                 : std::vector<Glib::ustring>{});
 }
 
 ToggleWidget::ToggleWidget()
