@@ -13,3 +13,12 @@ TEST(JSONSerialization, refusesToWriteWhatJSONCannotHold)
     EXPECT_FALSE(JSONSerialization::encode(Value::Array{Value("\xc3")}));
     EXPECT_FALSE(JSONSerialization::encode(Value::Object{{"\xff", 1}}));
 }
+
+TEST(JSONSerialization, refusesWhatIsNestedTooDeepForTheStack)
+{
+    const auto nested = [](std::size_t depth) {
+        return std::string(depth, '[') + std::string(depth, ']');
+    };
+    EXPECT_TRUE(JSONSerialization::decode(nested(100)));
+    EXPECT_FALSE(JSONSerialization::decode(nested(200'000)));
+}
