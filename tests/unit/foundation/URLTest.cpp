@@ -51,3 +51,9 @@ TEST(URL, namesFilesByTheirBytes)
     }
     EXPECT_EQ(URL::fileURL("/data/").appendingPathComponent("a/b?").path(), "/data/a/b?");
 }
+
+TEST(URL, keepsEscapesWhenItEscapesTheRest)
+{
+    EXPECT_EQ(URL::encodingInvalidCharacters("https://a.example/b%20c d")->absoluteString(),
+        "https://a.example/b%20c%20d");
+}
