@@ -30,6 +30,7 @@ TEST(Launching, opensOneWindowOnTheWelcomePage)
     EXPECT_EQ(window.title(), "Velmaro Online");
     EXPECT_EQ(window.frame().size.width, 1224);
     EXPECT_FALSE(platform::NSWindow::allowsAutomaticWindowTabbing());
+    EXPECT_TRUE(launch.platform.userNotificationCenter().hasDelegate());
     EXPECT_EQ(launch.webView()->loads.at(0).url.absoluteString(),
         "https://velmaro.example/online/welcome.php");
 }

@@ -5,19 +5,6 @@
 using platform::URL;
 using Components = std::vector<std::string>;
 
-TEST(URL, isMadeOfValidTextsOnly)
-{
-    for (const auto* text :
-        {"https://velmaro.example/online#a/b?c=d&e;f'()*+,:@!$~-._%20", "velmaro://"})
-        EXPECT_TRUE(URL::fromString(text)) << text;
-    for (const auto* text :
-        {"", "https://velmaro.example/online#a b", "https://velmaro.example/online#a#b",
-            "https://velmaro.example/online#%zz", "https://velmaro.example/online#caf\u00e9",
-            "https://velmaro.example:eight/", "https://[::1/"})
-        EXPECT_FALSE(URL::fromString(text)) << text;
-    EXPECT_FALSE(URL::fromString(std::string_view("https://velmaro.example/\0online", 31)));
-}
-
 TEST(URL, tellsItsParts)
 {
     struct Case {
@@ -44,14 +31,6 @@ TEST(URL, tellsItsParts)
     }
 }
 
-TEST(URL, isAnOriginWithNothingAroundSchemeHostAndPort)
-{
-    EXPECT_TRUE(URL::fromString("https://[::1]:8443")->isOrigin());
-    for (const auto* text : {"https://velmaro.example/", "https://velmaro.example?a",
-             "https://velmaro.example#", "https://me@velmaro.example", "https://"})
-        EXPECT_FALSE(URL::fromString(text)->isOrigin()) << text;
-}
-
 TEST(URL, namesFilesByTheirBytes)
 {
     struct Case {
@@ -71,4 +50,10 @@ TEST(URL, namesFilesByTheirBytes)
         EXPECT_EQ(url.pathExtension(), extension) << path;
     }
     EXPECT_EQ(URL::fileURL("/data/").appendingPathComponent("a/b?").path(), "/data/a/b?");
+}
+
+TEST(URL, keepsEscapesWhenItEscapesTheRest)
+{
+    EXPECT_EQ(URL::encodingInvalidCharacters("https://a.example/b%20c d")->absoluteString(),
+        "https://a.example/b%20c%20d");
 }

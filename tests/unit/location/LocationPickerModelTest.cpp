@@ -173,6 +173,15 @@ TEST_F(LocationPickerModelTest, aPositionRequestEndsWithTheLastLocationOrTheFail
     EXPECT_EQ(model->statusMessage(), lostNetwork.localizedDescription);
 }
 
+TEST_F(LocationPickerModelTest, aSearchOutlivesTheModel)
+{
+    auto& search = resolve("found");
+    model.reset();
+    search.simulatePlaces({{1, 2}});
+    platform.mainQueue().runUntilIdle();
+    EXPECT_EQ(results, std::vector<Result>({PickedLocation{1, 2, "found"}}));
+}
+
 TEST_F(LocationPickerModelTest, theCallbackMayDropTheModelWhichListensNoLonger)
 {
     model->requestCurrentLocation([&](const auto&) { model.reset(); });

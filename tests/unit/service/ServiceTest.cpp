@@ -15,8 +15,9 @@ TEST(Service, takesAnHttpsOriginAndNothingElse)
     }
     ASSERT_TRUE(service.setServiceOrigin("https://kept.example"));
     for (const auto* origin : {"", "http://intranet.example", "https://intranet.example/online",
-             "https://me@intranet.example", "https://intranet.example:0",
-             "https://intranet.example:65536", "https://intranet.example\n"}) {
+             "https://intranet.example?a", "https://me@intranet.example",
+             "https://intranet.example:0", "https://intranet.example:65536",
+             "https://intranet.example\n"}) {
         EXPECT_FALSE(service.setServiceOrigin(origin)) << origin;
         EXPECT_EQ(service.serviceOrigin(), "https://kept.example");
     }

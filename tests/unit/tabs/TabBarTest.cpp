@@ -112,7 +112,8 @@ TEST_F(TabBarTest, theMiddleButtonClosesItsTab)
 TEST_F(TabBarTest, dropsMoveTabsAndNothingElse)
 {
     EXPECT_FALSE(items()[2]->onDrop({}));
-    EXPECT_FALSE(items()[2]->onDrop({"https://velmaro.example"}));
+    for (const auto& text : {std::string("https://velmaro.example"), items()[0]->dragPayload + "0"})
+        EXPECT_FALSE(items()[2]->onDrop({text}));
     EXPECT_TRUE(items()[2]->onDrop({items()[0]->dragPayload, "ignored"}));
     EXPECT_EQ(titles(), "BAC");
 }

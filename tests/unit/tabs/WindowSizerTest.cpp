@@ -59,12 +59,6 @@ TEST_F(WindowSizing, happensOncePerWindow)
     EXPECT_EQ(window.frame(), (NSRect{{0, 0}, {900, 900}}));
 }
 
-TEST_F(WindowSizing, usesTheMainScreenForAWindowThatIsOnNone)
-{
-    platform.addScreen({{5000, 0}, {1000, 1000}});
-    EXPECT_EQ(open().frame(), (NSRect{{5075, 75}, {850, 850}}));
-}
-
 TEST_F(WindowSizing, keepsTheWindowAtLeastThatLargeWithItsTopEdgeInPlace)
 {
     struct Case {

@@ -15,7 +15,7 @@ TEST(Observation, nestedReadersKeepTheirReadsApart)
     const Observation outer(
         [&] {
             inner = std::make_unique<Observation>([&] { innerField(); }, [&] { ++innerChanges; });
-            outerField();
+            outerField(), outerField();
         },
         [&] { ++outerChanges; });
 

@@ -112,7 +112,8 @@ TEST_F(Downloads, whoseNameWasTakenMeanwhileAreConfirmedUnderTheNextOne)
     finish(*download);
     EXPECT_EQ(platform.alerts().front().informativeText,
         "Saved velmaro_data (2).csv to your Downloads folder.");
-    EXPECT_EQ(DownloadList::shared().items().size(), 1u);
+    ASSERT_EQ(DownloadList::shared().items().size(), 1u);
+    EXPECT_EQ(DownloadList::shared().items()[0].file.lastPathComponent(), "velmaro_data (2).csv");
 }
 
 TEST_F(Downloads, withoutAFolderOfTheDesktopGoToTheUsualOne)

@@ -26,11 +26,13 @@ struct WebModels : testing::Test {
 
 TEST_F(WebModels, ignoreAndKeepAnIdentityThatCannotBeRead)
 {
-    for (const auto& damaged : {simulated::SimulatedUserDefaults::Stored(Data{std::byte('{')}),
-             simulated::SimulatedUserDefaults::Stored(std::string("text"))}) {
-        platform.userDefaults().plant(key, damaged);
-        EXPECT_FALSE(WebModel().user());
-        EXPECT_EQ(platform.userDefaults().contents().at(key), damaged);
+    for (const std::string damaged :
+        {"{", "null", R"({"firstname":"Ada"})", R"({"firstname":5,"lastname":"Moor"})"}) {
+        const auto* bytes = reinterpret_cast<const std::byte*>(damaged.data());
+        const Data data(bytes, bytes + damaged.size());
+        platform.userDefaults().plant(key, data);
+        EXPECT_FALSE(WebModel().user()) << damaged;
+        EXPECT_EQ(platform.userDefaults().data(key), data);
     }
 }
 
@@ -40,7 +42,7 @@ TEST_F(WebModels, storeAndPublishTheUserOnlyWhenItChanges)
         {{}, false},
         {UserIdentity{"Zo\u00eb", "Moor"}, true},
         {UserIdentity{"Zoe\u0308", "Moor"}, false},
-        {UserIdentity{"Zo\u00eb", "Lund"}, true},
+        {UserIdentity{"Zo\u00eb", "L\"u\\n\u2028d"}, true},
         {{}, true},
     };
     WebModel model;
