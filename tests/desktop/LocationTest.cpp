@@ -246,10 +246,17 @@ TEST_F(LocationTest, droppingTheManagerEndsTheRequest)
     manager->requestLocation();
     ASSERT_TRUE(until([&] { return calls(geoClue).find("Start()") != std::string::npos; }));
     manager->requestLocation(); // joins the first
-    manager.reset();
-    EXPECT_TRUE(geoClue.service().isCalled("DeleteClient"));
+    EXPECT_TRUE(until([&] { return listener.answers == 1; }));
     EXPECT_EQ(calls(geoClue).find("CreateClient"), calls(geoClue).rfind("CreateClient"));
-    EXPECT_EQ(listener.answers, 0);
+
+    manager->requestLocation();
+    const auto isAnotherStarted = [&] {
+        return calls(geoClue).find("Start()") != calls(geoClue).rfind("Start()");
+    };
+    ASSERT_TRUE(until(isAnotherStarted));
+    manager.reset();
+    EXPECT_TRUE(geoClue.service().isCalled("DeleteClient", 2));
+    EXPECT_EQ(listener.answers, 1);
 }
 
 TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)

@@ -205,9 +205,13 @@ TEST_F(PolicyTest, aMiddleClickAsksForAWindow)
     ASSERT_TRUE(loads("/help", "Handbook — Velmaro Online"));
     view->evaluateJavaScript("document.body.innerHTML = '<a style=\"position: fixed; inset: 0\" "
                              "href=\"sms:+1\">Link</a>';"
-                             "document.querySelector('a').onmousemove = () => { document.title = '"
-        + std::string(pointedAt) + "' }");
+                             "const link = document.querySelector('a');"
+                             "link.onmousemove = () => { document.title = '"
+        + std::string(pointedAt)
+        + "' };"
+          "link.onauxclick = () => { document.title = 'Clicked' }");
     clickInWindow(UserInput::middleButton); // is opened as a navigation, and is not as a window
+    EXPECT_TRUE(shows("Clicked"));
     EXPECT_TRUE(opened({}));
     clickInWindow(UserInput::leftButton);
     EXPECT_TRUE(opened({"sms:+1"}));

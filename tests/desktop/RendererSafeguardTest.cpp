@@ -123,6 +123,7 @@ TEST(RendererSafeguard, asksWhereALoadedPageDoesNotAppearAndRestarts)
         return service.requests("/online/welcome.php").size() + service.requests("/online").size();
     };
     AppOnGraphicsProcessor app(service, missingFrames);
+    ASSERT_TRUE(eventually([&] { return starts() == 1; })); // the question comes some time after
     ASSERT_TRUE(app.answer("Return"));
     EXPECT_TRUE(eventually([&] { return starts() == 2; }));
     EXPECT_TRUE(app.waitForPage());

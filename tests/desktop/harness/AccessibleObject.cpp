@@ -1,6 +1,7 @@
 #include "AccessibleObject.h"
 
 #include <algorithm>
+#include <gio/gio.h>
 #include <iterator>
 
 namespace desktop {

@@ -2,8 +2,9 @@
 
 #include "Desktop.h"
 
-#include <gio/gio.h>
 #include <memory>
+
+typedef struct _GVariant GVariant; // of GLib, whose headers not every user of this one has
 
 namespace desktop {
 
