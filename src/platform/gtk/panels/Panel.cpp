@@ -44,6 +44,8 @@ Panel::Panel(Options options, const ui::View& content)
 
 Panel::~Panel()
 {
+    hide();
+    window_.unset_focus(); // which the toolkit would keep when what has it goes
     window_.unset_child();
 }
 
