@@ -14,10 +14,7 @@ SimulatedHost::SimulatedHost(SimulatedRenderer& renderer, ui::HostedView& hosted
         make();
         return;
     }
-    renderer.whenFirstFrameIsShown([this, lifetime = lifetime()] {
-        if (!lifetime.expired())
-            make();
-    });
+    renderer.whenFirstFrameIsShown(lifetime().guard([this] { make(); }));
 }
 
 SimulatedHost::~SimulatedHost()

@@ -66,10 +66,7 @@ void SimulatedWidget::remove(ui::Widget& widget, std::shared_ptr<void> owner)
     }
     entry->owner = std::move(owner);
     platform::DispatchQueue::main().asyncAfter(
-        group->transition.duration, [this, &child, isAlive = std::weak_ptr(isAlive_)] {
-            if (!isAlive.expired())
-                letGo(child);
-        });
+        group->transition.duration, lifetime_.guard([this, &child] { letGo(child); }));
 }
 
 std::vector<SimulatedWidget*> SimulatedWidget::children() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/Lifetime.h"
 #include "platform/ui/ViewNodes.h"
 #include "platform/ui/Widget.h"
 
@@ -61,7 +62,7 @@ protected:
     virtual std::string describeSelf() const;
 
     SimulatedRenderer& renderer() const { return renderer_; }
-    std::weak_ptr<bool> lifetime() const { return isAlive_; }
+    const platform::Lifetime& lifetime() const { return lifetime_; }
 
 private:
     struct Child {
@@ -82,8 +83,8 @@ private:
     SimulatedWidget* parent_ = nullptr;
     platform::NSWindow* window_ = nullptr; // of a root
     std::vector<Child> childList_;
-    std::shared_ptr<bool> isAlive_ = std::make_shared<bool>(true); // told to late transitions
     bool wasRemoved_ = false;
+    platform::Lifetime lifetime_;
 };
 
 template <class T> std::vector<const SimulatedWidget*> SimulatedWidget::findAll() const

@@ -17,10 +17,7 @@ void MenuMount::subjectChanged()
 {
     if (std::exchange(hasChanged_, true))
         return;
-    platform::DispatchQueue::main().async([this, life = std::weak_ptr(life_)] {
-        if (!life.expired())
-            describe();
-    });
+    platform::DispatchQueue::main().async(lifetime_.guard([this] { describe(); }));
 }
 
 void MenuMount::describe()

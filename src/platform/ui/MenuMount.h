@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/Lifetime.h"
 #include "platform/ui/Menu.h"
 #include "platform/ui/Observation.h"
 #include "platform/ui/Scene.h"
@@ -26,7 +27,7 @@ private:
     const Scene& scene_;
     const Show show_;
     bool hasChanged_ = false;
-    std::shared_ptr<void> life_ = std::make_shared<char>(); // told to late descriptions
+    platform::Lifetime lifetime_;
 };
 
 } // namespace ui

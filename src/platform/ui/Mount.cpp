@@ -33,7 +33,6 @@ private:
 
 Mount::Mount(View content, Renderer& renderer, Widget& container)
     : renderer_(renderer)
-    , self_(std::make_shared<Mount*>(this))
 {
     auto top = std::make_shared<GroupNode>(std::move(content));
     root_ = std::make_shared<Slot>(*this, nullptr, Identity{top->kind, top->type(), {}, 0});
@@ -43,7 +42,6 @@ Mount::Mount(View content, Renderer& renderer, Widget& container)
 
 Mount::~Mount()
 {
-    *self_ = nullptr;
     root_->retire();
 }
 
@@ -81,11 +79,7 @@ void Mount::schedule(Slot& slot)
     changed_.push_back(&slot);
     if (changed_.size() > 1)
         return; // a redraw is already on its way
-    platform::DispatchQueue::main().async([self = std::weak_ptr<Mount*>(self_)] {
-        const auto mount = self.lock();
-        if (mount && *mount)
-            (*mount)->flush();
-    });
+    platform::DispatchQueue::main().async(lifetime_.guard([this] { flush(); }));
 }
 
 void Mount::forget(Slot& slot)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/Lifetime.h"
 #include "platform/ui/FocusedValues.h"
 #include "platform/ui/View.h"
 #include "platform/ui/Widget.h"
@@ -53,8 +54,8 @@ private:
     const Slot* publisher_ = nullptr; // of the focused values; identity only
     const std::shared_ptr<Published<FocusedValues>> focusedValues_ =
         std::make_shared<Published<FocusedValues>>();
-    std::shared_ptr<Mount*> self_; // told to late redraws; null inside when the mount has gone
     std::shared_ptr<Slot> root_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace ui

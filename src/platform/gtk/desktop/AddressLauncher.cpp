@@ -36,7 +36,7 @@ void AddressLauncher::launch(std::string address)
 
 void AddressLauncher::launchNextWhenIdle()
 {
-    Glib::signal_idle().connect_once(life_.guard([this] { launchNext(); }));
+    Glib::signal_idle().connect_once(lifetime_.guard([this] { launchNext(); }));
 }
 
 void AddressLauncher::launchNext()
@@ -50,7 +50,7 @@ void AddressLauncher::launchNext()
     patience_.start(patience, [this] { goOn(); });
     g_autoptr(GAppLaunchContext) context = makeLaunchContext();
     const auto didLaunch =
-        asyncCallback(life_.guard([this, attempt = attempt_](GObject*, GAsyncResult* result) {
+        asyncCallback(lifetime_.guard([this, attempt = attempt_](GObject*, GAsyncResult* result) {
             g_autoptr(GError) error = nullptr;
             if (!g_app_info_launch_default_for_uri_finish(result, &error))
                 platform::NSLog(std::string("No program opens this address: ") + error->message);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/foundation/Lifetime.h"
 #include "platform/gtk/foundation/Timer.h"
 
 #include <deque>
@@ -26,7 +26,7 @@ private:
     bool hasDropped_ = false; // an address, since the queue was last empty
     unsigned attempt_ = 0; // the number of the current launch
     Timer patience_;
-    Lifetime life_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -82,7 +82,7 @@ void BusConversation::open(std::function<void()> then, FailureHandler onFailure)
         }
         then();
     };
-    Connection::get(bus_, life_.guard(finish));
+    Connection::get(bus_, lifetime_.guard(finish));
 }
 
 void BusConversation::call(const Call& call, Handler then)
@@ -106,7 +106,7 @@ void BusConversation::call(const Call& call, Handler then)
     };
     const auto& method = call.method;
     connection_->call(method.path, method.interface, method.name, call.arguments,
-        life_.guard(finish), call.files, service_, milliseconds(call.patience),
+        lifetime_.guard(finish), call.files, service_, milliseconds(call.patience),
         Gio::DBus::CallFlags::NONE, Glib::VariantType(call.resultType));
 }
 

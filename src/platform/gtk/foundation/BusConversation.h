@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/foundation/Lifetime.h"
 
 #include <functional>
 #include <giomm/dbusconnection.h>
@@ -125,7 +125,7 @@ private:
     const FailureHandler onFailure_;
     Glib::RefPtr<Gio::DBus::Connection> connection_; // null until the bus is open
     std::vector<unsigned> subscriptions_;
-    Lifetime life_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -129,10 +129,7 @@ void GtkUserDefaults::changed()
 {
     hasUnsavedChanges_ = true;
     if (!std::exchange(isSaveQueued_, true)) {
-        queue_.async([this, life = std::weak_ptr(life_)] {
-            if (!life.expired())
-                save();
-        });
+        queue_.async(lifetime_.guard([this] { save(); }));
     }
     whenChanged_();
 }
@@ -148,10 +145,7 @@ void GtkUserDefaults::save()
         return;
 
     hasUnsavedChanges_ = false;
-    auto finished = [this, life = std::weak_ptr(life_)] {
-        if (!life.expired())
-            finishSaving();
-    };
+    const std::function<void()> finished = lifetime_.guard([this] { finishSaving(); });
     auto write = [path = path_, text = SettingsValue::text(members()), &queue = queue_, finished] {
         auto failure = AtomicFile::replace(path, text);
         queue.async(finished);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
+#include "platform/foundation/Lifetime.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <filesystem>
@@ -67,7 +68,7 @@ private:
     bool isSaveQueued_ = false;
     bool savesAgain_ = false; // something changed while the thread was writing
     bool hasUnsavedChanges_ = false;
-    std::shared_ptr<void> life_ = std::make_shared<char>();
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

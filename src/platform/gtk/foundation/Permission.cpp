@@ -42,18 +42,15 @@ void Permission::request()
     if (isAsking_ || isAllowed())
         return;
     isAsking_ = true;
-    queue_.async([this, life = std::weak_ptr(life_)] {
-        if (!life.expired())
-            prompt();
-    });
+    queue_.async(lifetime_.guard([this] { prompt(); }));
 }
 
 void Permission::prompt()
 {
-    prompt_([this, life = std::weak_ptr(life_)](bool isAllowed) {
-        if (!life.expired() && isAsking_)
+    prompt_(lifetime_.guard([this](bool isAllowed) {
+        if (isAsking_)
             decide(isAllowed);
-    });
+    }));
 }
 
 platform::NotificationCenter::Observer Permission::observe(std::function<void()> handler)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
+#include "platform/foundation/Lifetime.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/UserDefaults.h"
 
@@ -49,7 +50,7 @@ private:
     const Prompt prompt_;
     bool isAsking_ = false;
     platform::NotificationCenter changes_;
-    std::shared_ptr<void> life_ = std::make_shared<char>();
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

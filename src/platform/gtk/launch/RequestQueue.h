@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
-#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/foundation/Lifetime.h"
 
 #include <deque>
 #include <functional>
@@ -28,7 +28,7 @@ private:
     std::function<bool()> isReady_;
     std::deque<std::function<void()>> waiting_;
     bool isNextQueued_ = false;
-    Lifetime lifetime_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

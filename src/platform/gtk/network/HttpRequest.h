@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/foundation/Lifetime.h"
 #include "platform/gtk/network/HostTrust.h"
 
 #include <cstdint>
@@ -89,7 +89,7 @@ private:
     ObjectPointer<GInputStream> stream_; // null before the answer, and after it
     GTlsCertificateFlags certificateFlaws_ = G_TLS_CERTIFICATE_NO_FLAGS;
     std::uint64_t received_ = 0; // bytes
-    Lifetime lifetime_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/foundation/Data.h"
+#include "platform/foundation/Lifetime.h"
 #include "platform/foundation/Value.h"
-#include "platform/gtk/foundation/Lifetime.h"
 #include "platform/gtk/printing/PrintToFile.h"
 
 #include <memory>
@@ -32,7 +32,7 @@ private:
     const ObjectPointer<WebKitWebView> view_;
     std::function<void(const Result&)> completion_;
     std::unique_ptr<PrintToFile> print_;
-    Lifetime lifetime_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/foundation/Lifetime.h"
 #include "platform/foundation/NSError.h"
-#include "platform/gtk/foundation/Lifetime.h"
 #include "platform/gtk/foundation/SignalHandlers.h"
 
 #include <filesystem>
@@ -60,7 +60,7 @@ private:
     std::function<void(const std::optional<platform::NSError>&)> completion_;
     std::string failure_;
     SignalHandlers signals_;
-    Lifetime lifetime_; // the search for the printer may outlast this
+    platform::Lifetime lifetime_; // the search for the printer may outlast this
 };
 
 } // namespace gtk

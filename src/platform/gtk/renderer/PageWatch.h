@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
-#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/foundation/Lifetime.h"
 
 #include <cstdint>
 #include <functional>
@@ -51,7 +51,7 @@ private:
     std::int64_t windowFrames_ = 0;
     int secondsWithoutWindow_ = 0;
     int secondsWithoutPage_ = 0;
-    Lifetime lifetime_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

@@ -107,7 +107,7 @@ private:
     std::unique_ptr<UpdateRequest> feedRequest_;
     std::unique_ptr<UpdatePackage> package_;
 
-    Lifetime lifetime_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

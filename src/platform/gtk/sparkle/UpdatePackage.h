@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
-#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/foundation/Lifetime.h"
 #include "platform/gtk/sparkle/UpdateRequest.h"
 #include "platform/sparkle/SUAppcastItem.h"
 
@@ -61,7 +61,7 @@ private:
     bool isGood_ = false; // it may be opened
     std::unique_ptr<UpdateRequest> request_;
     std::shared_ptr<void> reading_; // of the version
-    Lifetime lifetime_;
+    platform::Lifetime lifetime_;
     std::future<void> thread_; // checks the signature; its end is waited for
 };
 

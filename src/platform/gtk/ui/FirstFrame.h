@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/foundation/Lifetime.h"
 #include "platform/gtk/foundation/SignalHandlers.h"
 
 #include <functional>
@@ -38,7 +38,7 @@ private:
     std::optional<SignalHandlers> frames_; // from the mapping to the first frame
     bool hasPainted_ = false;
     std::vector<std::function<void()>> tasks_;
-    Lifetime lifetime_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

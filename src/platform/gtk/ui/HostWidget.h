@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gtk/foundation/Lifetime.h"
+#include "platform/foundation/Lifetime.h"
 #include "platform/gtk/ui/NativeWidget.h"
 #include "platform/ui/HostedView.h"
 
@@ -32,7 +32,7 @@ private:
     Area area_;
     std::shared_ptr<platform::NSView> view_;
     bool isShown_ = true;
-    Lifetime lifetime_;
+    platform::Lifetime lifetime_;
 };
 
 } // namespace gtk

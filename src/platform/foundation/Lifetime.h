@@ -3,10 +3,11 @@
 #include <memory>
 #include <utility>
 
-namespace gtk {
+namespace platform {
 
 // Tells callbacks that come late whether the object that they belong to is still there. A member of
-// that object, declared last, so that it goes first. Main thread only.
+// that object, declared last, so that it goes first. Made and destroyed on the main thread, where
+// the callbacks are called, too; they may be carried there by another thread.
 class Lifetime {
 public:
     Lifetime() = default;
@@ -28,4 +29,4 @@ private:
     std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 
-} // namespace gtk
+} // namespace platform
