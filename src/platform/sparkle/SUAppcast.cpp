@@ -15,7 +15,7 @@ namespace {
 
 constexpr auto thisSystem = "linux";
 
-// Without blanks at its ends, and in UTF-8: a reference such as &#xD800; can name what is none.
+// Without blanks at its ends, and in UTF-8: a reference such as &#xD800; can name no character.
 std::string trimmed(const char* text)
 {
     std::string_view view(text);

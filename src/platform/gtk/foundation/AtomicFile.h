@@ -13,14 +13,16 @@ namespace AtomicFile {
 
 struct Contents {
     std::string text;
-    std::string
-        failure; // why it could not be read; empty when it could, and when there is no such file
+
+    // Why it could not be read; empty when it could, and when there is no such file.
+    std::string failure;
+
     bool exists = false;
 };
 
 Contents read(const std::filesystem::path& path);
 
-// Puts `text` in the place of what was at `path`, in one step: whoever reads it, even after a power
+// Puts `text` in the place of what was at `path`, in one step: a reader, even after a power
 // cut, finds either the old text or the new one. When the call returns, the new one is on the disk.
 // Missing folders are made, and a symbolic link is kept, its target replaced. The file gets
 // `permissions`, less those that the user's mask takes away; by default it is the user's alone.

@@ -36,7 +36,7 @@ public:
 private:
     std::vector<std::string> hosts_; // in lower case, as the engine writes them
     ObjectPointer<GTlsCertificate> certificate_; // null when there is none
-    ObjectPointer<GTlsDatabase> authorities_; // likewise
+    ObjectPointer<GTlsDatabase> authorities_; // null when there is none
     std::optional<std::string> problem_;
 };
 

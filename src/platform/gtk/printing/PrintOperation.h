@@ -10,7 +10,7 @@ namespace gtk {
 // What the user chose in the last print panel of this run, for the next one.
 struct PrintChoice {
     std::string printer; // empty before the first choice
-    ObjectPointer<GtkPageSetup> setup; // null likewise
+    ObjectPointer<GtkPageSetup> setup; // null until then
 };
 
 // A print of a web view's page. The engine writes the pages into a file, as the user wants them,

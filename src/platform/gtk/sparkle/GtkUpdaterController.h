@@ -22,7 +22,7 @@ public:
     // Where newer versions come from, and what they are compared with.
     struct Options {
         std::string feed; // https address; empty: the application does not update itself
-        std::string publicKey; // Ed25519, in Base64; likewise
+        std::string publicKey; // Ed25519, in Base64; empty with the feed
         std::shared_ptr<const HostTrust> trust; // never null
 
         std::string version; // of the running program, as builds are counted
