@@ -23,7 +23,9 @@ ui::View entryView(const PermissionsView::Entry& entry)
     return ui::VStack{
         {.spacing = 0, .alignment = ui::Alignment::leading},
         ui::Toggle(entry.title, entry.isAllowed),
-        ui::Text(entry.explanation, explanation).padding({.leading = indentation}),
+        ui::Text(entry.explanation, explanation)
+            .frame({.maxWidth = ui::infinity, .alignment = ui::Alignment::leading})
+            .padding({.leading = indentation}),
     };
 }
 
