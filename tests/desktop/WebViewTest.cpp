@@ -54,8 +54,8 @@ TEST_F(WebViewTest, userScriptsRunInTheMainFrameBeforeAndAfterThePagesOwn)
     };
     openView();
     ASSERT_TRUE(loads("/"));
-    EXPECT_EQ(valueOf("seen"), "\u00e9 page interactive");
-    EXPECT_EQ(valueOf("inner"), "undefined");
+    EXPECT_TRUE(until([&] { return valueOf("seen") == "\u00e9 page interactive"; }));
+    EXPECT_TRUE(until([&] { return valueOf("window.inner") == "undefined"; }));
 }
 
 TEST_F(WebViewTest, looksAndIntroducesItselfAsTheApplicationWants)
