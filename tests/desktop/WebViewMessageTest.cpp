@@ -43,14 +43,20 @@ TEST_F(WebViewMessageTest, valuesOfEveryKindArrive)
 
 TEST_F(WebViewMessageTest, hugeAndTangledObjectsEndInTime)
 {
-    for (const auto* message : {"(() => { let o = 'core'; for (let i = 0; i < 10000; ++i) o = {o};"
-                                " return {o, page: 'kept'}; })()",
-             "({list: {deep: {list: new Array(2e5).fill({})}}, more: {}, page: 'kept'})",
-             "(() => { const o = {}; for (let i = 0; i < 2e5; ++i) o['m' + i] = i;"
-             " o.page = 'kept'; return o; })()"}) {
+    const std::pair<const char*, std::size_t> table[] = {
+        {"(() => { let o = 'core'; for (let i = 0; i < 10000; ++i) o = {o};"
+         " return {o, page: 'kept'}; })()",
+            2},
+        {"({list: {deep: {list: new Array(2e5).fill({})}}, more: {}, page: 'kept'})", 3},
+        {"(() => { const o = {}; for (let i = 0; i < 2e5; ++i) o['m' + i] = i;"
+         " o.page = 'kept'; return o; })()",
+            200'001},
+    };
+    for (const auto& [message, members] : table) {
         const auto value = valueOf(message);
         ASSERT_TRUE(value.member("page")) << message;
         EXPECT_EQ(*value.member("page"), "kept") << message;
+        EXPECT_EQ(value.object()->size(), members) << message;
     }
     valueOf("(() => { let o = {}; for (let i = 0; i < 60; ++i) o = [o, o]; return o; })()");
     EXPECT_EQ(valueOf("new Array(1e6)").array()->size(), 100'000u);
