@@ -5,27 +5,12 @@
 #include <glib.h>
 #include <gtest/gtest.h>
 #include <numeric>
-#include <optional>
 #include <thread>
 
 namespace gtk {
 
 using desktop::runWaitingEvents;
 using desktop::until;
-
-TEST(GtkDispatchQueue, tasksRunInTheirOrderAndNotBeforeTheCurrentEventIsHandled)
-{
-    GtkDispatchQueue queue;
-    std::vector<int> order;
-    queue.async([&] {
-        queue.async([&] { order.push_back(3); });
-        order.push_back(1);
-    });
-    queue.async([&] { order.push_back(2); });
-    EXPECT_TRUE(order.empty());
-    runWaitingEvents();
-    EXPECT_EQ(order, (std::vector{1, 2, 3}));
-}
 
 TEST(GtkDispatchQueue, idleTasksWaitForTheEndOfTheStartAndForAllOthers)
 {
@@ -84,17 +69,6 @@ TEST(GtkDispatchQueue, tasksGoOnWhileOneOfThemWaitsInALoopOfItsOwn)
     });
     queue.async([&] { isAlertClosed = true; });
     EXPECT_TRUE(until([&] { return hasReturned; }));
-}
-
-TEST(GtkDispatchQueue, waitingTasksAreDroppedWithTheQueue)
-{
-    std::optional<GtkDispatchQueue> queue(std::in_place);
-    bool hasRun = false;
-    queue->async([&] { hasRun = true; });
-    queue->asyncAfter(0, [&] { hasRun = true; });
-    queue.reset();
-    runWaitingEvents();
-    EXPECT_FALSE(hasRun);
 }
 
 } // namespace gtk

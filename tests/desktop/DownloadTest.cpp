@@ -81,20 +81,6 @@ protected:
         return names;
     }
 
-    // What the alert says; empty while there is none.
-    static std::string alertText()
-    {
-        std::string text;
-        g_autoptr(GList) windows = gtk_window_list_toplevels();
-        for (auto* window = windows; window; window = window->next) {
-            g_autofree char* secondary = nullptr;
-            if (GTK_IS_MESSAGE_DIALOG(window->data))
-                g_object_get(window->data, "secondary-text", &secondary, nullptr);
-            text += secondary ? secondary : "";
-        }
-        return text;
-    }
-
     std::filesystem::path folder;
     gtk::GtkPlatform platform{
         {.identifier = "example.velmaro.Test", .address = std::nullopt, .geocoder = ""}};
@@ -132,16 +118,12 @@ TEST_F(DownloadTest, savesWholeFilesUnderTheNamesOfTheServerMadeSafe)
         ++place;
     }
     EXPECT_EQ(names(), expected) << "nothing else is left in the folder";
-}
 
-TEST_F(DownloadTest, takesWhatPagesMakeThemselves)
-{
     view->evaluateJavaScript("const link = document.createElement('a');"
                              "link.href = URL.createObjectURL(new Blob(['made here']));"
                              "link.download = 'made.csv';"
                              "link.click()");
-
-    ASSERT_TRUE(ends(0, State::finished));
+    ASSERT_TRUE(ends(std::size(cases), State::finished));
     EXPECT_EQ(contentsOf(folder / "made.csv"), "made here");
 }
 
@@ -163,8 +145,7 @@ TEST_F(DownloadTest, neverReplacesWhatHasComeUnderItsNameMeanwhile)
         ASSERT_TRUE(ends(place, State::finished));
         EXPECT_TRUE(contentsOf(folder / "velmaro_data (2).csv") == whole);
         EXPECT_EQ(names(), (std::set<std::string>{"velmaro_data.csv", "velmaro_data (2).csv"}));
-        EXPECT_TRUE(until([&] { return !alertText().empty(); }));
-        EXPECT_EQ(alertText(), "Saved velmaro_data (2).csv to your Downloads folder.");
+        EXPECT_EQ(items()[place].file.lastPathComponent(), "velmaro_data (2).csv");
         EXPECT_EQ(contentsOf(path), place == 0 ? "the user's" : "");
         std::filesystem::remove(path);
         std::filesystem::remove(folder / "velmaro_data (2).csv");
@@ -183,14 +164,8 @@ TEST_F(DownloadTest, leavesNothingBehindWhenItFails)
     offer("", {.body = half, .isStalled = true});
     ASSERT_TRUE(until([&] { return items().size() == 2 && !names().empty(); }));
     EXPECT_FALSE(names().contains("file"));
-    items()[1].download->cancel();
-    EXPECT_TRUE(ends(1, State::failed));
-    EXPECT_TRUE(until([&] { return names().empty(); }));
-
-    offer("", {.body = half, .isStalled = true});
-    ASSERT_TRUE(until([&] { return items().size() == 3 && !names().empty(); }));
     closeView();
-    EXPECT_TRUE(ends(2, State::failed));
+    EXPECT_TRUE(ends(1, State::failed));
     EXPECT_TRUE(until([&] { return names().empty(); }));
     EXPECT_TRUE(coordinator->downloadDestinations.empty());
 }
@@ -222,15 +197,6 @@ TEST_F(DownloadTest, goesOnWithoutThePageThatBeganIt)
     ASSERT_TRUE(ends(0, State::finished));
     EXPECT_EQ(contentsOf(folder / "file"), whole);
     EXPECT_TRUE(isReadyWith("Home"));
-
-    offer("", {.body = whole.substr(0, 1 << 20), .isStalled = true});
-    ASSERT_TRUE(until([&] { return items().size() == 2 && names().size() == 2; }));
-    webkit_web_view_terminate_web_process(native());
-    EXPECT_TRUE(until([&] { return panel() != nullptr; })); // the second death so soon
-    EXPECT_EQ(items()[1].state, State::running);
-    items()[1].download->cancel();
-    EXPECT_TRUE(ends(1, State::failed));
-    EXPECT_TRUE(until([&] { return names() == std::set<std::string>{"file"}; }));
 }
 
 TEST_F(DownloadTest, failsWhereNothingCanBeWritten)

@@ -3,7 +3,6 @@
 
 #include "harness/DefaultProgram.h"
 #include "harness/DemoServiceProcess.h"
-#include "harness/Desktop.h"
 #include "harness/ShownWindow.h"
 #include "harness/UserInput.h"
 #include "platform/gtk/GtkPlatform.h"
@@ -16,9 +15,6 @@ namespace desktop {
 namespace {
 
 using Addresses = std::vector<std::string>;
-
-constexpr auto windowTitle = "A tab";
-constexpr auto pointedAt = "Pointed at";
 
 // Does something that may come too early again and again, and leaves the program time for it.
 [[nodiscard]] bool repeatUntil(
@@ -70,7 +66,6 @@ protected:
         coordinator_ = tab.makeCoordinator();
         view = tab.makeNSView(*coordinator_);
         auto& native = dynamic_cast<gtk::GtkWebView&>(*view);
-        window.set_title(windowTitle);
         window.set_default_size(900, 700);
         window.set_child(native.nativeWidget());
         window.present();
@@ -98,22 +93,6 @@ protected:
         return until([&] { return view->title() == title && !view->isLoading(); });
     }
 
-    // Clicks on what covers the page, which says in its title that the pointer is over it.
-    void clickInWindow(int button)
-    {
-        view->evaluateJavaScript("document.title = 'Link'");
-        int move = 0;
-        const auto point = [&] {
-            if (const auto shown = Desktop::window(windowTitle)) {
-                const auto frame = shown->frame();
-                UserInput::movePointer(
-                    frame.x + frame.width / 2 + ++move % 9, frame.y + frame.height / 2);
-            }
-        };
-        ASSERT_TRUE(repeatUntil(point, [&] { return view->title() == pointedAt; }));
-        UserInput::click(button);
-    }
-
     void click(const std::string& id)
     {
         view->evaluateJavaScript("document.getElementById('" + id + "').click()");
@@ -131,8 +110,7 @@ protected:
             found = program.addresses();
             found.erase(found.begin(), found.begin() + static_cast<std::ptrdiff_t>(seen_));
             return found.size() >= expected.size();
-        })) << found.size()
-            << " of " << expected.size();
+        }));
         seen_ += found.size();
         std::ranges::sort(found);
         EXPECT_EQ(found, expected);
@@ -177,13 +155,10 @@ TEST_F(PolicyTest, linksAndWindowsStayInTheTabOrGoToTheDefaultProgram)
         {"foreign", {elsewhere()}},
         {"foreign-download", {elsewhere()}},
         {"open-foreign", {elsewhere()}},
-        {"open-empty", {}},
         {"mail", {"mailto:support@velmaro.example?subject=Hello"}},
         {"sms", {"sms:+0005550142"}},
-        {"sms-blank", {}},
         {"unknown", {}},
         {"data", {}},
-        {"blob", {}},
     };
     ASSERT_TRUE(loads("/hostile/windows", here));
     for (const auto& [id, addresses, title] : table) {
@@ -198,23 +173,6 @@ TEST_F(PolicyTest, linksAndWindowsStayInTheTabOrGoToTheDefaultProgram)
     }
     for (const auto& start : program.starts())
         EXPECT_NE(start.activationToken, "") << start.address;
-}
-
-TEST_F(PolicyTest, aMiddleClickAsksForAWindow)
-{
-    ASSERT_TRUE(loads("/help", "Handbook — Velmaro Online"));
-    view->evaluateJavaScript("document.body.innerHTML = '<a style=\"position: fixed; inset: 0\" "
-                             "href=\"sms:+1\">Link</a>';"
-                             "const link = document.querySelector('a');"
-                             "link.onmousemove = () => { document.title = '"
-        + std::string(pointedAt)
-        + "' };"
-          "link.onauxclick = () => { document.title = 'Clicked' }");
-    clickInWindow(UserInput::middleButton); // is opened as a navigation, and is not as a window
-    EXPECT_TRUE(shows("Clicked"));
-    EXPECT_TRUE(opened({}));
-    clickInWindow(UserInput::leftButton);
-    EXPECT_TRUE(opened({"sms:+1"}));
 }
 
 TEST_F(PolicyTest, fileInputsOpenAPanel)
@@ -242,23 +200,17 @@ TEST_F(PolicyTest, fileInputsOpenAPanel)
     };
     ASSERT_TRUE(loads("/hostile/files", "File inputs and a drop zone"));
 
-    openPanel("one");
-    EXPECT_FALSE(gtk_file_chooser_get_select_multiple(filePanel()));
-    const gtk::ObjectPointer<GFile> file(g_file_new_for_path((folder / "a %23 b.csv").c_str()));
-    gtk_file_chooser_set_file(filePanel(), file.get(), nullptr);
-    ASSERT_TRUE(until([&] { return chosenCount() == 1; }));
-    closePanelWith("Return");
-    EXPECT_TRUE(says("one: a %23 b.csv (4)"));
-
     openPanel("several");
+    const gtk::ObjectPointer<GFile> file(g_file_new_for_path((folder / "a %23 b.csv").c_str()));
     gtk_file_chooser_set_file(filePanel(), file.get(), nullptr);
     ASSERT_TRUE(repeatUntil([] { UserInput::press("ctrl+a"); }, [] { return chosenCount() == 2; }));
     closePanelWith("alt+o");
     EXPECT_TRUE(says("several: a %23 b.csv (4), c.csv (2)"));
 
-    openPanel("several");
+    openPanel("one");
+    EXPECT_FALSE(gtk_file_chooser_get_select_multiple(filePanel()));
     closePanelWith("Escape");
-    EXPECT_TRUE(says("several: cancelled"));
+    EXPECT_TRUE(says("one: cancelled"));
 }
 
 TEST_F(PolicyTest, framesStayOnTheServiceAndManyForeignOnesDoNotFreezeTheWindow)

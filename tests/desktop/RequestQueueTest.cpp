@@ -26,6 +26,9 @@ TEST_F(RequestQueueTest, requestsWaitInOrderUntilTheyCanBePerformed)
 {
     enqueue("drive 42");
     enqueue("dashboard");
+    isReady = true;
+    queue.update();
+    isReady = false; // the page has gone again, just in time
     runWaitingEvents();
     EXPECT_TRUE(performed.empty());
 
@@ -34,15 +37,6 @@ TEST_F(RequestQueueTest, requestsWaitInOrderUntilTheyCanBePerformed)
     queue.update();
     runWaitingEvents();
     EXPECT_EQ(performed, (std::vector<std::string>{"drive 42", "dashboard"}));
-
-    enqueue("fuel");
-    isReady = false; // the page has gone again, just in time
-    runWaitingEvents();
-    EXPECT_EQ(performed.size(), 2u);
-    isReady = true;
-    queue.update();
-    runWaitingEvents();
-    EXPECT_EQ(performed.back(), "fuel");
 }
 
 } // namespace gtk

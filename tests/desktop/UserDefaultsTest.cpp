@@ -10,7 +10,6 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 
 namespace gtk {
@@ -26,13 +25,6 @@ platform::Data bytes(std::string_view text)
 {
     const auto* first = reinterpret_cast<const std::byte*>(text.data());
     return {first, first + text.size()};
-}
-
-ino_t inodeOf(const std::filesystem::path& path)
-{
-    struct stat status { };
-    ::stat(path.c_str(), &status);
-    return status.st_ino;
 }
 
 } // namespace
@@ -75,7 +67,7 @@ protected:
     std::unique_ptr<GtkUserDefaults> settings;
 };
 
-TEST_F(UserDefaultsTest, valuesOfEachTypeComeBack)
+TEST_F(UserDefaultsTest, valuesOfEachTypeComeBackToTheUserAlone)
 {
     settings->setStringArray("routes", {"drives", "", "ü \"\\\n"});
     settings->setInteger("active", -3);
@@ -93,72 +85,22 @@ TEST_F(UserDefaultsTest, valuesOfEachTypeComeBack)
     EXPECT_EQ(settings->data("nothing"), platform::Data());
     EXPECT_FALSE(settings->contains("removed"));
     EXPECT_TRUE(log.empty());
-}
-
-TEST_F(UserDefaultsTest, theFileIsReadableAndTheUsersAlone)
-{
-    settings->setData("identity", bytes("abc"));
-    settings->setBoolean("shown", false);
-    settings->flush();
-
-    EXPECT_EQ(contentsOf(path),
-        "{\n  \"identity\": {\n    \"data\": \"YWJj\"\n  },\n  \"shown\": false\n}\n");
-    struct stat status { };
-    ASSERT_EQ(::stat(path.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0600u);
+    EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0600));
 }
 
 TEST_F(UserDefaultsTest, aMemberOfAnotherTypeIsAnAbsence)
 {
-    struct Case {
-        const char* json;
-        bool isStringArray;
-        std::int64_t integer;
-        bool boolean;
-        bool isData;
-    };
-    constexpr Case cases[] = {
-        {"\"7\"", false, 0, false, false},
-        {"[]", true, 0, false, false},
-        {"[\"a\", 1]", false, 0, false, false},
-        {"2.9", false, 2, true, false},
-        {"18446744073709551615", false, INT64_MAX, true, false},
-        {"1e300", false, INT64_MAX, true, false},
-        {"{\"data\": \"YWJj\"}", false, 0, false, true},
-        {"{\"data\": \"YW?Jj\"}", false, 0, false, false},
-        {"{\"data\": \"YWJj\", \"more\": 1}", false, 0, false, false},
-    };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.json);
-        write("{\"key\": " + std::string(test.json) + "}");
+    for (const std::string json : {"\"7\"", "[\"a\", 1]", "{\"data\": \"YW?Jj\"}"}) {
+        SCOPED_TRACE(json);
+        write("{\"key\": " + json + "}");
         open();
         EXPECT_TRUE(settings->contains("key"));
-        EXPECT_EQ(settings->stringArray("key").has_value(), test.isStringArray);
-        EXPECT_EQ(settings->integer("key"), test.integer);
-        EXPECT_EQ(settings->boolean("key"), test.boolean);
-        EXPECT_EQ(settings->data("key").has_value(), test.isData);
+        EXPECT_FALSE(settings->stringArray("key"));
+        EXPECT_EQ(settings->integer("key"), 0);
+        EXPECT_FALSE(settings->boolean("key"));
+        EXPECT_FALSE(settings->data("key"));
     }
     EXPECT_TRUE(log.empty());
-}
-
-TEST_F(UserDefaultsTest, aFolderInThePlaceOfTheFileIsKeptAside)
-{
-    std::filesystem::create_directories(path / "inside");
-    settings->setInteger("active", 2);
-    settings->flush();
-    EXPECT_EQ(stored(), (Json{{"active", 2}}));
-    EXPECT_TRUE(std::filesystem::exists(path.string() + ".damaged/inside"));
-}
-
-TEST_F(UserDefaultsTest, settingWhatIsSetWritesNothing)
-{
-    settings->setInteger("active", 1);
-    settings->flush();
-    const auto inode = inodeOf(path);
-    settings->setInteger("active", 1);
-    settings->removeObject("absent");
-    settings->flush();
-    EXPECT_EQ(inodeOf(path), inode);
 }
 
 TEST_F(UserDefaultsTest, aFullDiskLosesNothing)
@@ -192,13 +134,10 @@ TEST_F(UserDefaultsTest, aSymbolicLinkIsKept)
     const auto target = folder / "elsewhere" / "mine.json";
     std::filesystem::create_directories(path.parent_path());
     std::filesystem::create_symlink("../elsewhere/mine.json", path); // leads nowhere yet
-    for (int i = 0; i < 2; ++i) {
-        settings->setInteger("active", i);
-        settings->flush();
-        EXPECT_TRUE(std::filesystem::is_symlink(path));
-        EXPECT_EQ(Json::parse(contentsOf(target)), (Json{{"active", i}}));
-    }
-    EXPECT_TRUE(log.empty());
+    settings->setInteger("active", 1);
+    settings->flush();
+    EXPECT_TRUE(std::filesystem::is_symlink(path));
+    EXPECT_EQ(Json::parse(contentsOf(target)), (Json{{"active", 1}}));
 }
 
 TEST_F(UserDefaultsTest, aKillAtAnyMomentLeavesAWholeFile)

@@ -19,25 +19,15 @@ TEST_F(WebViewMessageTest, valuesOfEveryKindArrive)
 {
     const std::pair<const char*, Value> table[] = {
         {"null", nullptr},
-        {"undefined", nullptr},
         {"false", false},
         {"-2.5e300", -2.5e300},
         {"'\\u00e9 \\u{1F697} \\u2028'", "\u00e9 \U0001F697 \u2028"},
         {"'a\\0b'", std::string("a\0b", 3)},
         {"'a\\ud800b'", "a\uFFFDb"},
         {"10n", nullptr},
-        {"[]", Value::Array{}},
         {"[1, 'two', [null]]", Value::Array{1, "two", Value::Array{nullptr}}},
-        {"[, 1]", Value::Array{nullptr, 1}},
-        {"({})", Value::Object{}},
         {"({a: 1, b: {c: 'd'}, '': undefined})",
             Value::Object{{"a", 1}, {"b", Value::Object{{"c", "d"}}}, {"", nullptr}}},
-        {"({toString: 2, length: 3})", Value::Object{{"toString", 2}, {"length", 3}}},
-        {"new Map([[1, 2]])", Value::Object{}},
-        {"new Uint8Array([7])", Value::Object{{"0", 7}}},
-        {"new (class Own { constructor() { this.x = 1; } get y() { return 2; } })",
-            Value::Object{{"x", 1}}},
-        {"-Infinity", -std::numeric_limits<double>::infinity()},
         {"(() => { const o = {a: 1}; o.self = o; o.list = [o]; return o; })()", // inside itself
             Value::Object{{"a", 1}, {"self", nullptr}, {"list", Value::Array{nullptr}}}},
         {"(() => { const o = {x: 1}; return [o, o]; })()", // found twice
@@ -51,30 +41,12 @@ TEST_F(WebViewMessageTest, valuesOfEveryKindArrive)
     EXPECT_TRUE(std::isnan(*valueOf("NaN").number()));
 }
 
-TEST_F(WebViewMessageTest, whatCannotBePostedDoesNotArrive)
-{
-    for (const auto* expression : {"() => 1", "Symbol()", "document.body", "({f() {}})"}) {
-        view->evaluateJavaScript(
-            std::string("webkit.messageHandlers.probe.postMessage(") + expression + ")");
-        EXPECT_EQ(valueOf("'next'"), "next");
-    }
-    EXPECT_EQ(probe->messages.size(), 4u);
-}
-
 TEST_F(WebViewMessageTest, hugeAndTangledObjectsEndInTime)
 {
-    const auto deep = valueOf("(() => { let o = 'core'; for (let i = 0; i < 10000; ++i) o = {o};"
-                              " return {page: 'kept', o}; })()");
-    EXPECT_EQ(*deep.member("page"), "kept");
-
-    valueOf("(() => { let o = {}; for (let i = 0; i < 60; ++i) o = [o, o]; return o; })()");
-    EXPECT_EQ(valueOf("new Array(1e6)").array()->size(), 100'000u);
-}
-
-TEST_F(WebViewMessageTest, noMemberOfAMessageIsLostToAnother)
-{
     const std::pair<const char*, std::size_t> table[] = {
-        {"({list: new Array(2e5).fill(0), page: 'kept'})", 2},
+        {"(() => { let o = 'core'; for (let i = 0; i < 10000; ++i) o = {o};"
+         " return {o, page: 'kept'}; })()",
+            2},
         {"({list: {deep: {list: new Array(2e5).fill({})}}, more: {}, page: 'kept'})", 3},
         {"(() => { const o = {}; for (let i = 0; i < 2e5; ++i) o['m' + i] = i;"
          " o.page = 'kept'; return o; })()",
@@ -86,6 +58,8 @@ TEST_F(WebViewMessageTest, noMemberOfAMessageIsLostToAnother)
         EXPECT_EQ(*value.member("page"), "kept") << message;
         EXPECT_EQ(value.object()->size(), members) << message;
     }
+    valueOf("(() => { let o = {}; for (let i = 0; i < 60; ++i) o = [o, o]; return o; })()");
+    EXPECT_EQ(valueOf("new Array(1e6)").array()->size(), 100'000u);
 }
 
 TEST_F(WebViewMessageTest, framesOfAllKindsPostAlike)
@@ -104,18 +78,6 @@ TEST_F(WebViewMessageTest, framesOfAllKindsPostAlike)
     for (const auto& message : probe->messages)
         posted.insert(*message.body.string());
     EXPECT_EQ(posted, (std::set<std::string>{"frame", "page", "sandboxed", "srcdoc"}));
-}
-
-TEST_F(WebViewMessageTest, aHandlerThatHasGoneGetsNothing)
-{
-    const std::weak_ptr<Recorder> gone = probe;
-    probe = std::make_shared<Recorder>();
-    EXPECT_TRUE(gone.expired());
-
-    view->evaluateJavaScript(
-        "webkit.messageHandlers.probe.postMessage(1); document.title = 'Done'");
-
-    EXPECT_TRUE(isReadyWith("Done"));
 }
 
 } // namespace desktop

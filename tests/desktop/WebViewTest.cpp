@@ -1,112 +1,61 @@
 #include "webview/WebViewTest.h"
 
 #include "harness/Desktop.h"
+#include "harness/Files.h"
 
 #include <algorithm>
 #include <gtkmm/settings.h>
 
 namespace desktop {
 
-using CachePolicy = platform::URLRequest::CachePolicy;
-using Property = platform::WKWebView::Property;
-
-TEST_F(WebViewTest, loadsAPageAndTellsWhatChanges)
+TEST_F(WebViewTest, tellsHowFarALoadIs)
 {
     openView();
-    std::vector<std::string> titles;
     std::vector<double> progress;
-    bool wasLoading = false;
-    const auto title = view->observe(Property::title, [&] { titles.push_back(view->title()); });
-    const auto steps = view->observe(
-        Property::estimatedProgress, [&] { progress.push_back(view->estimatedProgress()); });
-    const auto loading =
-        view->observe(Property::isLoading, [&] { wasLoading = wasLoading || view->isLoading(); });
-    int lateCalls = 0;
-    view->observe(Property::title, [&] { ++lateCalls; }).reset();
-    EXPECT_EQ(titles, std::vector<std::string>{""});
-    EXPECT_EQ(progress, std::vector<double>{0});
-
+    const auto steps = view->observe(platform::WKWebView::Property::estimatedProgress,
+        [&] { progress.push_back(view->estimatedProgress()); });
     ASSERT_TRUE(loads("/"));
-
-    EXPECT_EQ(titles.back(), "Home");
+    EXPECT_EQ(progress.front(), 0);
     EXPECT_EQ(progress.back(), 1);
-    EXPECT_TRUE(wasLoading);
-    EXPECT_FALSE(view->isLoading());
-    EXPECT_EQ(lateCalls, 1) << "an observation ends with its token";
 }
 
-TEST_F(WebViewTest, theNextRunAsksTheServerWhetherAPageIsStillGood)
+TEST_F(WebViewTest, theNextRunHasWhatWasStoredAndAsksWhetherAPageIsStillGood)
 {
-    server.pages["/"].headers = {{"ETag", "\"one\""}, {"Cache-Control", "max-age=3600"}};
+    server.pages["/"].headers = {{"ETag", "\"one\""}, {"Cache-Control", "max-age=3600"},
+        {"Set-Cookie", "kept=yes; Max-Age=3600; Secure; HttpOnly"}};
     openView();
     ASSERT_TRUE(loads("/"));
-    ASSERT_TRUE(until([this] { return hasCachedSomething(); }));
+    EXPECT_EQ(valueOf("localStorage.kept = 'too'"), "too");
+    ASSERT_TRUE(until([this] { // the cache is written some time after a page has been loaded
+        return std::ranges::any_of(filesBelow(folder() / "cache"),
+            [](const auto& file) { return file.string().find("/Records/") != std::string::npos; });
+    }));
     startEngine();
     openView();
 
-    load("/", CachePolicy::reloadRevalidatingCacheData);
+    view->load({.url = *platform::URL::fromString(server.url("/")),
+        .cachePolicy = platform::URLRequest::CachePolicy::reloadRevalidatingCacheData});
 
     ASSERT_TRUE(isReadyWith("Home"));
     ASSERT_EQ(server.requestCount("/"), 2u);
     EXPECT_EQ(server.requests.back().headers["if-none-match"], "\"one\"");
-}
-
-TEST_F(WebViewTest, cookiesAndStorageAreThereInTheNextRun)
-{
-    server.pages["/"].headers = {{"Set-Cookie", "kept=yes; Max-Age=3600; Secure; HttpOnly"}};
-    openView();
-    ASSERT_TRUE(loads("/"));
-    EXPECT_EQ(
-        valueOf("(localStorage.setItem('kept', 'too'), localStorage.getItem('kept'))"), "too");
-    startEngine();
-    openView();
-
-    ASSERT_TRUE(loads("/"));
-
     EXPECT_EQ(server.requests.back().headers["cookie"], "kept=yes");
-    EXPECT_EQ(valueOf("localStorage.getItem('kept')"), "too");
-}
-
-TEST_F(WebViewTest, aViewWithoutPersistentStoreLeavesNothingBehind)
-{
-    server.pages["/"].headers = {{"Set-Cookie", "kept=yes; Max-Age=3600; Secure"}};
-    configuration.userContentController.scriptMessageHandlers = {{"probe", probe}};
-    const auto openPrivately = [this] {
-        configuration.websiteDataStore = platform::WKWebsiteDataStore::nonPersistent;
-        view = std::make_shared<gtk::GtkWebView>(*engine, configuration);
-        view->setShown(true);
-        return loads("/");
-    };
-    ASSERT_TRUE(openPrivately());
-    EXPECT_EQ(valueOf("document.cookie"), "kept=yes");
-    view.reset();
-
-    ASSERT_TRUE(openPrivately());
-
-    EXPECT_FALSE(server.requests.back().headers.contains("cookie"));
+    EXPECT_EQ(valueOf("localStorage.kept"), "too");
 }
 
 TEST_F(WebViewTest, userScriptsRunInTheMainFrameBeforeAndAfterThePagesOwn)
 {
     using Time = platform::WKUserScript::InjectionTime;
-    server.pages["/"].body = "<title>Home</title><script>seen.push('page')</script>"
-                             "<iframe src='/frame'></iframe>";
-    server.pages["/frame"].body =
-        "<script>parent.seen.push(typeof seen === 'undefined' ? 'clean' : 'scripted')</script>";
+    server.pages["/"].body = "<title>Home</title><script>seen += ' page'</script>"
+                             "<iframe srcdoc='<script>parent.inner = typeof seen</script>'>";
     configuration.userContentController.userScripts = {
-        {.source = "window.seen = ['start \\u00e9\u00e9'];",
-            .injectionTime = Time::atDocumentStart},
-        {.source = "seen.push('end ' + document.readyState);",
-            .injectionTime = Time::atDocumentEnd},
+        {.source = "seen = '\u00e9'", .injectionTime = Time::atDocumentStart},
+        {.source = "seen += ' ' + document.readyState", .injectionTime = Time::atDocumentEnd},
     };
     openView();
     ASSERT_TRUE(loads("/"));
-
-    ASSERT_TRUE(until([&] { return valueOf("seen.length") == platform::Value(4); }));
-    EXPECT_EQ(valueOf("seen[0]"), "start \u00e9\u00e9");
-    EXPECT_EQ(valueOf("seen[1]"), "page");
-    EXPECT_EQ(valueOf("seen.includes('end interactive')"), true);
-    EXPECT_EQ(valueOf("seen.includes('clean')"), true);
+    EXPECT_TRUE(until([&] { return valueOf("seen") == "\u00e9 page interactive"; }));
+    EXPECT_TRUE(until([&] { return valueOf("window.inner") == "undefined"; }));
 }
 
 TEST_F(WebViewTest, looksAndIntroducesItselfAsTheApplicationWants)
@@ -157,15 +106,12 @@ TEST_F(WebViewTest, whatComesAfterTheViewHasGoneReachesNobody)
     openView();
     ASSERT_TRUE(loads("/"));
     std::weak_ptr<gtk::GtkWebView> gone = view;
-    auto* widget = GTK_WIDGET(native());
-    g_object_add_weak_pointer(G_OBJECT(widget), reinterpret_cast<gpointer*>(&widget));
     view->evaluateJavaScript("setInterval(() => webkit.messageHandlers.probe.postMessage(1), 1)");
     ASSERT_TRUE(until([&] { return !probe->messages.empty(); }));
 
     closeView();
 
     EXPECT_TRUE(gone.expired());
-    EXPECT_TRUE(until([&] { return !widget; }));
     EXPECT_FALSE(engine->isVisiblePageReady());
 }
 

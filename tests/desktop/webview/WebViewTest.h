@@ -72,8 +72,7 @@ protected:
     }
 
     // An engine on the same folders as the one before, which is gone with its view.
-    void startEngine() { startEngine("server.pem"); }
-    void startEngine(const std::string& trusted)
+    void startEngine(const std::string& trusted = "server.pem")
     {
         closeView();
         engine.reset();
@@ -106,11 +105,9 @@ protected:
         window.reset();
     }
 
-    void load(const std::string& path,
-        platform::URLRequest::CachePolicy policy =
-            platform::URLRequest::CachePolicy::useProtocolCachePolicy)
+    void load(const std::string& path)
     {
-        view->load({.url = *platform::URL::fromString(server.url(path)), .cachePolicy = policy});
+        view->load({.url = *platform::URL::fromString(server.url(path))});
     }
 
     [[nodiscard]] bool loads(const std::string& path, const std::string& title = "Home")
@@ -152,17 +149,6 @@ protected:
     [[nodiscard]] bool failsWith(const std::string& title)
     {
         return until([&] { return panel() && view->title() == title && !view->isLoading(); });
-    }
-
-    // The cache is written some time after a page has been loaded.
-    bool hasCachedSomething() const
-    {
-        std::error_code error;
-        const std::filesystem::recursive_directory_iterator files(folder_ / "cache", error);
-        return std::any_of(begin(files), end(files), [](const auto& file) {
-            return file.is_regular_file()
-                && file.path().string().find("/Records/") != std::string::npos;
-        });
     }
 
     // Of the engine, for this test alone.
