@@ -59,30 +59,19 @@ bool comesToLookDark(const DesktopWindow& window, bool isDark)
 
 } // namespace
 
-TEST(Appearance, followsTheDesktopWhileItRuns)
-{
-    DemoServiceProcess service;
-    FakeSettingsPortal portal(dark);
-    AppProcess app(service);
-    const auto window = app.waitForWindow();
-    ASSERT_TRUE(window);
-    EXPECT_TRUE(comesToLookDark(*window, true));
-    portal.change("color-scheme", noPreference);
-    EXPECT_TRUE(comesToLookDark(*window, false));
-
-    const auto usual = stripLightness(*window);
-    portal.change("contrast", highContrast);
-    EXPECT_TRUE(eventually([&] { return stripLightness(*window) != usual; }));
-}
-
-TEST(Appearance, isKnownBeforeTheDesktopAnswersAtTheNextStart)
+TEST(Appearance, followsTheDesktopAndIsKnownAtTheNextStart)
 {
     DemoServiceProcess service;
     {
-        FakeSettingsPortal portal(dark);
+        FakeSettingsPortal portal(noPreference);
         AppProcess app(service);
         const auto window = app.waitForWindow();
         ASSERT_TRUE(window);
+        EXPECT_TRUE(comesToLookDark(*window, false));
+        const auto usual = stripLightness(*window);
+        portal.change("contrast", highContrast);
+        EXPECT_TRUE(eventually([&] { return stripLightness(*window) != usual; }));
+        portal.change("color-scheme", dark);
         ASSERT_TRUE(comesToLookDark(*window, true));
         window->close();
         EXPECT_TRUE(app.process().waitForExit());

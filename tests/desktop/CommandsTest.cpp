@@ -51,10 +51,8 @@ TEST_F(Commands, reachThePageWhileItHasTheKeyboard)
     const Case cases[] = {
         {"ctrl+shift+f", "/online/api/fuel"},
         {"ctrl+shift+v", "/online/api/vehicles"},
-        {"ctrl+shift+c", "/online/api/charging"},
-        {"ctrl+shift+d", "/online/api/drivers"},
         {"ctrl+shift+h", "/online/api/dashboard"},
-        {"ctrl+bracketleft", "/online/api/drivers"},
+        {"ctrl+bracketleft", "/online/api/vehicles"},
         {"ctrl+bracketright", "/online/api/dashboard"},
         {"ctrl+r", "/online"},
         {"F5", "/online"},
@@ -67,22 +65,10 @@ TEST_F(Commands, reachThePageWhileItHasTheKeyboard)
 
     choose("alt+h", "What's New");
     EXPECT_TRUE(app->shows("What’s new"));
-    choose("alt+h", "Velmaro Help Center");
-    EXPECT_TRUE(app->shows("Help center"));
-    choose("alt+h", "Support Tickets");
-    EXPECT_TRUE(app->shows("Support"));
 }
 
-TEST_F(Commands, openFindAndCloseWithTheKeyboardAlone)
+TEST_F(Commands, openAndCloseTabsWithTheKeyboardAlone)
 {
-    UserInput::press("ctrl+f");
-    ASSERT_TRUE(app->shows("Next match (⌘G)"));
-    UserInput::type("no such words");
-    UserInput::press("ctrl+g");
-    EXPECT_TRUE(app->shows("Not found"));
-    UserInput::press("Escape");
-    EXPECT_TRUE(app->loses("Next match (⌘G)"));
-
     UserInput::press("ctrl+t");
     ASSERT_TRUE(app->shows("New tab"));
     UserInput::press("ctrl+shift+bracketleft");
@@ -145,20 +131,12 @@ TEST_F(Commands, permissionsCanBeChanged)
         std::ifstream file(SavedSettings::path().parent_path() / "permissions.json");
         return nlohmann::json::parse(file, nullptr, false);
     };
-    const auto isKept = [&](const char* name, bool isAllowed, std::chrono::seconds limit) {
-        return eventually(
-            [&] { return permissions().value(name, !isAllowed) == isAllowed; }, limit);
-    };
+    const auto isAllowed = [&] { return permissions().value("locationAllowed", false); };
     choose("F10", "Permissions\u2026");
     ASSERT_TRUE(eventually([&] { // the window may not have the keyboard yet
         UserInput::press("space");
-        return isKept("locationAllowed", true, std::chrono::seconds(5));
+        return eventually(isAllowed, std::chrono::seconds(5));
     }));
-    UserInput::press("Tab");
-    for (const bool isAllowed : {true, false}) {
-        UserInput::press("space");
-        EXPECT_TRUE(isKept("notificationsAllowed", isAllowed, generousLimit));
-    }
     UserInput::press("Escape");
     EXPECT_TRUE(eventually([] { return Desktop::windows().size() == 1; }));
 }
@@ -169,17 +147,8 @@ TEST_F(Commands, clearAllDataLeavesOneTabOnTheWelcomePageAndNothingOfTheUser)
     ASSERT_TRUE(app->shows("New tab"));
     ASSERT_TRUE(eventually([] { return !filesThatTellOf("Robin").empty(); }));
 
-    const auto ask = [this] {
-        choose("alt+h", "Clear All Cache…");
-        ASSERT_TRUE(app->shows("Clear all cached data?"));
-    };
-    ask();
-    UserInput::press("Escape");
-    ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 1; }));
-    EXPECT_NE(filesThatTellOf("Robin.Alder"), "");
-    EXPECT_TRUE(service.requests("/online/welcome.php").empty());
-
-    ask();
+    choose("alt+h", "Clear All Cache…");
+    ASSERT_TRUE(app->shows("Clear all cached data?"));
     UserInput::press("Return");
     EXPECT_TRUE(service.isAsked("/online/welcome.php"));
     EXPECT_TRUE(app->waitForPage());

@@ -3,9 +3,7 @@
 #include "harness/AppProcess.h"
 #include "harness/InstalledProgram.h"
 #include "harness/SavedSettings.h"
-#include "harness/UserInput.h"
 
-#include <csignal>
 #include <glibmm/keyfile.h>
 #include <glibmm/shell.h>
 #include <gtest/gtest.h>
@@ -59,21 +57,6 @@ TEST_F(DesktopEntry, actionsStartTheApplicationAndWaitInOrder)
     choose("LogChargingSession");
     EXPECT_TRUE(service.isAsked("/online/api/charging"));
     EXPECT_TRUE(closeWithTabs(2));
-}
-
-TEST_F(DesktopEntry, actionsReachTheMainWindowBehindAnotherOne)
-{
-    AppProcess app(service);
-    ASSERT_TRUE(app.waitForPage());
-    UserInput::press("ctrl+question");
-    ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 2; }));
-    for (const auto& action : entry->get_string_list("Desktop Entry", "Actions"))
-        choose(action);
-    EXPECT_TRUE(service.isAsked("/online/api/fuel"));
-    EXPECT_TRUE(service.isAsked("/online/api/charging"));
-    app.process().signal(SIGTERM);
-    EXPECT_EQ(app.process().waitForExit(), 0);
-    EXPECT_EQ(SavedSettings::read()["vl.open.routes"].size(), 2u);
 }
 
 } // namespace desktop

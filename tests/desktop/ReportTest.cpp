@@ -15,12 +15,6 @@ class Report : public testing::Test {
 protected:
     Report() { SavedSettings::write({{"vl.open.routes", {"reports"}}}); }
 
-    // The tab keeps its process, and the engine one more for whatever comes next.
-    [[nodiscard]] static bool endsItsProcess(const AppProcess& app)
-    {
-        return eventually([&] { return app.webProcesses().size() <= 2; });
-    }
-
     DemoServiceProcess service;
     const std::filesystem::path downloads =
         std::filesystem::path(std::getenv("HOME")) / "Downloads";
@@ -43,7 +37,8 @@ TEST_F(Report, isSavedFromThePageAndShownInItsFolder)
     Process text({"pdftotext", file, "-"});
     EXPECT_EQ(text.waitForExit(), 0);
     EXPECT_NE(text.output().find("Energy costs by month"), std::string::npos);
-    EXPECT_TRUE(endsItsProcess(app));
+    // The tab keeps its process, and the engine one more for whatever comes next.
+    EXPECT_TRUE(eventually([&] { return app.webProcesses().size() <= 2; }));
 
     EXPECT_TRUE(app.press("Reveal in Finder"));
     EXPECT_TRUE(fileManager.isCalled(
@@ -58,16 +53,6 @@ TEST_F(Report, thatCannotBeWrittenSaysWhyAndLeavesNothing)
     EXPECT_TRUE(app.shows("Couldn't save PDF: Not a directory"));
     EXPECT_TRUE(app.press("OK") && app.loses("OK"));
     EXPECT_TRUE(std::filesystem::is_regular_file(downloads));
-}
-
-TEST_F(Report, isNotPrintedAndTheWindowGoesOn)
-{
-    AppProcess app(service);
-    for (int times = 0; times < 2; ++times) {
-        ASSERT_TRUE(ReportsPage::pressPrint(app));
-        ASSERT_TRUE(app.press("Cancel"));
-        EXPECT_TRUE(endsItsProcess(app));
-    }
 }
 
 } // namespace desktop

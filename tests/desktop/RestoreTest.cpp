@@ -31,41 +31,31 @@ bool opensTheVehiclesPageFirst(AppProcess& app, const DemoServiceProcess& servic
     return false;
 }
 
-void closeWindow(AppProcess& app)
-{
-    if (const auto window = app.waitForWindow())
-        window->close();
-}
-
-template <int number> void sendSignal(AppProcess& app)
-{
-    app.process().signal(number);
-}
-
 } // namespace
 
 TEST(Restore, tabsAreSavedAtAnOrderlyEndAndComeBackAfterAnyEnd)
 {
     struct Case {
         const char* name;
-        void (*end)(AppProcess&);
-        bool isOrderly;
+        std::optional<int> signal; // absent: the window is closed
     };
     const Case cases[] = {
-        {"kill", sendSignal<SIGKILL>, false},
-        {"closed window", closeWindow, true},
-        {"SIGTERM", sendSignal<SIGTERM>, true},
-        {"SIGINT", sendSignal<SIGINT>, true},
-        {"SIGHUP", sendSignal<SIGHUP>, true},
+        {"kill", SIGKILL},
+        {"closed window", std::nullopt},
+        {"SIGTERM", SIGTERM},
     };
     DemoServiceProcess service;
-    for (const auto& [name, end, isOrderly] : cases) {
+    for (const auto& [name, signal] : cases) {
         SCOPED_TRACE(name);
         SavedSettings::write(untidyTabs);
         service.forgetRequests();
         AppProcess app(service);
         EXPECT_TRUE(opensTheVehiclesPageFirst(app, service));
-        end(app);
+        if (signal)
+            app.process().signal(*signal);
+        else
+            app.waitForWindow()->close();
+        const bool isOrderly = signal != SIGKILL;
         EXPECT_EQ(app.process().waitForExit(), isOrderly ? 0 : -SIGKILL);
         const auto& routes = isOrderly ? tidyRoutes : untidyTabs["vl.open.routes"];
         EXPECT_EQ(SavedSettings::read()["vl.open.routes"], routes);

@@ -26,21 +26,6 @@ nlohmann::json savedRoutes()
 
 constexpr auto clientPath = "/org/gnome/SessionManager/Client1";
 
-// An X server of its own, to be taken away from under the application.
-class DisplayServer {
-public:
-    std::string name()
-    {
-        const bool isUp = eventually([&] { return !process_.output().empty(); });
-        return isUp ? ":" + process_.output().substr(0, process_.output().find('\n')) : "";
-    }
-
-    void end() { process_.signal(SIGTERM); }
-
-private:
-    Process process_{{"Xvfb", "-displayfd", "1", "-screen", "0", "1000x700x24"}};
-};
-
 } // namespace
 
 TEST(SessionEnd, theTabsAreSavedWhenTheSessionEnds)
@@ -76,12 +61,13 @@ TEST(SessionEnd, theTabsAreSavedWhenTheDisplayServerEnds)
 {
     saveUntidyRoutes();
     DemoServiceProcess service;
-    DisplayServer server;
+    Process server({"Xvfb", "-displayfd", "1", "-screen", "0", "1000x700x24"});
+    ASSERT_TRUE(eventually([&] { return server.output().ends_with('\n'); }));
     auto environment = service.clientEnvironment();
-    environment["DISPLAY"] = server.name();
+    environment["DISPLAY"] = ":" + server.output().substr(0, server.output().find('\n'));
     AppProcess app({}, environment);
     ASSERT_TRUE(eventually([&] { return !service.requests("/online").empty(); }));
-    server.end();
+    server.signal(SIGTERM);
     EXPECT_NE(app.process().waitForExit(), std::nullopt);
     EXPECT_EQ(savedRoutes(), tidyRoutes);
 }

@@ -38,8 +38,6 @@ void FakeGeoClue::start(const FakeService::Call& call)
 {
     if (manner_ == Manner::denies)
         return call.refuse("org.freedesktop.DBus.Error.AccessDenied", "no");
-    if (manner_ == Manner::fails)
-        return call.refuse("org.freedesktop.DBus.Error.Failed", "broken");
     if (manner_ == Manner::neverDecides)
         return;
     call.answer();

@@ -10,7 +10,6 @@ public:
     enum class Manner {
         grants, // tells all its places, one after the other
         denies,
-        fails,
         staysSilent, // never answers at all
         neverDecides, // as when the desktop asks a user who has gone
     };

@@ -16,11 +16,8 @@ FakeNotificationDaemon::FakeNotificationDaemon(Manner manner)
                         ? "(['body', 'actions', 'persistence', 'body-markup'],)"
                         : "(['body', 'actions', 'persistence'],)")},
             {"Notify",
-                [this, manner](const auto& call) {
-                    if (manner == Manner::refuses)
-                        call.refuse("org.freedesktop.DBus.Error.LimitsExceeded", "too many");
-                    else
-                        call.answer(g_variant_new("(u)", shown().back().number));
+                [this](const auto& call) {
+                    call.answer(g_variant_new("(u)", shown().back().number));
                 }},
         })
 {
@@ -35,15 +32,13 @@ std::vector<FakeNotificationDaemon::Notification> FakeNotificationDaemon::shown(
             continue;
         Notification shown;
         const char *title = nullptr, *body = nullptr;
-        g_autoptr(GVariant) actions = nullptr;
         g_autoptr(GVariant) hints = nullptr;
         g_variant_get(call.arguments.get(), "(&su&s&s&s@as@a{sv}i)", nullptr, &shown.replaced,
-            nullptr, &title, &body, &actions, &hints, nullptr);
-        g_autofree char* actionsText = g_variant_print(actions, FALSE);
+            nullptr, &title, &body, nullptr, &hints, nullptr);
         g_autofree char* hintsText = g_variant_print(hints, FALSE);
         shown.number = shown.replaced ? shown.replaced : ++lastNumber;
         shown.title = title, shown.body = body;
-        shown.actions = actionsText, shown.hints = hintsText;
+        shown.hints = hintsText;
         result.push_back(shown);
     }
     return result;
@@ -55,12 +50,6 @@ void FakeNotificationDaemon::click(std::uint32_t number)
     tell("ActivationToken", g_variant_new("(us)", number, "token"));
     tell("ActionInvoked", g_variant_new("(us)", number, "default"));
     tell("NotificationClosed", g_variant_new("(uu)", number, wasDismissed));
-}
-
-void FakeNotificationDaemon::expire(std::uint32_t number)
-{
-    constexpr std::uint32_t hasExpired = 1;
-    tell("NotificationClosed", g_variant_new("(uu)", number, hasExpired));
 }
 
 void FakeNotificationDaemon::tell(const char* signal, GVariant* values)

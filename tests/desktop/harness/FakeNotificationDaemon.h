@@ -12,7 +12,6 @@ public:
     enum class Manner {
         showsMarkup, // in the body
         showsPlainText,
-        refuses,
     };
 
     struct Notification {
@@ -20,8 +19,7 @@ public:
         std::uint32_t replaced = 0; // the number of the one that it takes the place of, or 0
         std::string title;
         std::string body;
-        std::string actions; // both as GVariant prints them
-        std::string hints;
+        std::string hints; // as GVariant prints them
     };
 
     explicit FakeNotificationDaemon(Manner manner = Manner::showsMarkup);
@@ -31,8 +29,6 @@ public:
 
     // The user clicks the notification; it goes away.
     void click(std::uint32_t number);
-    // The notification leaves the screen by itself.
-    void expire(std::uint32_t number);
 
 private:
     void tell(const char* signal, GVariant* values);
