@@ -1,11 +1,11 @@
 #include "Desktop.h"
 
 #include <algorithm>
+#include <array>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <memory>
 #include <stdexcept>
 #include <X11/extensions/Xdamage.h>
-#include <X11/extensions/XTest.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -52,17 +52,14 @@ template <class Element> std::vector<Element> property(Window window, const char
     return {elements, elements + count};
 }
 
-struct Extents {
-    int left = 0, right = 0, top = 0, bottom = 0;
-};
-
-Extents extents(Window window, const char* name)
+// The four numbers of a property; zeros where it is missing.
+std::array<int, 4> fourNumbers(Window window, const char* name)
 {
-    const auto sides = property<unsigned long>(window, name);
-    if (sides.size() != 4)
-        return {};
-    return {static_cast<int>(sides[0]), static_cast<int>(sides[1]), static_cast<int>(sides[2]),
-        static_cast<int>(sides[3])};
+    std::array<int, 4> result = {};
+    const auto numbers = property<unsigned long>(window, name);
+    if (numbers.size() >= result.size())
+        std::copy_n(numbers.begin(), result.size(), result.begin());
+    return result;
 }
 
 } // namespace
@@ -118,10 +115,11 @@ Rectangle DesktopWindow::frame() const
     Window child = None;
     XTranslateCoordinates(display(), id_, attributes.root, 0, 0, &x, &y, &child);
 
-    const auto added = extents(id_, "_NET_FRAME_EXTENTS");
-    const auto shadow = extents(id_, "_GTK_FRAME_EXTENTS");
-    const int left = added.left - shadow.left, right = added.right - shadow.right;
-    const int top = added.top - shadow.top, bottom = added.bottom - shadow.bottom;
+    // Each of the left, right, upper and lower side.
+    const auto added = fourNumbers(id_, "_NET_FRAME_EXTENTS");
+    const auto shadow = fourNumbers(id_, "_GTK_FRAME_EXTENTS");
+    const int left = added[0] - shadow[0], right = added[1] - shadow[1];
+    const int top = added[2] - shadow[2], bottom = added[3] - shadow[3];
     return {x - left, y - top, attributes.width + left + right, attributes.height + top + bottom};
 }
 
@@ -144,18 +142,6 @@ std::optional<Picture> DesktopWindow::picture() const
     }
     XDestroyImage(image);
     return picture;
-}
-
-void DesktopWindow::click(int x, int y) const
-{
-    int rootX = 0, rootY = 0;
-    Window child = None;
-    XTranslateCoordinates(
-        display(), id_, DefaultRootWindow(display()), x, y, &rootX, &rootY, &child);
-    XTestFakeMotionEvent(display(), -1, rootX, rootY, CurrentTime);
-    XTestFakeButtonEvent(display(), Button1, True, CurrentTime);
-    XTestFakeButtonEvent(display(), Button1, False, CurrentTime);
-    XFlush(display());
 }
 
 void DesktopWindow::close() const
@@ -215,11 +201,9 @@ std::optional<DesktopWindow> Desktop::window(const std::string& title)
 
 Rectangle Desktop::workArea()
 {
-    const auto areas = property<unsigned long>(DefaultRootWindow(display()), "_NET_WORKAREA");
-    if (areas.size() < 4)
-        return {};
-    return {static_cast<int>(areas[0]), static_cast<int>(areas[1]), static_cast<int>(areas[2]),
-        static_cast<int>(areas[3])};
+    // Of the first workspace; the others follow.
+    const auto [x, y, width, height] = fourNumbers(DefaultRootWindow(display()), "_NET_WORKAREA");
+    return {x, y, width, height};
 }
 
 } // namespace desktop

@@ -67,9 +67,6 @@ public:
     // screen.
     std::optional<Picture> picture() const;
 
-    // Presses the first mouse button there, in pixels of the picture.
-    void click(int x, int y) const;
-
     // Asks it to close, as its close button does.
     void close() const;
 

@@ -3,55 +3,16 @@
 #include "Files.h"
 
 #include <csignal>
-#include <fcntl.h>
 #include <fstream>
-#include <poll.h>
+#include <gio/gio.h>
 #include <sstream>
 #include <stdexcept>
 #include <sys/prctl.h>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
-
-// This header of the C library does not say that it is one of C.
-extern "C" {
-#include <sys/pidfd.h>
-}
 
 namespace desktop {
 
 namespace {
-
-std::vector<std::string> inheritedWith(const Process::Environment& changes)
-{
-    std::vector<std::string> result;
-    for (char** entry = environ; *entry; ++entry) {
-        const std::string text = *entry;
-        if (!changes.count(text.substr(0, text.find('='))))
-            result.push_back(text);
-    }
-    for (const auto& [name, value] : changes) {
-        if (!value.empty())
-            result.push_back(name + "=" + value);
-    }
-    return result;
-}
-
-std::vector<char*> pointersTo(const std::vector<std::string>& texts)
-{
-    std::vector<char*> result;
-    for (const auto& text : texts)
-        result.push_back(const_cast<char*>(text.c_str()));
-    result.push_back(nullptr);
-    return result;
-}
-
-void redirect(int descriptor, const char* path)
-{
-    const int file = open(path, O_WRONLY | O_CREAT | O_TRUNC | O_APPEND, 0600);
-    dup2(file, descriptor);
-    close(file);
-}
 
 struct ProcessStatus {
     std::string name;
@@ -96,23 +57,27 @@ Process::Process(const std::vector<std::string>& arguments, const Environment& c
         throw std::runtime_error("no folder for the output of " + arguments.front());
     folder_ = folder;
 
-    // Everything that allocates comes before the fork.
-    const auto environment = inheritedWith(changes);
-    const auto environmentPointers = pointersTo(environment);
-    const auto argumentPointers = pointersTo(arguments);
-    const std::string output = folder_ / "output", errors = folder_ / "errors";
-
-    pid_ = fork();
-    if (pid_ == 0) {
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
-        redirect(STDOUT_FILENO, output.c_str());
-        redirect(STDERR_FILENO, errors.c_str());
-        execvpe(argumentPointers.front(), argumentPointers.data(), environmentPointers.data());
-        _exit(127);
+    g_autoptr(GSubprocessLauncher) launcher =
+        g_subprocess_launcher_new(G_SUBPROCESS_FLAGS_STDIN_INHERIT);
+    for (const auto& [name, value] : changes) {
+        if (value.empty())
+            g_subprocess_launcher_unsetenv(launcher, name.c_str());
+        else
+            g_subprocess_launcher_setenv(launcher, name.c_str(), value.c_str(), true);
     }
-    handle_ = pid_ < 0 ? -1 : pidfd_open(pid_, 0);
-    if (handle_ < 0)
+    g_subprocess_launcher_set_stdout_file_path(launcher, (folder_ / "output").c_str());
+    g_subprocess_launcher_set_stderr_file_path(launcher, (folder_ / "errors").c_str());
+    g_subprocess_launcher_set_child_setup(
+        launcher, [](gpointer) { prctl(PR_SET_PDEATHSIG, SIGKILL); }, nullptr, nullptr);
+
+    std::vector<const char*> texts;
+    for (const auto& argument : arguments)
+        texts.push_back(argument.c_str());
+    texts.push_back(nullptr);
+    subprocess_ = g_subprocess_launcher_spawnv(launcher, texts.data(), nullptr);
+    if (!subprocess_)
         throw std::runtime_error("cannot start " + arguments.front());
+    pid_ = std::atoi(g_subprocess_get_identifier(subprocess_));
 }
 
 Process::~Process()
@@ -122,24 +87,21 @@ Process::~Process()
         signal(SIGKILL);
         waitForExit();
     }
-    close(handle_);
+    g_object_unref(subprocess_);
     std::filesystem::remove_all(folder_);
 }
 
 void Process::signal(int number) const
 {
-    pidfd_send_signal(handle_, number, nullptr, 0);
+    g_subprocess_send_signal(subprocess_, number);
 }
 
-std::optional<int> Process::waitForExit(std::chrono::milliseconds limit)
+std::optional<int> Process::waitForExit(std::chrono::milliseconds limit) const
 {
-    pollfd ended{.fd = handle_, .events = POLLIN, .revents = 0};
-    if (status_ || poll(&ended, 1, static_cast<int>(limit.count())) != 1)
-        return status_;
-    int status = 0;
-    waitpid(pid_, &status, 0);
-    status_ = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-    return status_;
+    if (!eventually([&] { return !g_subprocess_get_identifier(subprocess_); }, limit))
+        return {};
+    return g_subprocess_get_if_exited(subprocess_) ? g_subprocess_get_exit_status(subprocess_)
+                                                   : -g_subprocess_get_term_sig(subprocess_);
 }
 
 std::string Process::output() const

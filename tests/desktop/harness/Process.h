@@ -9,6 +9,8 @@
 #include <sys/types.h>
 #include <vector>
 
+typedef struct _GSubprocess GSubprocess; // of GLib, whose headers not every user of this one has
+
 namespace desktop {
 
 // Longer than anything on a busy machine may take: tests end early when a condition comes true, and
@@ -27,8 +29,7 @@ public:
     // What to set in the inherited environment; an empty value takes the variable away.
     using Environment = std::map<std::string, std::string>;
 
-    // Throws std::runtime_error when the system cannot start another process. A program that is
-    // missing exits with 127.
+    // Throws std::runtime_error when the program is missing or the system cannot start another.
     explicit Process(
         const std::vector<std::string>& arguments, const Environment& environment = {});
 
@@ -39,12 +40,12 @@ public:
     Process& operator=(const Process&) = delete;
 
     pid_t pid() const { return pid_; }
-    bool isRunning() { return !waitForExit(std::chrono::milliseconds(0)); }
+    bool isRunning() const { return !waitForExit(std::chrono::milliseconds(0)); }
     void signal(int number) const;
 
     // The exit status, or minus the number of the signal that ended it. Absent when it is running
     // after `limit`.
-    std::optional<int> waitForExit(std::chrono::milliseconds limit = generousLimit);
+    std::optional<int> waitForExit(std::chrono::milliseconds limit = generousLimit) const;
 
     // Everything it has written so far.
     std::string output() const;
@@ -57,8 +58,7 @@ public:
 private:
     std::filesystem::path folder_; // of the two files that take the output
     pid_t pid_ = -1;
-    int handle_ = -1;
-    std::optional<int> status_;
+    GSubprocess* subprocess_ = nullptr; // owned
 };
 
 } // namespace desktop

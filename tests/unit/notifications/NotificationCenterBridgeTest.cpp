@@ -10,9 +10,9 @@ using velmaro::NotificationCenterBridge;
 namespace {
 
 struct Notifications : testing::Test {
-    void post(const std::string& title, const std::optional<std::string>& link = {})
+    void post(const std::string& title)
     {
-        NotificationCenterBridge::shared().post(title, "Body", link, "id");
+        NotificationCenterBridge::shared().post(title, "Body", "", "id");
         platform.mainQueue().runUntilIdle();
     }
 
@@ -47,33 +47,10 @@ TEST_F(Notifications, waitForTheAnswerToTheOnlyQuestionOfARun)
     post("third");
 
     EXPECT_EQ(center.questions.size(), 1u);
-    ASSERT_EQ(center.shown.size(), 1u);
-    EXPECT_EQ(center.shown[0].content.title, "first");
-}
-
-TEST_F(Notifications, sayWhatThePageWanted)
-{
-    center.status = UNAuthorizationStatus::authorized;
-    using Info = std::map<std::string, std::string>;
-    const std::pair<std::optional<std::string>, Info> cases[] = {
-        {"", {}}, {"velmaro://page/fuel", {{"vlDeepLink", "velmaro://page/fuel"}}}};
-    for (const auto& [link, userInfo] : cases) {
-        post("Title", link);
-        EXPECT_EQ(center.shown.back(),
-            (platform::UNNotificationRequest{
-                "id", {"Title", "Body", platform::UNNotificationSound::defaultSound, userInfo}}));
-    }
+    EXPECT_EQ(center.shown,
+        std::vector({platform::UNNotificationRequest{
+            "id", {"first", "Body", platform::UNNotificationSound::defaultSound, {}}}}));
     EXPECT_EQ(center.presentationOf(center.shown.back()), 18u);
-}
-
-TEST_F(Notifications, leaveALineInTheLogWhenTheyCannotBePosted)
-{
-    center.status = UNAuthorizationStatus::authorized;
-    center.postError = platform::NSError{"There is no service."};
-    post("Title");
-    EXPECT_EQ(platform.logLines,
-        std::vector<std::string>{"Velmaro notify post failed: There is no service."});
-    EXPECT_EQ(platform.alerts().waitingCount(), 0u);
 }
 
 TEST_F(Notifications, bringTheFirstMainWindowForwardAndOpenTheirLink)

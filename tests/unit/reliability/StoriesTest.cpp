@@ -24,7 +24,7 @@ const Story stories[] = {
     {"links", {"load the page", "sign in", "open a link", "notify", "click the notification"}},
     {"files", {"load the page", "download", "download", "drop a file"}},
     {"reports", {"load the page", "save a report", "print a report", "save a report"}},
-    {"places", {"load the page", "sign in", "pick a place", "use the location"}},
+    {"places", {"load the page", "sign in", "pick a place"}},
     {"search", {"load the page", "find", "find", "close the find bar"}},
     {"goodbye", {"load the page", "sign in", "open a tab", "log out", "sign out", "clear all"}},
 };

@@ -156,16 +156,9 @@ void pickPlace(Session& session)
 {
     if (!session.press("Find gas stations"))
         return;
-    const auto& content = session.platform.application().window().content();
-    const auto fields = content.findAll<ui::TextFieldNode>();
-    const auto field = std::ranges::find_if(fields, [](const auto* candidate) {
-        return candidate->template node<ui::TextFieldNode>()->options.placeholder
-            == "Search for an address or place";
-    });
-    if (field == fields.end())
-        return; // it was open, and has been closed
-    (*field)->node<ui::TextFieldNode>()->text.set("Ferry");
     const auto completer = session.platform.searchCompleters().back().lock();
+    if (!completer)
+        return; // it was open, and has been closed
     if (session.fails())
         completer->simulateFailure({"The network has gone"});
     else
@@ -177,25 +170,6 @@ void pickPlace(Session& session)
             search->simulateCompletion(std::nullopt, NSError{"The network has gone"});
         else
             search->simulatePlaces({{47.4, 8.5}});
-    }
-    session.settle();
-    session.press("Close");
-}
-
-void useCurrentLocation(Session& session)
-{
-    if (!session.press("Traffic alerts") || !session.press("Use my current location"))
-        return;
-    const auto manager = session.platform.locationManagers().back().lock();
-    if (manager->authorizationStatus() == platform::CLAuthorizationStatus::notDetermined)
-        manager->simulateAuthorization(session.fails()
-                ? platform::CLAuthorizationStatus::denied
-                : platform::CLAuthorizationStatus::authorizedAlways);
-    if (manager->locationRequests > 0) {
-        if (session.fails())
-            manager->simulateFailure({"No position"});
-        else
-            manager->simulateLocations({{{47.4, 8.5}}});
     }
     session.settle();
     session.press("Close");
@@ -260,7 +234,6 @@ const std::vector<UserSession::Step>& UserSession::steps()
         {"close the find bar", [](Session& s) { s.tabs()->activeTab()->closeFind(); }},
         {"clear all", clearAll},
         {"pick a place", pickPlace},
-        {"use the location", useCurrentLocation},
         {"drop a file", dropFile},
         {"show About", [](Session& s) { chooseItem(s, "About Velmaro Online"); }},
         {"leave About", leaveAbout},

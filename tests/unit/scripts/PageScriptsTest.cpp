@@ -42,19 +42,13 @@ const std::vector<std::string> hostilePieces = {"'", "\"", "`", "\\", "\n", "\r"
     "intruded=1", ";intruded=1;", "//", "/*", "*/", "${intruded=1}", "}", "{", "#", "+", "x27",
     "u{27}", "<!--", "-->", "</script>", "fuel", "\u00e9", "\\x27", "-intruded++-"};
 
-class HostileTexts {
-public:
-    std::string next()
-    {
-        std::string text;
-        for (auto count = engine_() % 9; count > 0; --count)
-            text += hostilePieces[engine_() % hostilePieces.size()];
-        return text;
-    }
-
-private:
-    std::mt19937 engine_{20'240'607};
-};
+std::string hostileText(std::mt19937& engine)
+{
+    std::string text;
+    for (auto count = engine() % 9; count > 0; --count)
+        text += hostilePieces[engine() % hostilePieces.size()];
+    return text;
+}
 
 bool hasLineBreak(const std::string& text)
 {
@@ -79,31 +73,21 @@ TEST(PageScripts, showARouteThroughThePagesOwnFunctionElseByItsAddress)
         ScriptEngine bare(barePage);
         bare.evaluate(PageScripts::showRoute(route));
         EXPECT_EQ(bare.value("location.href"), Value(std::string("/online#") + shown));
-    }
-}
 
-TEST(PageScripts, callThePagesFunctionAfterShowingTheRoute)
-{
-    const std::pair<std::string, Value> cases[] = {
-        {PageScripts::showRouteAndCall("fuel", "add'Fuel'"),
-            noted({Call{"showPage", "fuel"}, Call{"addFuel"}})},
-        {PageScripts::showRouteAndCall("fuel", "isNotThere"), noted({Call{"showPage", "fuel"}})},
-    };
-    for (const auto& [script, calls] : cases) {
-        ScriptEngine page(pageWithShowPage);
-        page.evaluate(script);
+        page.evaluate(forget);
+        page.evaluate(PageScripts::showRouteAndCall(route, "add'Fuel'"));
         EXPECT_EQ(page.exception(), "");
-        EXPECT_EQ(page.value("calls"), calls);
+        EXPECT_EQ(page.value("calls"), noted({Call{"showPage", shown}, Call{"addFuel"}}));
     }
 }
 
 TEST(PageScripts, noArgumentBreaksOutOfItsString)
 {
     ScriptEngine page(pageWithShowPage);
-    HostileTexts texts;
+    std::mt19937 engine(20'240'607);
     int arrived = 0;
     for (int i = 0; i < 1000; ++i) {
-        const auto argument = texts.next();
+        const auto argument = hostileText(engine);
         page.evaluate(forget);
         page.evaluate(PageScripts::showRouteAndCall("drives", "viewDriveDetail", argument));
 
@@ -121,13 +105,13 @@ TEST(PageScripts, noArgumentBreaksOutOfItsString)
 
 TEST(PageScripts, noRouteRunsAnythingButThePagesOwnFunction)
 {
-    HostileTexts texts;
+    std::mt19937 engine(20'240'607);
     int shown = 0;
     for (const auto* functions : {pageWithShowPage, barePage}) {
         ScriptEngine page(functions);
         for (int i = 0; i < 1000; ++i) {
             page.evaluate(forget);
-            page.evaluate(PageScripts::showRouteAndCall(texts.next(), "noFunction", "a"));
+            page.evaluate(PageScripts::showRouteAndCall(hostileText(engine), "noFunction", "a"));
             ASSERT_EQ(page.value("intruded"), Value(0));
             const bool hasRun = page.exception().empty();
             ASSERT_EQ(page.exception(), hasRun ? "" : "SyntaxError");

@@ -125,12 +125,3 @@ TEST_F(TabbedApp, movesATabInFrontOfItsTargetAndKeepsTheActiveOne)
         EXPECT_EQ(layout(), expected) << dragged << " to " << target;
     }
 }
-
-TEST_F(TabbedApp, keepsOnlyTheActiveTab)
-{
-    open("ABCD", 1);
-    app->closeTab(3);
-    app->keepOnlyActiveTab();
-    EXPECT_EQ(layout(), "[B]");
-    EXPECT_FALSE(app->canReopenTab()) << "those of somebody who has signed out";
-}

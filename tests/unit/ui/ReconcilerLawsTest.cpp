@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <map>
 #include <random>
 
 using namespace ui;
 
-// Two laws, tried on random trees. A failure names the seed that repeats it.
+// A law, tried on random trees. A failure names the seed that repeats it.
 
 namespace {
 
@@ -186,83 +185,6 @@ TEST(ReconcilerLaws, anyHistoryOfUpdatesEqualsAFreshBuild)
             auto& fresh = stage.show(viewOf(forest.root));
             ASSERT_EQ(looksOf(window), looksOf(fresh)) << "seed " << seed << ", step " << step;
             fresh.close();
-            stage.settle();
-        }
-    }
-}
-
-namespace {
-
-struct Token {
-    std::string key;
-    std::shared_ptr<std::map<std::string, std::function<void(int)>>> setters;
-    State<int> token = 0;
-
-    auto state() { return std::tie(token); }
-    View body() const
-    {
-        (*setters)[key] = token.setter();
-        return HStack{{}, Text(key + ":" + std::to_string(token())), Host{}};
-    }
-};
-
-// What is known of a key since it was last added.
-struct Trace {
-    int token;
-    const simulated::SimulatedWidget* widget;
-};
-
-} // namespace
-
-TEST(ReconcilerLaws, aWidgetFollowsItsKeyWithItsState)
-{
-    struct Row {
-        std::shared_ptr<Published<std::vector<std::string>>> keys;
-        std::shared_ptr<std::map<std::string, std::function<void(int)>>> setters;
-        View body() const
-        {
-            return VStack{{}, Fill(Color::clear),
-                ForEach((*keys)(), [](const auto& key) { return key; },
-                    [this](const auto& key) {
-                        return Token{key, setters};
-                    })};
-        }
-    };
-
-    for (unsigned seed = 1; seed <= seedCount; ++seed) {
-        Stage stage;
-        Random random(seed);
-        const auto keys = std::make_shared<Published<std::vector<std::string>>>();
-        const auto setters = std::make_shared<std::map<std::string, std::function<void(int)>>>();
-        auto& window = stage.show(Row{keys, setters});
-        std::map<std::string, Trace> traces;
-        int tokenCount = 0;
-
-        for (int step = 0; step < stepCount; ++step) {
-            SCOPED_TRACE("seed " + std::to_string(seed) + ", step " + std::to_string(step));
-            std::vector<std::string> next;
-            for (const char key : std::string("abcdefg")) {
-                const auto place = static_cast<std::ptrdiff_t>(below(random, next.size() + 1));
-                if (below(random, 3) > 0)
-                    next.insert(next.begin() + place, std::string(1, key));
-            }
-            *keys = next;
-            stage.settle();
-
-            const auto rows = window.content().findAll<StackNode>();
-            ASSERT_EQ(rows.size(), next.size() + 1);
-            std::map<std::string, Trace> newTraces;
-            for (std::size_t i = 0; i < next.size(); ++i) {
-                const auto& key = next[i];
-                const auto* widget = rows[i + 1];
-                const auto known = traces.find(key);
-                const int token = known == traces.end() ? 0 : known->second.token;
-                ASSERT_EQ(textsOf(*widget), key + ":" + std::to_string(token));
-                ASSERT_EQ(widget, known == traces.end() ? widget : known->second.widget);
-                newTraces[key] = {known == traces.end() ? ++tokenCount : token, widget};
-                setters->at(key)(newTraces[key].token);
-            }
-            traces = newTraces;
             stage.settle();
         }
     }

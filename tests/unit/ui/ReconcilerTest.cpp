@@ -100,6 +100,31 @@ TEST_F(Reconciler, keepsAPlaceByKindComponentKeyAndCount)
     }
 }
 
+TEST_F(Reconciler, aWidgetFollowsItsKeyWithItsState)
+{
+    const auto rows = [this](const std::vector<std::string>& keys) {
+        return HStack{{}, Fill(Color::clear),
+            ForEach(
+                keys, [](const auto& key) { return key; },
+                [this](const auto& key) {
+                    return Stateful{key, setters};
+                })};
+    };
+    change(rows({"a", "b", "c"}));
+    for (const auto* key : {"a", "b", "c"})
+        setters->at(key)(key);
+    settle();
+    const auto before = window.content().findAll<TextNode>();
+
+    change(rows({"c", "x", "a", "b"}));
+    EXPECT_EQ(textsOf(window.content()), "c=c x=new a=a b=b");
+    const auto after = window.content().findAll<TextNode>();
+    EXPECT_TRUE(after[0] == before[2] && after[2] == before[0] && after[3] == before[1]);
+    change(rows({"x"}));
+    change(rows({"a", "x"}));
+    EXPECT_EQ(textsOf(window.content()), "a=new x=new") << "what has gone is forgotten";
+}
+
 TEST_F(Reconciler, oneDescriptionInTwoPlacesHasAStateInEach)
 {
     const View both = Stateful{"a", setters};

@@ -75,6 +75,11 @@ TEST_F(NavigationPolicy, leavesForeignPagesAndCallsToTheSystem)
             << written;
         const bool isOpened = takeOpened() == std::vector{*action(delivered).requestURL};
         EXPECT_EQ(isOpened, navigation == AddressUse::withSystem) << written;
+
+        EXPECT_EQ(webView->uiDelegate.lock()->createWebView(*webView, action(delivered)), nullptr);
+        const auto loads = std::exchange(webView->loads, {});
+        EXPECT_EQ(loads.size(), newWindow == AddressUse::inTab ? 1u : 0u) << written;
+        EXPECT_EQ(takeOpened().size(), newWindow == AddressUse::withSystem ? 1u : 0u) << written;
     }
 }
 
@@ -88,18 +93,6 @@ TEST_F(NavigationPolicy, doesNotAskWhereADownloadComesFrom)
     EXPECT_EQ(decision({.requestURL = {}, .shouldPerformDownload = false}),
         WKNavigationActionPolicy::cancel);
     EXPECT_TRUE(takeOpened().empty());
-}
-
-TEST_F(NavigationPolicy, makesNoSecondViewForANewWindow)
-{
-    for (const auto& [written, navigation, newWindow, delivered] : navigationAddresses()) {
-        if (delivered.empty())
-            continue;
-        EXPECT_EQ(webView->uiDelegate.lock()->createWebView(*webView, action(delivered)), nullptr);
-        const auto loads = std::exchange(webView->loads, {});
-        EXPECT_EQ(loads.size(), newWindow == AddressUse::inTab ? 1u : 0u) << written;
-        EXPECT_EQ(takeOpened().size(), newWindow == AddressUse::withSystem ? 1u : 0u) << written;
-    }
 }
 
 TEST_F(NavigationPolicy, letsTheUserChooseFilesForThePage)

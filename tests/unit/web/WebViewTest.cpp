@@ -28,8 +28,9 @@ struct WebViews : Stage, testing::Test {
 
 } // namespace
 
-TEST_F(WebViews, areConfiguredForTheService)
+TEST_F(WebViews, areConfiguredForTheServiceAndLoadTheirStartAddressOnce)
 {
+    platform.mainBundle().infoDictionary["CFBundleShortVersionString"] = "2.3";
     const auto& webView = open();
     const auto& content = webView.configuration.userContentController;
     ASSERT_EQ(content.userScripts.size(), 2u);
@@ -46,24 +47,13 @@ TEST_F(WebViews, areConfiguredForTheService)
             "onboardingBridge", "notifyBridge", "logoutBridge", "tabBridge"}));
     EXPECT_EQ(webView.settings.usesOverlayScrollers, true);
     EXPECT_EQ(webView.settings.drawsBackground, false);
-    EXPECT_EQ(webView.settings.customUserAgent, velmaro::userAgentString());
-}
-
-TEST_F(WebViews, loadTheStartAddressOnceAndRevalidateIt)
-{
-    const auto& webView = open();
+    EXPECT_EQ(webView.settings.customUserAgent,
+        "Mozilla/5.0 (Macintosh; Intel Mac OS X) AppleWebKit/605.1.15 (KHTML, like Gecko) "
+        "VelmaroOnline/2.3 Safari/605.1.15");
     ASSERT_EQ(webView.loads.size(), 1u);
     EXPECT_EQ(webView.loads[0].url.absoluteString(), "https://velmaro.example/online#fuel");
     EXPECT_EQ(webView.loads[0].cachePolicy, URLRequest::CachePolicy::reloadRevalidatingCacheData);
     EXPECT_EQ(webView.loads[0].timeoutInterval, 60);
-}
-
-TEST_F(WebViews, nameTheVersionToTheService)
-{
-    platform.mainBundle().infoDictionary["CFBundleShortVersionString"] = "2.3";
-    EXPECT_EQ(velmaro::userAgentString(),
-        "Mozilla/5.0 (Macintosh; Intel Mac OS X) AppleWebKit/605.1.15 (KHTML, like Gecko) "
-        "VelmaroOnline/2.3 Safari/605.1.15");
 }
 
 TEST_F(WebViews, mirrorThePageInTheModelAfterTheEvent)
@@ -108,7 +98,7 @@ TEST_F(WebViews, tellNobodyOnceTheyHaveGone)
 
 TEST_F(WebViews, startAtTheirRouteElseAtTheWelcomePageOnce)
 {
-    EXPECT_EQ(startURL(WebModel("fuel")).absoluteString(), "https://velmaro.example/online#fuel");
+    startURL(WebModel("fuel"));
     EXPECT_FALSE(platform.userDefaults().contains("vl.onboarding.shown"));
     for (const std::optional<std::string>& route : {std::optional<std::string>(), {""}, {"a b"}}) {
         simulated::SimulatedPlatform fresh;
