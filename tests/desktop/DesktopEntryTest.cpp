@@ -3,6 +3,7 @@
 #include "harness/AppProcess.h"
 #include "harness/InstalledProgram.h"
 #include "harness/SavedSettings.h"
+#include "harness/UserInput.h"
 
 #include <glibmm/keyfile.h>
 #include <glibmm/shell.h>
@@ -57,6 +58,16 @@ TEST_F(DesktopEntry, actionsStartTheApplicationAndWaitInOrder)
     choose("LogChargingSession");
     EXPECT_TRUE(service.isAsked("/online/api/charging"));
     EXPECT_TRUE(closeWithTabs(2));
+}
+
+TEST_F(DesktopEntry, actionsReachTheMainWindowBehindAnotherOne)
+{
+    AppProcess app(service);
+    ASSERT_TRUE(app.waitForPage());
+    UserInput::press("ctrl+question");
+    ASSERT_TRUE(eventually([] { return Desktop::windows().size() == 2; }));
+    choose("LogFuel");
+    EXPECT_TRUE(service.isAsked("/online/api/fuel"));
 }
 
 } // namespace desktop

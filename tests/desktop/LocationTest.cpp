@@ -193,6 +193,19 @@ TEST_F(LocationTest, aRequestEndsWhateverGeoClueDoes)
     }
 }
 
+TEST_F(LocationTest, droppingTheManagerEndsTheRequest)
+{
+    FakeGeoClue geoClue(Manner::neverDecides);
+    settings.setBoolean(gtk::GtkLocationManager::permissionKey, true);
+    const auto services = makeServices();
+    auto manager = services->makeManager();
+    manager->requestLocation();
+    const auto isStarted = [](const auto& call) { return call.text().ends_with("Start()"); };
+    ASSERT_TRUE(until([&] { return std::ranges::any_of(geoClue.service().calls(), isStarted); }));
+    manager.reset();
+    EXPECT_TRUE(geoClue.service().isCalled("DeleteClient"));
+}
+
 TEST_F(LocationTest, theUserIsAskedOnceAndTheAnswerKept)
 {
     FakeGeoClue geoClue(Manner::grants);

@@ -42,6 +42,11 @@ TEST_F(TabStrip, isArrangedWithTheMouse)
     EXPECT_TRUE(app->loses("Drives"));
     ASSERT_TRUE(app->press("New Tab"));
     EXPECT_TRUE(app->shows("New tab"));
+
+    UserInput::press("ctrl+t", 10); // a fast hand, of which no key is lost
+    UserInput::press("ctrl+w", 10);
+    const auto tabs = [&] { return AccessibleObject::count(app->process().pid(), "tab"); };
+    EXPECT_TRUE(eventually([&] { return tabs() == 2; }));
     app->process().signal(SIGTERM);
     EXPECT_EQ(app->process().waitForExit(), 0);
     EXPECT_EQ(SavedSettings::read()["vl.open.routes"], nlohmann::json({"fuel", "newtab"}));
