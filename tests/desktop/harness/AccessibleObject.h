@@ -4,7 +4,8 @@
 
 #include <memory>
 
-typedef struct _GVariant GVariant; // of GLib, whose headers not every user of this one has
+// Of GLib, whose headers not every user of this one has.
+using GVariant = struct _GVariant; // NOLINT(bugprone-reserved-identifier)
 
 namespace desktop {
 

@@ -9,7 +9,8 @@
 #include <sys/types.h>
 #include <vector>
 
-typedef struct _GSubprocess GSubprocess; // of GLib, whose headers not every user of this one has
+// Of GLib, whose headers not every user of this one has.
+using GSubprocess = struct _GSubprocess; // NOLINT(bugprone-reserved-identifier)
 
 namespace desktop {
 
