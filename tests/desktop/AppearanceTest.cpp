@@ -73,13 +73,13 @@ TEST(Appearance, followsTheDesktopAndIsKnownAtTheNextStart)
         EXPECT_TRUE(eventually([&] { return stripLightness(*window) != usual; }));
         portal.change("color-scheme", dark);
         ASSERT_TRUE(comesToLookDark(*window, true));
+        EXPECT_TRUE(app.waitForPage()); // a page that is still being started complains of the end
         window->close();
         EXPECT_TRUE(app.process().waitForExit());
     }
     AppProcess app(service); // with no portal at all
-    const auto window = app.waitForWindow();
-    ASSERT_TRUE(window);
-    EXPECT_TRUE(comesToLookDark(*window, true));
+    ASSERT_TRUE(app.waitForPage());
+    EXPECT_TRUE(comesToLookDark(*app.waitForWindow(), true));
 }
 
 } // namespace desktop
