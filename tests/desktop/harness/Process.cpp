@@ -77,7 +77,8 @@ Process::Process(const std::vector<std::string>& arguments, const Environment& c
     subprocess_ = g_subprocess_launcher_spawnv(launcher, texts.data(), nullptr);
     if (!subprocess_)
         throw std::runtime_error("cannot start " + arguments.front());
-    pid_ = std::atoi(g_subprocess_get_identifier(subprocess_));
+    if (const char* identifier = g_subprocess_get_identifier(subprocess_)) // not when it has ended
+        pid_ = std::atoi(identifier);
 }
 
 Process::~Process()
