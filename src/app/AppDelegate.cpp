@@ -38,7 +38,7 @@ void AppDelegate::applicationWillFinishLaunching(NSApplication&)
 
 void AppDelegate::applicationDidFinishLaunching(NSApplication&)
 {
-    NotificationCenterBridge::shared(); // a click on a notification of an earlier run waits for it
+    NotificationCenterBridge::shared(); // from here on it receives clicks, also of earlier runs
     DispatchQueue::main().asyncAfter(duplicateWindowSweepDelay, closeDuplicateWindows);
 }
 

@@ -10,7 +10,7 @@
 namespace velmaro {
 
 // The place of one tab's web view among the declared views. The web view is built when the tab is
-// first shown.
+// first shown or loaded ahead.
 struct WebView {
     using Coordinator = velmaro::Coordinator;
     using NSViewType = platform::WKWebView;

@@ -27,8 +27,7 @@ std::vector<Glib::RefPtr<Gio::AppInfo>> programsFor(const Gio::File& file)
     return programs;
 }
 
-// For file managers the one, which also tells that the files are not to be moved; for all other
-// programs the list.
+// Two formats: GNOME's copied-files marks a copy for file managers, the file list serves the rest.
 GdkContentProvider* clipboardContent(const std::vector<Glib::RefPtr<Gio::File>>& files)
 {
     std::string command = "copy";
